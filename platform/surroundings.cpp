@@ -1,0 +1,10 @@
+#include "platform/surroundings.h"
+
+namespace qvzj {
+
+Surroundings& Around() {
+  static Surroundings surroundings;
+  return surroundings;
+}
+
+}  // namespace qvzj

@@ -1,0 +1,134 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/ui/control.h"
+#include "platform/ui/grid.h"
+#include "platform/ui/key.h"
+#include "platform/ui/widgets.h"
+
+namespace qvzj::ui {
+
+class Form;
+
+/// A front end's view of a form: it is told what changed and mirrors it.
+class FormObserver {
+ public:
+  virtual ~FormObserver() = default;
+  virtual void ControlChanged(Control& control, Aspect aspect) = 0;
+  virtual void FormChanged(Form& form, Aspect aspect) = 0;
+  /// The form wants `menu` popped up at a place in form coordinates (twips).
+  virtual void PopUpMenu(Form& form, MenuItem& menu, int32_t left, int32_t top) = 0;
+};
+
+enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
+enum class MousePointer { Default = 0, Hourglass = 11 };
+
+/// A screen: its controls by name, the focus, and the one door through which the user's acts come
+/// in. Every User… call runs behind the guard: an error that escapes the behaviour goes to
+/// `onError` and never to the caller. A call answers false when the act was not possible (control
+/// hidden, disabled or absent from the screen) or was stopped by a field that failed validation.
+class Form {
+ public:
+  explicit Form(std::string name) : name_(std::move(name)) {}
+  virtual ~Form() = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& Name() const { return name_; }
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string caption);
+  /// Inner size in twips.
+  int32_t Width() const { return width_; }
+  int32_t Height() const { return height_; }
+  WindowState GetWindowState() const { return window_state_; }
+  MousePointer GetMousePointer() const { return mouse_pointer_; }
+  void SetMousePointer(MousePointer pointer);
+
+  /// All controls in the order of their creation (containers before what they hold).
+  const std::vector<Control*>& Controls() const { return controls_; }
+  /// The control of that name and index (-1: single); null when there is none.
+  Control* Find(std::string_view name, int index = -1) const;
+  /// The control of a full name such as "cmdAction(1)"; null when there is none.
+  Control* FindFullName(std::string_view full_name) const;
+
+  void AddObserver(FormObserver* observer);
+  void RemoveObserver(FormObserver* observer);
+
+  /// The control that has the focus; null when none has.
+  Control* Focused() const { return focused_; }
+  /// The program moves the focus: nothing is validated; ignored when the control cannot take it.
+  void SetFocus(Control& control);
+  /// Moves the focus as the Tab key does: validates the field that is left, goes to the next
+  /// control in tab order, around at the end.
+  bool SendTab(bool backwards = false);
+  /// Asks the front end to pop up a menu.
+  void PopUp(MenuItem& menu, int32_t left, int32_t top);
+  /// Closes the form: raises onUnload once.
+  void Unload();
+  bool Loaded() const { return loaded_; }
+  void SetLoaded(bool loaded) { loaded_ = loaded; }
+
+  // What the user does.
+  bool UserFocus(Control& control);
+  /// A click: on a button, check box, option, menu entry or list. Takes the focus first.
+  bool UserClick(Control& control);
+  /// The mouse goes down on a button at x, y (twips inside it): focus, onMouseDown, then onClick.
+  bool UserPress(Button& button, int32_t x, int32_t y);
+  bool UserDoubleClick(Control& control);
+  /// Sends one key to the focused control; see form_keys.cpp for what each key does.
+  bool UserKey(const Key& key);
+  /// The user replaces the selection of a text or editable combo box (an input method's commit,
+  /// or a native edit that a front end reports).
+  bool UserInsert(Control& control, std::string_view text);
+  /// A native editor changed the whole text to `text` with the caret at `caret`: the change is
+  /// found, run through the same filters as typing, and the result mirrored back.
+  bool UserEdited(Control& control, std::string_view text, int32_t caret);
+  /// The user moved the selection inside a text box.
+  void UserSelect(Control& control, int32_t start, int32_t length);
+  bool UserChoose(ComboBox& combo, int32_t index);
+  bool UserChoose(ListBox& list, int32_t index);
+  bool UserTab(Tabs& tabs, int tab);
+  bool UserDate(DatePicker& picker, basic::Date date);
+  /// The user moves the active cell of a grid.
+  bool UserCell(Grid& grid, int32_t column, int32_t row);
+  bool UserHeader(Grid& grid, int32_t column);
+  bool UserCellDoubleClick(Grid& grid, int32_t column, int32_t row);
+  bool UserRowHeight(Grid& grid, int32_t first, int32_t last, int32_t height);
+  bool UserResize(int32_t width, int32_t height, WindowState state);
+  /// The window's close button or the host closes the form; works whatever field has the focus.
+  void UserClose();
+
+  /// Runs `act` behind the guard. False when an error escaped and was reported.
+  bool Guard(const std::function<void()>& act);
+
+  /// An error escaped a user's act or the load; the text is the engine's or the module's.
+  std::function<void(const std::string& text)> onError;
+  std::function<void()> onResize;
+  std::function<void()> onUnload;
+  /// Clipboard access for Ctrl+C, Ctrl+X and Ctrl+V in text boxes.
+  std::function<std::string()> readClipboard;
+  std::function<void(const std::string&)> writeClipboard;
+
+ private:
+  friend class Control;
+  void Join(Control& control);
+  void Notify(Control& control, Aspect aspect);
+  void Notify(Aspect aspect);
+
+  std::string name_;
+  std::string caption_;
+  int32_t width_ = 0;
+  int32_t height_ = 0;
+  WindowState window_state_ = WindowState::Normal;
+  MousePointer mouse_pointer_ = MousePointer::Default;
+  std::vector<Control*> controls_;
+  std::vector<FormObserver*> observers_;
+  Control* focused_ = nullptr;
+  bool loaded_ = false;
+};
+
+}  // namespace qvzj::ui

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+
+namespace qvzj::ui {
+
+/// Place and size of a control in twips (1/1440 inch; 15 twips are one pixel at 96 dpi), in the
+/// inner coordinates of its container.
+struct Bounds {
+  int32_t left = 0;
+  int32_t top = 0;
+  int32_t width = 0;
+  int32_t height = 0;
+
+  friend bool operator==(const Bounds&, const Bounds&) = default;
+};
+
+}  // namespace qvzj::ui

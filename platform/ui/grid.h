@@ -1,0 +1,125 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/basic/column.h"
+#include "platform/ui/control.h"
+
+namespace qvzj::ui {
+
+enum class SortOrder : uint8_t { None = 0, Ascending = 1, Descending = 2 };
+
+/// Makes sort keys so that texts order as their reader expects (Chinese by pinyin or stroke).
+class TextOrder {
+ public:
+  virtual ~TextOrder() = default;
+  /// Bytes whose plain comparison is the order of the texts.
+  virtual std::string SortKey(std::string_view text) const = 0;
+};
+
+/// A spreadsheet-like list that holds a million rows. Columns and rows are 1-based; row 0 is the
+/// header. Cells live in packed columns; sorting permutes the rows without moving a cell. Whoever
+/// fills it hides it first and shows it afterwards.
+class Grid : public Control {
+ public:
+  Grid(Form& form, std::string name, int index = -1, Control* container = nullptr, int page = -1)
+      : Control(form, Kind::Grid, std::move(name), index, container, page) {}
+
+  int32_t ColumnCount() const { return static_cast<int32_t>(columns_.size()); }
+  /// New columns are empty and visible.
+  void SetColumnCount(int32_t count);
+  int32_t RowCount() const { return row_count_; }
+  /// New rows are empty. Setting the count forgets the sorted order's permutation, the row
+  /// colours of rows beyond it, and moves the active row into range (0 when there are none).
+  void SetRowCount(int32_t count);
+
+  const std::string& Header(int32_t column) const;
+  void SetHeader(int32_t column, std::string text);
+  bool ColumnHidden(int32_t column) const;
+  void SetColumnHidden(int32_t column, bool hidden);
+  /// Width in twips that the form designed; a front end may let the user change what it shows.
+  int32_t ColumnWidth(int32_t column) const;
+  void SetColumnWidth(int32_t column, int32_t twips);
+  /// Shows numbers of the column with that many decimals, right-aligned; -1 = as they are.
+  int ColumnDecimals(int32_t column) const;
+  void SetColumnDecimals(int32_t column, int decimals);
+
+  /// The shown text; row 0 is the header.
+  std::string CellText(int32_t column, int32_t row) const;
+  bool CellEmpty(int32_t column, int32_t row) const;
+  /// The value itself, not the shown text: numbers as kept, texts by their leading number, empty
+  /// cells 0.
+  double CellNumber(int32_t column, int32_t row) const;
+  void SetCellText(int32_t column, int32_t row, std::string_view text);
+  void SetCellNumber(int32_t column, int32_t row, double value);
+  /// Takes a whole column over; its length must be the row count. Null cells are empty.
+  void TakeColumn(int32_t column, basic::Column&& values);
+  /// Turns every number of the column into its negation; empty cells stay empty.
+  void NegateColumn(int32_t column);
+  /// The packed values in the order in which they were filled (not the sorted one).
+  const basic::Column& Stored(int32_t column) const;
+  /// 0-based place in Stored() of a 1-based shown row.
+  size_t StoredRow(int32_t row) const;
+
+  /// Back colour of a row as 0xRRGGBB; it moves with the row when the grid is sorted.
+  std::optional<uint32_t> RowColor(int32_t row) const;
+  void SetRowColor(int32_t row, uint32_t rgb);
+
+  int32_t SortColumn() const { return sort_column_; }
+  SortOrder GetSortOrder() const { return sort_order_; }
+  /// Sets the first sort key without sorting.
+  void SetSortKey(int32_t column, SortOrder order);
+  /// Orders the rows by the sort key; equal keys keep their order. Numbers and dates order by
+  /// value, texts by `order` (null: by their bytes), empty cells before all others. The active
+  /// cell keeps its place on the screen.
+  void Sort(const TextOrder* order);
+
+  int32_t ActiveColumn() const { return active_column_; }
+  int32_t ActiveRow() const { return active_row_; }
+  /// Makes a cell the active one; no event.
+  void SetActive(int32_t column, int32_t row);
+  /// Height of every row in twips.
+  int32_t RowHeight() const { return row_height_; }
+  void SetRowHeight(int32_t twips);
+
+  size_t MemoryBytes() const;
+
+  /// A cell or, with row 0, a header was clicked.
+  std::function<void(int32_t column, int32_t row)> onClick;
+  std::function<void(int32_t column, int32_t row)> onDblClick;
+  /// The user moves the active cell; raised before it moves. `cancel` keeps it where it is.
+  std::function<void(int32_t column, int32_t row, int32_t new_column, int32_t new_row,
+                     bool& cancel)>
+      onLeaveCell;
+  /// The user changed the height (twips) of the rows from first to last.
+  std::function<void(int32_t first, int32_t last, int32_t height)> onRowHeight;
+
+ private:
+  struct ColumnInfo {
+    basic::Column cells;
+    std::string header;
+    int32_t width = 1200;
+    int decimals = -1;
+    bool hidden = false;
+  };
+
+  ColumnInfo& Info(int32_t column);
+  const ColumnInfo& Info(int32_t column) const;
+
+  std::vector<ColumnInfo> columns_;
+  int32_t row_count_ = 0;
+  basic::Buffer<uint32_t> order_;       // shown row - 1 -> stored row; empty = unsorted
+  basic::Buffer<uint8_t> row_palette_;  // by stored row: index into palette_ + 1, 0 = none
+  std::vector<uint32_t> palette_;
+  int32_t sort_column_ = 0;
+  SortOrder sort_order_ = SortOrder::None;
+  int32_t active_column_ = 1;
+  int32_t active_row_ = 0;
+  int32_t row_height_ = 300;
+};
+
+}  // namespace qvzj::ui

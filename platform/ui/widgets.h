@@ -1,0 +1,253 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/basic/date.h"
+#include "platform/ui/control.h"
+
+/// The plain controls of a form. Every setter is the program's own act and raises no event; the
+/// `on…` members are what the user's acts raise.
+namespace qvzj::ui {
+
+class Label : public Control {
+ public:
+  Label(Form& form, std::string name, int index = -1, Control* container = nullptr, int page = -1)
+      : Control(form, Kind::Label, std::move(name), index, container, page) {}
+};
+
+class Button : public Control {
+ public:
+  Button(Form& form, std::string name, int index = -1, Control* container = nullptr, int page = -1)
+      : Control(form, Kind::Button, std::move(name), index, container, page) {}
+
+  std::function<void()> onClick;
+  /// The mouse went down on the button at x, y (twips inside it). A keyboard press of a button
+  /// that has only this event raises it at 0, 0.
+  std::function<void(int32_t x, int32_t y)> onMouseDown;
+};
+
+/// A frame or panel that holds other controls.
+class Frame : public Control {
+ public:
+  Frame(Form& form, std::string name, int index = -1, Control* container = nullptr, int page = -1)
+      : Control(form, Kind::Frame, std::move(name), index, container, page) {}
+};
+
+/// One line of text, or several when multi-line. Selection and lengths count characters.
+class TextBox : public Control {
+ public:
+  TextBox(Form& form, std::string name, int index = -1, Control* container = nullptr,
+          int page = -1)
+      : Control(form, Kind::TextBox, std::move(name), index, container, page) {}
+
+  const std::string& Text() const { return text_; }
+  /// Puts a text in, the selection to its start; the text becomes the last valid one (Esc).
+  void SetText(std::string text);
+  bool Locked() const { return locked_; }
+  void SetLocked(bool locked);
+  bool MultiLine() const { return multi_line_; }
+  void SetMultiLine(bool multi_line) { multi_line_ = multi_line; }
+  /// Right-aligned, for amounts.
+  bool RightAligned() const { return right_aligned_; }
+  void SetRightAligned(bool right) { right_aligned_ = right; }
+  /// Most bytes of the Chinese code page that the user may put in; 0 = no limit. Kept by the
+  /// behaviour through `onEdit`.
+  int16_t MaxLength() const { return max_length_; }
+  void SetMaxLength(int16_t bytes) { max_length_ = bytes; }
+
+  int32_t SelStart() const { return sel_start_; }
+  int32_t SelLength() const { return sel_length_; }
+  void Select(int32_t start, int32_t length);
+  void SelectAll();
+
+  /// What the user is about to insert at the selection by typing, pasting or an input method;
+  /// the handler may shorten or empty it. Raised after onKeyPress let the key through.
+  std::function<void(std::string& inserted)> onEdit;
+  /// The user changed the text.
+  std::function<void()> onChange;
+
+ private:
+  friend class Form;
+  void UserReplaceSelection(std::string inserted);
+  void UserRevert();
+
+  std::string text_;
+  std::string valid_text_;  // what Esc restores
+  int32_t sel_start_ = 0;
+  int32_t sel_length_ = 0;
+  int16_t max_length_ = 0;
+  bool locked_ = false;
+  bool multi_line_ = false;
+  bool right_aligned_ = false;
+};
+
+/// A list of texts that drops down; an editable one also takes a text of its own.
+class ComboBox : public Control {
+ public:
+  ComboBox(Form& form, std::string name, int index = -1, Control* container = nullptr,
+           int page = -1)
+      : Control(form, Kind::ComboBox, std::move(name), index, container, page) {}
+
+  const std::vector<std::string>& Items() const { return items_; }
+  void Clear();
+  void AddItem(std::string item);
+  /// Replaces the whole list at once.
+  void SetItems(std::vector<std::string> items);
+  /// Index of the chosen item, -1 when none.
+  int32_t ListIndex() const { return list_index_; }
+  /// Chooses an item (or none, -1); the text follows.
+  void SetListIndex(int32_t index);
+  /// The chosen item, or the text typed into an editable box.
+  const std::string& Text() const { return text_; }
+  /// Shows a text; the item that equals it is chosen, none when there is none. Also a list-only
+  /// box can show a text of an older record that is not in its list any more.
+  void SetText(std::string text);
+  bool Editable() const { return editable_; }
+  void SetEditable(bool editable) { editable_ = editable; }
+  bool Locked() const { return locked_; }
+  void SetLocked(bool locked);
+  /// The user may clear the choice (Delete or Backspace in the box).
+  bool Clearable() const { return clearable_; }
+  void SetClearable(bool clearable) { clearable_ = clearable; }
+  /// Characters of an item that are shown; what lies behind is hidden storage. 0 = all.
+  int32_t ShownLength() const { return shown_length_; }
+  void SetShownLength(int32_t characters) { shown_length_ = characters; }
+  /// An item or text as the user sees it: cut to ShownLength, without trailing blanks.
+  std::string Shown(const std::string& text) const;
+  /// Most bytes of the Chinese code page in an editable box; 0 = no limit.
+  int16_t MaxLength() const { return max_length_; }
+  void SetMaxLength(int16_t bytes) { max_length_ = bytes; }
+  int32_t SelStart() const { return sel_start_; }
+  int32_t SelLength() const { return sel_length_; }
+  void Select(int32_t start, int32_t length);
+
+  /// The user chose an item or cleared the choice.
+  std::function<void()> onClick;
+  /// As TextBox::onEdit, for an editable box.
+  std::function<void(std::string& inserted)> onEdit;
+  /// The user changed the text of an editable box.
+  std::function<void()> onChange;
+
+ private:
+  friend class Form;
+  void UserReplaceSelection(std::string inserted);
+
+  std::vector<std::string> items_;
+  std::string text_;
+  int32_t list_index_ = -1;
+  int32_t shown_length_ = 0;
+  int32_t sel_start_ = 0;
+  int32_t sel_length_ = 0;
+  int16_t max_length_ = 0;
+  bool editable_ = false;
+  bool locked_ = false;
+  bool clearable_ = false;
+};
+
+class ListBox : public Control {
+ public:
+  ListBox(Form& form, std::string name, int index = -1, Control* container = nullptr,
+          int page = -1)
+      : Control(form, Kind::ListBox, std::move(name), index, container, page) {}
+
+  const std::vector<std::string>& Items() const { return items_; }
+  void SetItems(std::vector<std::string> items);
+  int32_t ListIndex() const { return list_index_; }
+  void SetListIndex(int32_t index);
+  /// The selected item, "" when none.
+  std::string Text() const;
+
+  std::function<void()> onClick;
+  std::function<void()> onDblClick;
+
+ private:
+  std::vector<std::string> items_;
+  int32_t list_index_ = -1;
+};
+
+/// 0 = clear, 1 = ticked, 2 = greyed.
+class CheckBox : public Control {
+ public:
+  CheckBox(Form& form, std::string name, int index = -1, Control* container = nullptr,
+           int page = -1)
+      : Control(form, Kind::CheckBox, std::move(name), index, container, page) {}
+
+  int Value() const { return value_; }
+  void SetValue(int value);
+  bool Ticked() const { return value_ == 1; }
+
+  std::function<void()> onClick;
+
+ private:
+  int value_ = 0;
+};
+
+/// One of several choices; the options of one array in one container exclude each other.
+class OptionButton : public Control {
+ public:
+  OptionButton(Form& form, std::string name, int index = -1, Control* container = nullptr,
+               int page = -1)
+      : Control(form, Kind::OptionButton, std::move(name), index, container, page) {}
+
+  bool Selected() const { return selected_; }
+  /// Selects this option and clears the others of its array.
+  void Select();
+
+  std::function<void()> onClick;
+
+ private:
+  bool selected_ = false;
+};
+
+/// A strip of tabs; controls created with it as container and a page lie on that page.
+class Tabs : public Control {
+ public:
+  Tabs(Form& form, std::string name, int count, Control* container = nullptr)
+      : Control(form, Kind::Tabs, std::move(name), -1, container),
+        captions_(static_cast<size_t>(count)) {}
+
+  int Count() const { return static_cast<int>(captions_.size()); }
+  const std::string& TabCaption(int tab) const { return captions_[static_cast<size_t>(tab)]; }
+  void SetTabCaption(int tab, std::string caption);
+  /// Index of the tab in front.
+  int Tab() const { return tab_; }
+  void SetTab(int tab);
+
+  /// The user clicked another tab; `previous` was in front before.
+  std::function<void(int previous)> onClick;
+
+ private:
+  std::vector<std::string> captions_;
+  int tab_ = 0;
+};
+
+class DatePicker : public Control {
+ public:
+  DatePicker(Form& form, std::string name, int index = -1, Control* container = nullptr,
+             int page = -1)
+      : Control(form, Kind::DatePicker, std::move(name), index, container, page) {}
+
+  basic::Date Value() const { return value_; }
+  void SetValue(basic::Date value);
+
+  /// The user changed the date.
+  std::function<void()> onChange;
+
+ private:
+  basic::Date value_;
+};
+
+/// A menu entry; one with children is a menu. A caption of "-" is a separator.
+class MenuItem : public Control {
+ public:
+  MenuItem(Form& form, std::string name, int index = -1, Control* container = nullptr,
+           int page = -1)
+      : Control(form, Kind::Menu, std::move(name), index, container, page) {}
+
+  std::function<void()> onClick;
+};
+
+}  // namespace qvzj::ui

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/data/connection.h"
+
+namespace qvzj {
+
+/// Makes sure that `cnData` is open. True only when this call opened it: false also when it was
+/// open already, or when it could not be opened. Throws OverflowError when SQLData does not fit a
+/// byte.
+bool OpenData();
+/// The shared connection object, created closed when there is none.
+data::Connection& Data();
+/// Closes the shared connection if it is open and releases it.
+void CloseData();
+/// `path` without one trailing "\".
+std::string StripSlash(const std::string& path);
+
+}  // namespace qvzj

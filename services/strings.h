@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace qvzj {
+
+/// Text `id` of the string table in the current language: simplified under the id itself,
+/// traditional under id + 10000. Throws OverflowError when Language * 10000 + id leaves 16 bits
+/// and ResourceNotFoundError when the table has no such text.
+std::string LoadText(int16_t id);
+
+}  // namespace qvzj
