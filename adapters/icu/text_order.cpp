@@ -1,0 +1,63 @@
+#include "adapters/icu/text_order.h"
+
+#include <unicode/ucol.h>
+#include <unicode/ustring.h>
+
+#include "platform/basic/errors.h"
+
+namespace qvzj {
+namespace {
+
+void Check(UErrorCode status) {
+  if (U_FAILURE(status)) throw Error(std::string("text order: ") + u_errorName(status));
+}
+
+}  // namespace
+
+void IcuTextOrder::Closer::operator()(UCollator* collator) const { ucol_close(collator); }
+
+IcuTextOrder::IcuTextOrder(const char* locale) {
+  UErrorCode status = U_ZERO_ERROR;
+  collator_.reset(ucol_open(locale, &status));
+  Check(status);
+  ucol_setStrength(collator_.get(), UCOL_SECONDARY);  // the third level is case
+}
+
+IcuTextOrder::IcuTextOrder(IcuTextOrder&&) noexcept = default;
+IcuTextOrder::~IcuTextOrder() = default;
+
+IcuTextOrder IcuTextOrder::Pinyin() { return IcuTextOrder("zh-u-co-pinyin"); }
+IcuTextOrder IcuTextOrder::Stroke() { return IcuTextOrder("zh-Hant-u-co-stroke"); }
+
+std::string IcuTextOrder::SortKey(std::string_view text) const {
+  std::u16string wide(text.size(), u'\0');
+  UErrorCode status = U_ZERO_ERROR;
+  int32_t length = 0;
+  u_strFromUTF8WithSub(wide.data(), static_cast<int32_t>(wide.size()), &length, text.data(),
+                       static_cast<int32_t>(text.size()), 0xFFFD, nullptr, &status);
+  Check(status);
+  std::string key(wide.size() * 4 + 16, '\0');
+  const auto room = [&key] { return static_cast<int32_t>(key.size()); };
+  const auto fill = [&] {
+    return ucol_getSortKey(collator_.get(), wide.data(), length,
+                           reinterpret_cast<uint8_t*>(key.data()), room());
+  };
+  int32_t needed = fill();
+  if (needed > room()) {
+    key.resize(static_cast<size_t>(needed));
+    needed = fill();
+  }
+  key.resize(static_cast<size_t>(needed > 0 ? needed - 1 : 0));  // without the closing zero
+  return key;
+}
+
+int IcuTextOrder::Compare(std::string_view a, std::string_view b) const {
+  UErrorCode status = U_ZERO_ERROR;
+  const int order =
+      ucol_strcollUTF8(collator_.get(), a.data(), static_cast<int32_t>(a.size()), b.data(),
+                       static_cast<int32_t>(b.size()), &status);
+  Check(status);
+  return order;
+}
+
+}  // namespace qvzj

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/ui/grid.h"
+
+struct UCollator;
+
+namespace qvzj {
+
+/// Chinese order of texts through ICU; ASCII case does not count.
+class IcuTextOrder : public ui::TextOrder {
+ public:
+  /// By pinyin, as simplified Chinese readers expect. Throws Error when ICU lacks the order.
+  static IcuTextOrder Pinyin();
+  /// By number of strokes, as traditional Chinese readers expect.
+  static IcuTextOrder Stroke();
+  IcuTextOrder(IcuTextOrder&&) noexcept;
+  ~IcuTextOrder() override;
+
+  std::string SortKey(std::string_view text) const override;
+  /// Negative, 0 or positive as `a` comes before, with or after `b`; agrees with SortKey.
+  int Compare(std::string_view a, std::string_view b) const;
+
+ private:
+  explicit IcuTextOrder(const char* locale);
+
+  struct Closer {
+    void operator()(UCollator* collator) const;
+  };
+  std::unique_ptr<UCollator, Closer> collator_;
+};
+
+}  // namespace qvzj
