@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/basic/text.h"
+#include "platform/ui/form.h"
 
 namespace qvzj {
 namespace {
