@@ -22,12 +22,13 @@ std::string LikePattern(const std::string& text);
 bool NoQuote(const std::string& text);
 /// The text cut to `max` bytes of the Chinese code page; says so under `label` when it cuts and
 /// the label is not empty.
-std::string FitLength(std::string& text, int16_t max, const std::string& label);
+std::string FitLength(const std::string& text, int16_t max, const std::string& label);
 /// Bytes of the text in the Chinese code page.
 int32_t ByteLen(const std::string& text);
 /// Keeps a text field within `max` bytes on a key press: sets `key` to 0 after a message when the
 /// character typed, or the clipboard's text for Ctrl+V, does not fit any more. `numeric` also
-/// drops every key that cannot belong to a number (digits, one point, a leading minus).
+/// drops every key that cannot belong to a number (digits, one point, a leading minus). With `max`
+/// 0, and for control keys other than Ctrl+V, it does nothing.
 void LimitKeys(const ui::TextBox& box, int& key, int16_t max, bool numeric = false);
 /// Cuts `inserted` so that a field of `max` bytes (0 = no limit) whose text is `text` with
 /// `selected` being replaced holds it; says so when it had to cut. For what no key press announces
