@@ -1,0 +1,88 @@
+#include "tests/architecture/arrows.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+namespace qvzj::architecture {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Paths of all sources below the top directories that the rules speak about, from the root.
+std::vector<std::string> Sources() {
+  const fs::path root = QV_SOURCE_DIR;
+  std::set<std::string> tops;
+  for (const Rule& rule : Rules()) {
+    tops.emplace(rule.directory.substr(0, rule.directory.find('/')));
+  }
+  std::vector<std::string> sources;
+  for (const std::string& top : tops) {
+    if (!fs::is_directory(root / top)) continue;
+    for (const auto& entry : fs::recursive_directory_iterator(root / top)) {
+      const fs::path& path = entry.path();
+      if (path.extension() != ".h" && path.extension() != ".cpp") continue;
+      sources.push_back(fs::relative(path, root).generic_string());
+    }
+  }
+  return sources;
+}
+
+TEST(Arrows, EveryIncludeOfTheTreeIsAllowed) {
+  const std::vector<std::string> sources = Sources();
+  ASSERT_GT(sources.size(), 50u) << "the tree was not found at " << QV_SOURCE_DIR;
+  for (const std::string& file : sources) {
+    std::ifstream in(fs::path(QV_SOURCE_DIR) / file);
+    int number = 0;
+    for (std::string line; std::getline(in, line);) {
+      ++number;
+      EXPECT_EQ(Fault(file, line), "") << "line " << number;
+    }
+  }
+}
+
+TEST(Arrows, EveryDirectoryWithSourcesHasARule) {
+  for (const std::string& file : Sources()) {
+    if (file.ends_with("/main.cpp")) continue;
+    EXPECT_NE(RuleOf(file), nullptr) << file;
+  }
+}
+
+TEST(Arrows, AnArrowAgainstTheDrawingIsAFault) {
+  EXPECT_NE(Fault("ledger/query.cpp", "#include \"register/list.h\""), "");
+  EXPECT_NE(Fault("platform/basic/text.cpp", "#include \"platform/services.h\""), "");
+  EXPECT_NE(Fault("control/refresh.cpp", "#include \"adapters/sqlite/sqlite_session.h\""), "");
+}
+
+TEST(Arrows, AnArrowOfTheDrawingIsNone) {
+  EXPECT_EQ(Fault("register/list.cpp", "#include \"ledger/query.h\""), "");
+  EXPECT_EQ(Fault("ledger/query.cpp", "#include \"ledger/query.h\""), "");
+  EXPECT_EQ(Fault("services/query.cpp", "#include \"platform/basic/text.h\""), "");
+}
+
+TEST(Arrows, AnInnerPlatformDirectoryDoesNotSeeTheOuterOne) {
+  EXPECT_NE(Fault("platform/ui/form.cpp", "#include \"platform/boxes.h\""), "");
+  EXPECT_NE(Fault("platform/ui/form.cpp", "#include \"platform/data/recordset.h\""), "");
+}
+
+TEST(Arrows, TheCoreMayNotIncludeALibrary) {
+  EXPECT_NE(Fault("ledger/query.cpp", "#include <sqlite3.h>"), "");
+  EXPECT_NE(Fault("forms/startup.cpp", "#include <QWidget>"), "");
+  EXPECT_NE(Fault("services/query.cpp", "#  include <windows.h>"), "");
+  EXPECT_EQ(Fault("services/query.cpp", "#include <string_view>"), "");
+}
+
+TEST(Arrows, ALibraryIsKnownOnlyToTheAdapterThatBindsIt) {
+  EXPECT_EQ(Fault("adapters/sqlite/sqlite_session.cpp", "#include <sqlite3.h>"), "");
+  EXPECT_NE(Fault("suite/schema.cpp", "#include <sqlite3.h>"), "");
+  EXPECT_EQ(Fault("frontends/qt/mirror.cpp", "#include <QWidget>"), "");
+}
+
+TEST(Arrows, AHeaderOfTheCoreIsNamedByItsPathFromTheRoot) {
+  EXPECT_NE(Fault("ledger/query.cpp", "#include \"query.h\""), "");
+}
+
+}  // namespace
+}  // namespace qvzj::architecture
