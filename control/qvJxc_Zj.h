@@ -58,7 +58,11 @@ class qvJxc_Zj {
   frmZj* Form() const;
 
  private:
+  void Open(int16_t run_mode, int16_t show_mode);
+  void ShowForm(int16_t run_mode);
+
   std::unique_ptr<frmZj> form_;
+  std::unique_ptr<frmZj> closed_form_;
 };
 
 }  // namespace qvzj

@@ -1,0 +1,128 @@
+#include "control/qvJxc_Zj.h"
+
+#include <exception>
+
+#include "forms/startup.h"
+#include "platform/basic/number.h"
+#include "platform/basic/text.h"
+#include "platform/surroundings.h"
+#include "services/connect.h"
+#include "services/context.h"
+#include "services/messages.h"
+#include "services/query.h"
+#include "services/strings.h"
+
+namespace qvzj {
+namespace {
+
+constexpr int32_t kModuleDigit = 11;  // this module's place in the module-rights string
+
+bool MayOpen() { return basic::Val(basic::Mid(Shared().myModel, kModuleDigit, 1)) != 0; }
+
+// A user's own data location, set by the suite's task component, wins over the host's where
+// something is there.
+void TakePathOfUser() {
+  const std::string path = Around().settings->Get("tessary", "qvTask", "DataPath", "");
+  if (!path.empty() && Around().files->AnyNormalFile(path)) Shared().UserPath = path;
+}
+
+// Opens the data and proves that the ledger table is there.
+bool LedgerIsThere() {
+  OpenData();
+  return CountRows("tAccountDetail", "1=2") != -1;
+}
+
+// The data path as a message may show it: a password within a server's details is left out.
+std::string ShownPath(const std::string& path) {
+  std::string shown = path;
+  const std::string lower = basic::Lower(path);
+  for (const char* key : {"pwd=", "password="}) {
+    const size_t place = lower.find(key);
+    if (place == std::string::npos) continue;
+    const size_t start = place + std::string_view(key).size();
+    const bool braced = start < path.size() && path[start] == '{';
+    const size_t end = braced ? path.find('}', start) : path.find(';', start);
+    return shown.replace(start, end == std::string::npos ? end : end - start + braced, "***");
+  }
+  return shown;
+}
+
+}  // namespace
+
+qvJxc_Zj::~qvJxc_Zj() {
+  if (Form()) form_->UserClose();
+}
+
+frmZj* qvJxc_Zj::Form() const { return form_ && form_->Loaded() ? form_.get() : nullptr; }
+
+void qvJxc_Zj::refresh(int16_t MfRunMode, int16_t myShowMode) {
+  try {
+    Open(MfRunMode, myShowMode);
+  } catch (const std::exception& error) {
+    Around().boxes->Error(error.what(), Shared().Title);
+  }
+}
+
+void qvJxc_Zj::Open(int16_t run_mode, int16_t show_mode) {
+  Context& shared = Shared();
+  if (shared.UserPath.empty() && shared.SQLData == 0) return;
+  if (!MayOpen()) {
+    Message(shared.CompName + ": " + LoadText(105) + LoadText(42) + " !", box::kCritical);
+    return;
+  }
+  shared.DateQuote = shared.SQLData == 0 ? "#" : "'";
+  TakePathOfUser();
+  shared.Title = LoadText(run_mode == 0 ? 101 : 102);
+  if (!LedgerIsThere()) {
+    CloseData();
+    Message("系统数据库 " + ShownPath(shared.UserPath) + " 属早期版本，无 [" + shared.Title +
+                "] 功能。请升级系统！",
+            box::kCritical);
+    return;
+  }
+  shared.showmode = show_mode;
+  ShowForm(run_mode);
+}
+
+void qvJxc_Zj::ShowForm(int16_t run_mode) {
+  if (!Form()) {
+    // A closed form may still be inside the event that closed it, when the host opens the control
+    // again from there; it is kept until the next one is closed.
+    closed_form_ = std::move(form_);
+    form_ = std::make_unique<frmZj>();
+  }
+  try {
+    form_->State(run_mode);
+    LoadForm(*form_);
+  } catch (...) {
+    if (!Form()) {
+      form_.reset();
+      CloseData();
+    }
+    throw;
+  }
+  Around().presenter->Show(*form_, Shared().showmode == 1);
+}
+
+void qvJxc_Zj::setMyTaskID(int32_t value) { Shared().myTaskID = value; }
+void qvJxc_Zj::setUserPath(const std::string& value) { Shared().UserPath = value; }
+std::string qvJxc_Zj::myName() const { return Shared().myName; }
+void qvJxc_Zj::setMyName(const std::string& value) { Shared().myName = value; }
+void qvJxc_Zj::setMyDate(double value) { Shared().myDate = value; }
+void qvJxc_Zj::setPassword(const std::string& value) { Shared().Password = value; }
+void qvJxc_Zj::setSQLData(int16_t value) { Shared().SQLData = value; }
+int16_t qvJxc_Zj::AlertType() const { return 0; }
+void qvJxc_Zj::setAlertType(int16_t) {}
+void qvJxc_Zj::setLanguage(int16_t value) { Shared().Language = value; }
+void qvJxc_Zj::setPowerPath(const std::string& value) { Shared().PowerPath = value; }
+void qvJxc_Zj::setUserName(const std::string& value) { Shared().UserName = value; }
+void qvJxc_Zj::setZgName(const std::string& value) { Shared().ZgName = value; }
+void qvJxc_Zj::setCompName(const std::string& value) { Shared().CompName = value; }
+void qvJxc_Zj::setMyPower(const std::string& value) { Shared().myPower = value; }
+void qvJxc_Zj::setMyModel(const std::string& value) { Shared().myModel = value; }
+std::string qvJxc_Zj::UserID() const { return Shared().UserID; }
+void qvJxc_Zj::setUserID(const std::string& value) { Shared().UserID = value; }
+std::string qvJxc_Zj::Default() const { return Shared().Default; }
+void qvJxc_Zj::setDefault(const std::string& value) { Shared().Default = value; }
+
+}  // namespace qvzj
