@@ -44,11 +44,12 @@ struct frmZj : ui::Form {
                  const std::string& extra);
 
   // Form-level values.
-  int16_t mode = kCustomers;       ///< mode flag: kCustomers, otherwise kAccounts
-  std::string numberTemplate;      ///< voucher template, upper-cased by its first use
-  std::string registerCondition;   ///< set by the register search, "" until then
-  int currentAction = kActionView; ///< index of the action button pressed last
-  int16_t printKind = 0;           ///< 1 ledger, 0 register
+  int16_t runMode = kCustomers;     ///< run mode that State set; chooses the numbering series
+  int16_t mode = kCustomers;        ///< mode flag: kCustomers, otherwise kAccounts
+  std::string numberTemplate;       ///< voucher template, upper-cased by its first use
+  std::string registerCondition;    ///< set by the register search, "" until then
+  int currentAction = kActionView;  ///< index of the action button pressed last
+  int16_t printKind = 0;            ///< 1 ledger, 0 register
 
   // Left: order, register, record page, search.
   ui::Frame fraOrder{*this, "fraOrder"};
@@ -62,11 +63,11 @@ struct frmZj : ui::Form {
 
   ui::Tabs SSTab1{*this, "SSTab1", 3};
   ui::Grid Grid1{*this, "Grid1", -1, &SSTab1, 0};
-  ui::Array<ui::Label> lblAcnt{*this, "lblAcnt", 0, 10, &SSTab1, 1};    ///< tag: column name
+  ui::Array<ui::Label> lblAcnt{*this, "lblAcnt", 0, 10, &SSTab1, 1};  ///< tag: column name
   ui::Array<ui::TextBox> txtAcnt{*this, "txtAcnt", 0, 10, &SSTab1, 1};
   ui::Frame fraKhType{*this, "fraKhType", -1, &SSTab1, 1};
   ui::Array<ui::OptionButton> optKhType{*this, "optKhType", 0, 3, &fraKhType};
-  ui::Button cmdKhSave{*this, "cmdKhSave", -1, &SSTab1, 1};      ///< tag: armed register action
+  ui::Button cmdKhSave{*this, "cmdKhSave", -1, &SSTab1, 1};  ///< tag: armed register action
   ui::Button cmdKhCancel{*this, "cmdKhCancel", -1, &SSTab1, 1};
   ui::Frame fraSeekKh{*this, "fraSeekKh", -1, &SSTab1, 2};
   ui::Array<ui::CheckBox> chkSeek{*this, "chkSeek", 0, 6, &fraSeekKh};  ///< tag: column name

@@ -1,0 +1,63 @@
+#include "forms/frmList.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/surroundings.h"
+#include "services/connect.h"
+#include "services/context.h"
+#include "services/strings.h"
+
+namespace qvzj {
+namespace {
+
+// An item is the staff code, a tab and the staff name.
+std::string NameOf(const std::string& item) {
+  const size_t tab = item.find('\t');
+  return tab == std::string::npos ? item : item.substr(tab + 1);
+}
+
+void PlaceControls(frmList& dialog) {
+  dialog.lblList.SetBounds({120, 120, 3360, 300});
+  dialog.List1.SetBounds({120, 450, 3360, 3300});
+  dialog.cmdLogOK.SetBounds({600, 3870, 1380, 390});
+  dialog.cmdCancel.SetBounds({2100, 3870, 1380, 390});
+}
+
+}  // namespace
+
+frmList::frmList() : ui::Form("frmList") {
+  PlaceControls(*this);
+  UserResize(3600, 4380, ui::WindowState::Normal);
+  cmdLogOK.onClick = [this] {
+    Shared().myName = NameOf(List1.Text());
+    Unload();
+  };
+  List1.onDblClick = cmdLogOK.onClick;
+  cmdCancel.onClick = [this] {
+    // These callers read the result even after a cancel.
+    if (kind_ > 3) Shared().myName.clear();
+    Unload();
+  };
+  onError = [](const std::string& text) { Around().boxes->Error(text, Shared().Title); };
+  onUnload = [this] { Around().presenter->Closed(*this); };
+}
+
+void frmList::Load() {
+  SetCaption(LoadText(60) + LoadText(19));
+  lblList.SetCaption(LoadText(60) + LoadText(19) + ":");
+  cmdLogOK.SetCaption(LoadText(28) + "(&S)");
+  cmdCancel.SetCaption(LoadText(22) + ">>");
+  OpenData();
+  data::Recordset rows = Data().Open("select * from employees order by employcode");
+  std::vector<std::string> items;
+  for (; !rows.Eof(); rows.MoveNext()) {
+    items.push_back(rows.Text("employCode") + "\t" + rows.Text("employee"));
+  }
+  List1.SetItems(std::move(items));
+  List1.SetAccessibleName(ui::ShownCaption(lblList.Caption()));
+  SetLoaded(true);
+}
+
+}  // namespace qvzj

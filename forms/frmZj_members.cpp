@@ -1,0 +1,79 @@
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "forms/startup.h"
+#include "ledger/print.h"
+#include "register/list.h"
+#include "register/search.h"
+#include "screen/frmZj.h"
+#include "services/connect.h"
+#include "services/context.h"
+
+namespace qvzj {
+namespace {
+
+constexpr int16_t kRunNamedCustomer = 9;  // customers, opened on the one that the host named
+constexpr int16_t kRunCustomers = 10;
+constexpr int16_t kRunAccounts = 11;
+
+int16_t StateOf(int16_t run_mode) {
+  switch (run_mode) {
+    case kRunNamedCustomer:
+    case kRunCustomers:
+      return kCustomers;
+    case kRunAccounts:
+      return kAccounts;
+    default:
+      return run_mode;
+  }
+}
+
+void OpenNamedCustomer(frmZj& form) {
+  LoadForm(form);
+  form.lblKhName.SetTag(std::to_string(Shared().myTaskID));
+  form.txtSeek(1).SetText(Shared().myName);
+  form.chkSeek2.SetValue(0);
+  SearchRegister(form);
+}
+
+}  // namespace
+
+int16_t frmZj::State() const { return runMode; }
+
+void frmZj::State(int16_t run_mode) {
+  const int16_t previous = mode;
+  runMode = StateOf(run_mode);
+  mode = runMode == kCustomers ? kCustomers : kAccounts;
+  if (Loaded() && mode != previous) {
+    // The host turns an open form to the other register: it starts up anew for that one.
+    SetLoaded(false);
+    LoadForm(*this);
+  }
+  if (run_mode == kRunNamedCustomer) OpenNamedCustomer(*this);
+}
+
+void frmZj::getListJBR(int16_t source) {
+  data::Recordset rows =
+      Data().Open(source == 0 ? "select employee from Employees Order By employee"
+                              : "select fName from tRsBasic Order By fName");
+  std::vector<std::string> names;
+  for (; !rows.Eof(); rows.MoveNext()) names.push_back(rows.Text(0));
+  cboDoneMan.SetItems(std::move(names));
+}
+
+void frmZj::getListAcnt() { LoadAccountNames(*this); }
+
+std::string frmZj::_getInvSet(int16_t series) {
+  data::Recordset rows =
+      Data().Open("select * from tJXC_InvSet where fSetNo=" + std::to_string(series) +
+                  " And fSetNoUse_<>1 Order by fRowID");
+  return rows.Eof() ? "" : rows.Text("fSetAutoNo");
+}
+
+void frmZj::gotoPrint(ui::Grid& grid, const std::string& title, const std::string& report,
+                      const std::string& extra) {
+  PrintGrid(*this, grid, title, report, extra);
+}
+
+}  // namespace qvzj

@@ -1,0 +1,41 @@
+#include "forms/gates.h"
+
+#include "platform/basic/number.h"
+#include "screen/frmZj.h"
+#include "services/context.h"
+#include "services/gate.h"
+#include "services/query.h"
+
+namespace qvzj {
+namespace {
+
+void Gate(ui::Control& control, const std::string& function) {
+  control.SetEnabled(ModuleGate(function, 0, false) > 0);
+}
+
+// Suites without a function of their own for adding cards gate it like the card register.
+std::string CardAddingFunction() {
+  const std::string count =
+      FirstValue("Select count(*) from tSysFunc Where model_name='mnuCardAdd'");
+  return basic::Val(count) > 0 ? "mnuCardAdd" : "mnuCard";
+}
+
+void EnableAll(frmZj& form) {
+  form.cmdManage.SetEnabled(true);
+  form.mnuKhManage(1).SetEnabled(true);
+  form.mnuKhContact.SetEnabled(true);
+  form.cmdKhPrint.SetEnabled(true);
+}
+
+}  // namespace
+
+void ApplyGates(frmZj& form) {
+  EnableAll(form);
+  if (Shared().UserName == Shared().ZgName) return;
+  Gate(form.cmdManage, form.mode == kCustomers ? "mnuZjComp" : "mnuZjAcnt");
+  if (form.mode == kCustomers) Gate(form.mnuKhManage(1), CardAddingFunction());
+  Gate(form.mnuKhContact, "mnuCardPlan");
+  Gate(form.cmdKhPrint, "mnuCardPrint");
+}
+
+}  // namespace qvzj

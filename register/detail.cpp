@@ -1,0 +1,89 @@
+#include "register/detail.h"
+
+#include "platform/basic/number.h"
+#include "platform/surroundings.h"
+#include "register/table.h"
+#include "screen/frmZj.h"
+#include "screen/layout.h"
+#include "services/connect.h"
+#include "services/context.h"
+#include "services/messages.h"
+#include "services/query.h"
+
+namespace qvzj {
+namespace {
+
+void HideDetail(frmZj& form) {
+  form.fraKhMemo.SetVisible(false);
+  LayoutForm(form);
+  // A window too small to be arranged anew still gives the ledger its place back.
+  LayoutLedgerSide(form);
+}
+
+void ToggleDetail(frmZj& form) {
+  if (form.fraKhMemo.Visible()) return HideDetail(form);
+  LoadRegisterDetail(form, form.lblKhName.Tag());
+  form.fraKhMemo.SetVisible(true);
+  LayoutLedgerSide(form);
+}
+
+TaskCall ContactOf(const frmZj& form) {
+  const Context& shared = Shared();
+  TaskCall call;
+  call.language = shared.Language;
+  call.access = {shared.UserPath, shared.Password, shared.SQLData, shared.UserID, shared.Default};
+  call.comp_name = shared.CompName;
+  call.user_name = shared.UserName;
+  call.my_power = shared.myPower;
+  call.zg_name = shared.ZgName;
+  call.date = Around().clock->Today();
+  call.customer_name = form.lblKhName.Caption();
+  call.customer_id = basic::ToInt32(basic::Val(form.lblKhName.Tag()));
+  return call;
+}
+
+void OpenContact(const frmZj& form) {
+  if (!HasCurrentRecord(form)) return;
+  if (!Around().task) {
+    Message(Shared().Language == 1 ? "聯系記錄組件 [qvTask] 未安裝 !"
+                                   : "联系记录组件 [qvTask] 未安装 !",
+            box::kExclamation);
+    return;
+  }
+  Around().task->Open(ContactOf(form));
+}
+
+}  // namespace
+
+void LoadRegisterDetail(frmZj& form, const std::string& id) {
+  if (!basic::IsNumeric(id) || basic::Val(id) == 0) {
+    form.txtKhMemo.SetText("");
+    return;
+  }
+  data::Recordset rows =
+      Data().Open("select a.detail from " + RegisterTable(form) + " a Where a.fID=" + id);
+  form.txtKhMemo.SetText(rows.Eof() ? "" : rows.Text(0));
+}
+
+void SaveRegisterDetail(frmZj& form) {
+  const std::string& id = form.lblKhName.Tag();
+  if (basic::Val(id) == 0) return;
+  Data().Execute("Update " + RegisterTable(form) + " set detail='" + form.txtKhMemo.Text() +
+                 "' Where fID=" + id);
+  Message(form.lblKhMemo.Caption() + " [" + form.lblKhName.Caption() + "] 修改完毕 ！",
+          box::kPlain);
+}
+
+void ConnectRegisterDetail(frmZj& form) {
+  form.cmdKhMemo.onClick = [&form] { ToggleDetail(form); };
+  form.cmdCancel.onClick = [&form] { HideDetail(form); };
+  form.txtKhMemo.onChange = [&form] { form.cmdSave.SetEnabled(true); };
+  form.cmdSave.onClick = [&form] {
+    if (!HasCurrentRecord(form) || !NoQuote(form.txtKhMemo.Text())) return;
+    SaveRegisterDetail(form);
+    form.cmdSave.SetEnabled(false);
+  };
+  form.mnuKhContact.onClick = [&form] { OpenContact(form); };
+}
+
+}  // namespace qvzj

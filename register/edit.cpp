@@ -1,0 +1,195 @@
+#include "register/edit.h"
+
+#include <optional>
+#include <string>
+
+#include "platform/basic/text.h"
+#include "register/grid.h"
+#include "register/list.h"
+#include "register/table.h"
+#include "screen/frmZj.h"
+#include "screen/keys.h"
+#include "services/connect.h"
+#include "services/messages.h"
+#include "services/query.h"
+#include "services/strings.h"
+
+namespace qvzj {
+namespace {
+
+// Armed register actions, as kept in the tag of `cmdKhSave`.
+constexpr const char* kAdd = "1";
+constexpr const char* kChange = "2";
+constexpr const char* kDelete = "3";
+
+/// What an action leaves to be done: one statement, and the record's name for the report.
+struct Commit {
+  std::string statement;
+  std::string name;
+};
+
+std::string TypeCode(const frmZj& form) {
+  for (int type = 1; type <= 3; ++type) {
+    if (form.optKhType(type).Selected()) return std::to_string(type);
+  }
+  return "0";
+}
+
+bool Confirmed(const std::string& action, const std::string& name) {
+  return Message("确认：" + action + " " + name + " ?", box::kQuestionOkCancel) == Answer::Ok;
+}
+
+// Code and name are required; the other boxes may stay empty.
+bool RequiredAreFilled(const frmZj& form) {
+  for (int i = 0; i <= 1; ++i) {
+    if (!form.txtAcnt(i).Text().empty()) continue;
+    Message("请输入[" + form.lblAcnt(i).Caption() + "] !", box::kExclamation);
+    return false;
+  }
+  return true;
+}
+
+std::string InsertStatement(const frmZj& form) {
+  std::string columns;
+  std::string values;
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) {
+    columns += form.lblAcnt(i).Tag() + ",";
+    values += "'" + form.txtAcnt(i).Text() + "',";
+  }
+  const std::string table = RegisterTable(form);
+  const std::string id = std::to_string(NewRecordId(table));
+  if (form.mode == kAccounts) {
+    return "Insert Into " + table + " (" + columns + "fID) Values (" + values + id + ")";
+  }
+  return "Insert Into " + table + " (" + columns + "fID,fType0) Values (" + values + id + "," +
+         TypeCode(form) + ")";
+}
+
+std::string UpdateStatement(const frmZj& form) {
+  std::string sets;
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) {
+    if (i > 0) sets += ",";
+    sets += form.lblAcnt(i).Tag() + "='" + form.txtAcnt(i).Text() + "'";
+  }
+  if (form.mode != kAccounts) sets += ",fType0=" + TypeCode(form);
+  return "Update " + RegisterTable(form) + " Set " + sets + " Where fID=" + form.lblKhName.Tag();
+}
+
+std::optional<Commit> Add(const frmZj& form) {
+  const std::string name = form.txtAcnt(1).Text();
+  if (!RequiredAreFilled(form) || !Confirmed("新增", name)) return {};
+  return Commit{InsertStatement(form), name};
+}
+
+std::optional<Commit> Change(const frmZj& form) {
+  const std::string name = form.lblKhName.Caption();
+  if (!RequiredAreFilled(form) || !Confirmed("修改", name)) return {};
+  return Commit{UpdateStatement(form), name};
+}
+
+// What else in the suite still refers to the record, as the refusal says it; "" when nothing does.
+// Money accounts are asked about the customers' documents too.
+std::string WhatRefersTo(const frmZj& form, const std::string& id) {
+  const auto rows = [](const char* table, const std::string& condition) {
+    return CountRows(table, condition) >= 1;
+  };
+  if (rows("tAccountDetail", "fCompID=" + id + " And fType1=" + std::to_string(form.mode))) {
+    return "：已有帐目存在，必须先删除所有相关帐目，才能够" + form.cmdKhSave.Caption() + "！";
+  }
+  if (rows("tTaskList", "taskID=" + id + " And fType=1")) {
+    return "：已有[拜访记录]存在，必须先删除所有相关记录！";
+  }
+  if (rows("tJXC_CkDj01", "fKhID=" + id)) {
+    return "：已有[仓库出入记录]存在，必须先删除所有相关记录！";
+  }
+  if (rows("tJXC_CkHt01", "fKhID=" + id)) {
+    return "：已有[合同订单记录]存在，必须先删除所有相关记录！";
+  }
+  return "";
+}
+
+std::optional<Commit> Delete(const frmZj& form) {
+  const std::string id = form.lblKhName.Tag();
+  const std::string name = form.lblKhName.Caption();
+  const std::string refusal = WhatRefersTo(form, id);
+  if (!refusal.empty()) {
+    Message(name + refusal, box::kExclamation);
+    return {};
+  }
+  if (!Confirmed("删除", name)) return {};
+  return Commit{"Delete from " + RegisterTable(form) + " Where fID=" + id, name};
+}
+
+std::optional<Commit> Prepare(const frmZj& form) {
+  const std::string& action = form.cmdKhSave.Tag();
+  if (action == kAdd) return Add(form);
+  if (action == kChange) return Change(form);
+  if (action == kDelete) return Delete(form);
+  return Commit{};  // the empty statement is refused by the connection and reported as an error
+}
+
+void SaveRecord(frmZj& form) {
+  const std::optional<Commit> commit = Prepare(form);
+  if (!commit) return;
+  Data().Execute(commit->statement);
+  Message(commit->name + ":" + form.cmdKhSave.Caption() + LoadText(49) + "！", box::kInformation);
+  LoadRegister(form, form.registerCondition);
+}
+
+void LockRecord(frmZj& form, bool locked) {
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetLocked(locked);
+}
+
+void ShowRecordButtons(frmZj& form, bool visible) {
+  form.cmdKhSave.SetVisible(visible);
+  form.cmdKhCancel.SetVisible(visible);
+}
+
+// Arms `action` (1 add, 2 change, 3 delete) on the record page.
+void ArmRecordAction(frmZj& form, int action) {
+  form.cmdKhSave.SetTag(std::to_string(action));
+  form.cmdKhSave.SetCaption(form.mnuKhManage(action).Caption());
+  ShowRecordButtons(form, true);
+  if (form.cmdKhSave.Tag() == kAdd) {
+    for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetText("");
+  }
+  LockRecord(form, form.cmdKhSave.Tag() == kDelete);
+  form.SSTab1.SetTab(1);
+  form.SetFocus(form.txtAcnt(0));
+}
+
+void LeaveRecordEditing(frmZj& form) {
+  ShowRecordButtons(form, false);
+  LockRecord(form, true);
+  ShowRegisterRow(form, form.Grid1.ActiveRow());
+  form.SSTab1.SetTab(0);
+  form.SetFocus(form.Grid1);
+}
+
+void ConnectRecordBox(frmZj& form, ui::TextBox& box) {
+  box.onKeyPress = [&form, &box](int& key) {
+    if (!EnterToTab(form, key)) LimitKeys(box, key, box.MaxLength());
+  };
+  box.onEdit = [&box](std::string& inserted) {
+    const std::string selected = basic::Mid(box.Text(), box.SelStart() + 1, box.SelLength());
+    FitInsertion(box.Text(), selected, inserted, box.MaxLength());
+  };
+}
+
+}  // namespace
+
+void ConnectRegisterEdit(frmZj& form) {
+  form.cmdManage.onMouseDown = [&form](int32_t x, int32_t) {
+    const ui::Bounds& button = form.cmdManage.GetBounds();
+    const ui::Bounds& frame = form.fraOrder.GetBounds();
+    form.PopUp(form.mnuKh, frame.left + button.left + x, frame.top + button.top + button.height);
+  };
+  for (int i = form.mnuKhManage.First(); i <= form.mnuKhManage.Last(); ++i) {
+    form.mnuKhManage(i).onClick = [&form, i] { ArmRecordAction(form, i); };
+  }
+  form.cmdKhSave.onClick = [&form] { SaveRecord(form); };
+  form.cmdKhCancel.onClick = [&form] { LeaveRecordEditing(form); };
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) ConnectRecordBox(form, form.txtAcnt(i));
+}
+
+}  // namespace qvzj

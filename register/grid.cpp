@@ -1,0 +1,93 @@
+#include "register/grid.h"
+
+#include <string>
+
+#include "ledger/filter.h"
+#include "ledger/query.h"
+#include "platform/basic/number.h"
+#include "platform/surroundings.h"
+#include "register/detail.h"
+#include "screen/frmZj.h"
+#include "services/context.h"
+
+namespace qvzj {
+namespace {
+
+// Null where the program gives no order for the language; texts then sort by their bytes.
+const ui::TextOrder* OrderOfLanguage() {
+  return Around().text_order[Shared().Language == 1 ? 1 : 0];
+}
+
+void SelectType(frmZj& form, double type) {
+  const uint8_t code = basic::ToByte(type);
+  form.optKhType(code < form.optKhType.Count() ? code : 0).Select();
+}
+
+// A new sort column keeps an ascending order; without one, or after a descending one, it starts
+// descending.
+ui::SortOrder NextOrder(const ui::Grid& grid, int32_t column) {
+  const bool ascending = grid.GetSortOrder() == ui::SortOrder::Ascending;
+  const bool same = grid.SortColumn() == column;
+  return ascending != same ? ui::SortOrder::Ascending : ui::SortOrder::Descending;
+}
+
+void SortRegister(frmZj& form, int32_t column) {
+  ui::Grid& grid = form.Grid1;
+  const ui::SortOrder order = NextOrder(grid, column);
+  grid.SetSortKey(column, order);
+  for (int32_t k = 1; k <= form.lblAcnt.Count(); ++k) {
+    std::string header = form.lblAcnt(k - 1).Caption();
+    if (k == column) header += order == ui::SortOrder::Ascending ? "↑" : "↓";
+    grid.SetHeader(k, std::move(header));
+  }
+  grid.Sort(OrderOfLanguage());
+}
+
+bool EntryIsKeyed(const frmZj& form) {
+  const double action = basic::Val(form.cmdAcntSave.Tag());
+  return action == kActionNew || action == kActionChange;
+}
+
+// The entry that is being keyed follows the register: it moves to the new record, and its
+// direction to what the record is for (a supplier is paid, a sales dealer pays).
+void CarryIntoEntry(frmZj& form) {
+  form.txtAcnt2(2).SetText(form.lblKhName.Caption());
+  form.txtAcnt2(2).SetTag(form.lblKhName.Tag());
+  if (form.optKhType(1).Selected() && !form.optType2(2).Selected()) form.optType2(2).Select();
+  if (form.optKhType(2).Selected() && !form.optType2(1).Selected()) form.optType2(1).Select();
+}
+
+void EnterRow(frmZj& form, int32_t row, int32_t new_row) {
+  if (new_row == row || new_row < 1) return;
+  ShowRegisterRow(form, new_row);
+  if (EntryIsKeyed(form)) CarryIntoEntry(form);
+  if (form.OptSelect(2).Selected()) LoadLedger(form, LedgerCondition(form));
+}
+
+}  // namespace
+
+void ShowRegisterRow(frmZj& form, int32_t row) {
+  const ui::Grid& grid = form.Grid1;
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) {
+    form.txtAcnt(i).SetText(grid.CellText(i + 1, row));
+  }
+  const int32_t id_column = grid.ColumnCount();
+  if (form.mode == kCustomers) SelectType(form, grid.CellNumber(id_column - 1, row));
+  form.lblKhName.SetCaption(form.txtAcnt(1).Text());
+  form.lblKhName.SetTag(basic::NumberText(grid.CellNumber(id_column, row)));
+  if (form.fraKhMemo.Visible()) LoadRegisterDetail(form, form.lblKhName.Tag());
+}
+
+void ConnectRegisterGrid(frmZj& form) {
+  form.Grid1.onClick = [&form](int32_t column, int32_t row) {
+    if (row == 0) SortRegister(form, column);
+  };
+  form.Grid1.onDblClick = [&form](int32_t, int32_t row) {
+    if (row > 0) form.SSTab1.SetTab(1);
+  };
+  form.Grid1.onLeaveCell = [&form](int32_t, int32_t row, int32_t, int32_t new_row, bool&) {
+    EnterRow(form, row, new_row);
+  };
+}
+
+}  // namespace qvzj

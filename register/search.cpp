@@ -1,0 +1,61 @@
+#include "register/search.h"
+
+#include "ledger/filter.h"
+#include "ledger/query.h"
+#include "register/list.h"
+#include "screen/frmZj.h"
+#include "screen/keys.h"
+#include "services/query.h"
+
+namespace qvzj {
+namespace {
+
+// A customer of type 0 both supplies and sells and belongs to every type asked for.
+std::string CustomerTypeCondition(const frmZj& form) {
+  if (form.mode == kAccounts || form.optSeek(0).Selected()) return "";
+  if (form.optSeek(1).Selected()) return "(a.fType0=0 or a.fType0=1)";
+  if (form.optSeek(2).Selected()) return "(a.fType0=0 Or a.fType0=2)";
+  return "(a.fType0=0 Or a.fType0=3)";
+}
+
+void ConnectSearchRow(frmZj& form, int i) {
+  ui::CheckBox& check = form.chkSeek(i);
+  ui::TextBox& text = form.txtSeek(i);
+  check.onClick = [&form, &check, &text] {
+    if (form.Loaded() && check.Ticked()) form.SetFocus(text);
+  };
+  EnterWalksOn(check);
+  EnterWalksOn(text);
+  text.onValidate = [&text](bool& cancel) { cancel = !NoQuote(text.Text()); };
+}
+
+}  // namespace
+
+std::string BuildRegisterCondition(const frmZj& form) {
+  std::string condition = "1=1";
+  for (int i = 0; i < form.chkSeek.Count(); ++i) {
+    if (!form.chkSeek(i).Ticked()) continue;
+    condition +=
+        " And a." + form.chkSeek(i).Tag() + " like '" + LikePattern(form.txtSeek(i).Text()) + "'";
+  }
+  const std::string type = CustomerTypeCondition(form);
+  if (!type.empty()) condition += " And " + type;
+  return condition;
+}
+
+void SearchRegister(frmZj& form) {
+  form.registerCondition = BuildRegisterCondition(form);
+  LoadRegister(form, form.registerCondition);
+}
+
+void ConnectRegisterSearch(frmZj& form) {
+  for (int i = 0; i < form.chkSeek.Count(); ++i) ConnectSearchRow(form, i);
+  for (int i = 0; i < form.optSeek.Count(); ++i) EnterJumpsTo(form.optSeek(i), form.cmdKhSeek);
+  form.cmdKhSeek.onClick = [&form] { SearchRegister(form); };
+  for (int i = 0; i < form.OptSelect.Count(); ++i) {
+    EnterJumpsTo(form.OptSelect(i), form.cmdKhSeek);
+    form.OptSelect(i).onClick = [&form] { LoadLedger(form, LedgerCondition(form)); };
+  }
+}
+
+}  // namespace qvzj

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+
+namespace qvzj {
+
+struct frmZj;
+
+/// Writes the captions that the string table does not carry, in a language (0 simplified, 1
+/// traditional Chinese). Some of them belong to the form's fixed design and read the same in both.
+void DesignCaptions(frmZj& form, int16_t language);
+/// Puts everything that changes while the form is worked with back to how a fresh form opens:
+/// no current record, no entry shown, panels hidden, all filters off.
+void ResetForm(frmZj& form);
+
+}  // namespace qvzj

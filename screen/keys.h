@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/ui/form.h"
+#include "platform/ui/key.h"
+
+namespace qvzj {
+
+/// Turns the Enter key into a Tab key: moves the focus on and drops the key. False when `key` is
+/// another one, which passes unchanged.
+bool EnterToTab(ui::Form& form, int& key);
+/// Makes Enter walk on from `control` to the next one in tab order; its only key-press rule.
+void EnterWalksOn(ui::Control& control);
+/// Makes Enter in `control` jump to `target` instead of the next control.
+void EnterJumpsTo(ui::Control& control, ui::Control& target);
+
+}  // namespace qvzj

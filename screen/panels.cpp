@@ -1,0 +1,200 @@
+#include "screen/panels.h"
+
+#include <algorithm>
+
+#include "screen/frmZj.h"
+
+namespace qvzj {
+namespace {
+
+constexpr int32_t kPad = 120;       // inside a frame, left and right
+constexpr int32_t kFrameTop = 120;  // below a frame's line without a caption
+
+void Place(ui::Control& control, int32_t left, int32_t top, int32_t width,
+           int32_t height = kField) {
+  control.SetBounds({left, top, std::max(width, 0), height});
+}
+
+/// A field with what names it on its left, together `width` wide.
+void PlacePair(ui::Control& name, ui::Control& field, int32_t left, int32_t top, int32_t width,
+               int32_t name_width) {
+  Place(name, left, top, name_width);
+  Place(field, left + name_width, top, width - name_width);
+}
+
+/// `count` equal columns between the paddings of a panel; on a wide screen they stop growing.
+struct Split {
+  Split(int32_t panel_width, int32_t count, int32_t widest)
+      : width(std::min((panel_width - 2 * kPad - (count - 1) * kPad) / count, widest)) {}
+  int32_t Left(int32_t column) const { return kPad + column * (width + kPad); }
+  /// Width of `columns` neighbouring ones.
+  int32_t Span(int32_t columns) const { return columns * width + (columns - 1) * kPad; }
+  int32_t width;
+};
+
+}  // namespace
+
+void ArrangeOrder(frmZj& form) {
+  const int32_t inner = form.fraOrder.GetBounds().width - 2 * kPad;
+  constexpr int32_t kLabel = 480;
+  constexpr int32_t kList = 1740;
+  Place(form.lblKhOrder, kPad, kFrameTop, kLabel);
+  Place(form.cboKhOrder, kPad + kLabel, kFrameTop, kList);
+  Place(form.lblKhTotal, kPad + kLabel + kList + kPad, kFrameTop, inner - kLabel - kList - kPad);
+  const int32_t width = (inner - 2 * kGap) / 3;
+  const int32_t top = kFrameTop + kRow;
+  Place(form.cmdManage, kPad, top, width, kButton);
+  Place(form.cmdKhMemo, kPad + width + kGap, top, width, kButton);
+  Place(form.cmdKhPrint, kPad + 2 * (width + kGap), top, width, kButton);
+}
+
+void ArrangeRecordPage(frmZj& form) {
+  const int32_t inner = form.SSTab1.GetBounds().width - 2 * kPad;
+  constexpr int32_t kLabel = 840;
+  int32_t top = kTabStrip + kPad;
+  for (int i = 0; i < form.txtAcnt.Count(); ++i, top += kRow) {
+    PlacePair(form.lblAcnt(i), form.txtAcnt(i), kPad, top, inner, kLabel);
+  }
+  constexpr int32_t kCaption = 240;
+  Place(form.fraKhType, kPad, top, inner, kCaption + 2 * kField + kGap);
+  const int32_t half = (inner - 2 * kPad) / 2;
+  for (int i = 0; i < form.optKhType.Count(); ++i) {
+    Place(form.optKhType(i), kPad + i % 2 * half, kCaption + i / 2 * kField, half);
+  }
+  top += form.fraKhType.GetBounds().height + kPad;
+  constexpr int32_t kWide = 1440;
+  Place(form.cmdKhSave, kPad + inner - 2 * kWide - kGap, top, kWide, kButton);
+  Place(form.cmdKhCancel, kPad + inner - kWide, top, kWide, kButton);
+}
+
+void ArrangeSearchPage(frmZj& form) {
+  const int32_t width = form.SSTab1.GetBounds().width - 2 * kGap;
+  const int32_t inner = width - 2 * kPad;
+  constexpr int32_t kCheck = 1200;
+  int32_t top = kFrameTop;
+  for (int i = 0; i < form.chkSeek.Count(); ++i, top += kRow) {
+    PlacePair(form.chkSeek(i), form.txtSeek(i), kPad, top, inner, kCheck);
+  }
+  for (int i = 0; i < form.optSeek.Count(); ++i) {
+    Place(form.optSeek(i), kPad + i % 2 * inner / 2, top + i / 2 * kField, inner / 2);
+  }
+  top += 2 * kField + kGap;
+  Place(form.chkSeek2, kPad, top, inner);
+  top += kRow;
+  constexpr int32_t kWide = 1440;
+  Place(form.cmdKhSeek, kPad + inner - kWide, top, kWide, kButton);
+  top += kButton + kPad;
+  Place(form.fraSeekKh, kGap, kTabStrip + kGap, width, top);
+  Place(form.txtSeekMsg, kGap, kTabStrip + kGap + top + kGap, width, 900);
+}
+
+void ArrangeEntryPanel(frmZj& form) {
+  const int32_t width = form.picAcnt.GetBounds().width;
+  const Split column(width, 3, 4200);
+  constexpr int32_t kLabel = 840;
+  const auto pair = [&](ui::Control& name, ui::Control& field, int row, int32_t first,
+                        int32_t columns = 1) {
+    PlacePair(name, field, column.Left(first), 540 + row * kRow, column.Span(columns), kLabel);
+  };
+
+  // Head line: what is being done, who checked the entry, save and cancel.
+  Place(form.lblAcntTitle, kPad, 75, 1500, kButton);
+  Place(form.lblAcnt2(11), column.Left(1), 75, 600, kButton);
+  Place(form.lblSHR, column.Left(1) + 660, 120, 1500, 300);
+  Place(form.fraSHR, column.Left(1) + 610, 75, 1600, kButton);
+  constexpr int32_t kWide = 1140;
+  const int32_t right = column.Left(2) + column.width;
+  Place(form.cmdAcntSave, right - 2 * kWide - kGap, 75, kWide, kButton);
+  Place(form.cmdAcntCancel, right - kWide, 75, kWide, kButton);
+
+  pair(form.lblAcnt2(0), form.dtpAcntDate, 0, 0);
+  pair(form.lblAcnt2(1), form.txtAcnt2(1), 0, 1);
+  pair(form.lblAcnt2(2), form.txtAcnt2(2), 0, 2);
+
+  const int32_t second = 540 + kRow;
+  constexpr int32_t kOption = 660;
+  Place(form.fraType2, column.Left(0), second, 2 * kOption);
+  for (int i = 1; i <= 2; ++i) Place(form.optType2(i), (i - 1) * kOption, 0, kOption);
+  Place(form.chkAcntInit, column.Left(0) + 2 * kOption, second, column.width - 2 * kOption);
+  pair(form.lblAcnt2(3), form.txtAcnt2(3), 1, 1);
+  pair(form.lblAcnt2(4), form.txtAcnt2(4), 1, 2);
+  pair(form.lblAcnt2(5), form.txtAcnt2(5), 1, 2);  // hidden: an entry has no balance
+
+  pair(form.lblHb, form.cboHb, 2, 0);
+  pair(form.lblHbRate, form.txtHbRate, 2, 1);
+  PlacePair(form.chkAcntName, form.cboAcntName, column.Left(2), 540 + 2 * kRow, column.width, 1080);
+
+  pair(form.lblAcnt2(6), form.txtAcnt2(6), 3, 0, 2);
+  pair(form.lblAcnt2(7), form.txtAcnt2(7), 3, 2);
+  pair(form.lblAcnt2(8), form.txtAcnt2(8), 4, 0);
+  pair(form.lblAcnt2(9), form.txtAcnt2(9), 4, 1);
+  pair(form.lblAcnt2(10), form.cboDoneMan, 4, 2);
+}
+
+void ArrangeTotals(frmZj& form) {
+  constexpr int32_t kCurrency = 840;
+  constexpr int32_t kLabel = 840;
+  const int32_t width = form.fraTotal.GetBounds().width;
+  const Split column(width - kCurrency - kPad, 3, 3300);
+  const auto pair = [&](int total, int row, int32_t at) {
+    PlacePair(form.lblTotal(total), form.txtTotal(total), column.Left(at), kFrameTop + row * kRow,
+              column.width, kLabel);
+  };
+  for (int i = 0; i < form.lblTotal.Count(); ++i) {
+    const bool shown = form.mode == kCustomers || (i != 2 && i != 3);
+    form.lblTotal(i).SetVisible(shown);
+    form.txtTotal(i).SetVisible(shown);
+    if (form.mode == kCustomers) pair(i, i / 3, i % 3);
+  }
+  if (form.mode != kCustomers) {
+    // Opening and in, out and balance below them.
+    pair(0, 0, 0);
+    pair(1, 0, 1);
+    pair(4, 1, 0);
+    pair(5, 1, 1);
+  }
+  const int32_t left = column.Left(2) + column.width + kPad;
+  Place(form.lblHb2, left, kFrameTop, kCurrency);
+  Place(form.cboHb2, left, kFrameTop + kRow, kCurrency);
+}
+
+void ArrangeFilter(frmZj& form) {
+  const int32_t width = form.fraFilter.GetBounds().width;
+  const Split column(width, 3, 3600);
+  constexpr int32_t kCheck = 1110;
+  const auto pair = [&](ui::Control& check, ui::Control& field, int row, int32_t at) {
+    PlacePair(check, field, column.Left(at), kFrameTop + row * kRow, column.width, kCheck);
+  };
+  constexpr int32_t kOption = 1110;
+  for (int i = 0; i < form.OptSelect.Count(); ++i) {
+    Place(form.OptSelect(i), kPad + i * kOption, kFrameTop, kOption);
+  }
+  constexpr int32_t kVerify = 960;
+  for (int i = 0; i < form.chkVerify.Count(); ++i) {
+    Place(form.chkVerify(i), kPad + 3 * kOption + kPad + i * kVerify, kFrameTop, kVerify);
+  }
+  constexpr int32_t kWide = 1140;
+  Place(form.cmdAcntRefresh, column.Left(2) + column.width - kWide, kFrameTop - 30, kWide, kButton);
+
+  pair(form.chkDate(0), form.dtpDate(0), 1, 0);
+  pair(form.chkDate(1), form.dtpDate(1), 1, 1);
+  pair(form.chkID(0), form.txtID(0), 1, 2);
+  pair(form.chkID(1), form.txtID(1), 2, 0);
+  pair(form.chkID(2), form.txtID(2), 2, 1);
+  pair(form.chkBrief, form.txtBrief, 2, 2);
+  for (int i = 0; i < form.chkUser.Count(); ++i) pair(form.chkUser(i), form.txtUser(i), 3, i);
+}
+
+void ArrangeDetail(frmZj& form) {
+  const ui::Bounds& frame = form.fraKhMemo.GetBounds();
+  constexpr int32_t kWide = 1140;
+  const int32_t right = frame.width - kPad;
+  constexpr int32_t kTop = 90;
+  Place(form.cmdCancel, right - kWide, kTop, kWide, kButton);
+  Place(form.cmdSave, right - 2 * kWide - kGap, kTop, kWide, kButton);
+  Place(form.lblKhMemo, kPad, kTop, frame.width - 2 * kPad - 2 * (kWide + kGap), kButton);
+  const int32_t text_top = kTop + kButton + kGap;
+  Place(form.txtKhMemo, kPad, text_top, frame.width - 2 * kPad, frame.height - text_top - kPad);
+}
+
+}  // namespace qvzj
