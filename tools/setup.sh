@@ -16,6 +16,7 @@ all   pkg-config           finds the C libraries below
 all   libsqlite3-dev       the embedded database
 all   libicu-dev           pinyin and stroke order, the Chinese code pages
 all   libsodium-dev        password hashing of the login
+all   nlohmann-json3-dev   JSON texts and files of the script front end
 all   libxlsxwriter-dev    export of lists to Excel
 all   unixodbc-dev         database servers
 all   qt6-base-dev         the window, printing and PDF

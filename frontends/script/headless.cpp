@@ -68,6 +68,7 @@ std::optional<std::string> QueuedBoxes::Input(const std::string& prompt, const s
   } else if (queued->text != "cancel") {
     Problem("the answer " + queued->text + " does not fit: " + prompt);
   }
+  shown.cancelled = !answer;
   if (answer) shown.answer = *answer;
   shown_.push_back(std::move(shown));
   return answer;
@@ -81,8 +82,8 @@ std::vector<std::string> QueuedBoxes::TakeErrors() { return std::exchange(errors
 
 std::string MemorySettings::Get(const std::string& application, const std::string& section,
                                 const std::string& key, const std::string& preset) const {
-  const auto found = entries_.find(
-      {basic::Lower(application), basic::Lower(section), basic::Lower(key)});
+  const auto found =
+      entries_.find({basic::Lower(application), basic::Lower(section), basic::Lower(key)});
   return found == entries_.end() ? preset : found->second;
 }
 

@@ -23,10 +23,11 @@ namespace qvzj {
 /// A box that was shown, and what was answered.
 struct ShownBox {
   bool input = false;
-  int style = 0;          ///< message boxes only
+  int style = 0;  ///< message boxes only
   std::string title;
-  std::string text;       ///< message text, or prompt
-  std::string answer;     ///< "ok", "cancel", "yes", "no", or the text put in
+  std::string text;        ///< message text, or prompt
+  std::string answer;      ///< "ok", "cancel", "yes", "no", or the text put in
+  bool cancelled = false;  ///< an input box without an answer
 };
 
 /// An answer waiting for its box: one of "ok", "cancel", "yes", "no", or a text to put in.
