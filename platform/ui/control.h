@@ -11,16 +11,38 @@ namespace qvzj::ui {
 class Form;
 
 enum class Kind {
-  Label, Button, TextBox, ComboBox, ListBox, CheckBox, OptionButton, Frame, Tabs, DatePicker,
-  Menu, Grid
+  Label,
+  Button,
+  TextBox,
+  ComboBox,
+  ListBox,
+  CheckBox,
+  OptionButton,
+  Frame,
+  Tabs,
+  DatePicker,
+  Menu,
+  Grid
 };
 
 /// What about a control changed; front ends mirror it.
 enum class Aspect {
-  Caption, Text, Value, Items, Enabled, Visible, Locked, Bounds, Selection, Focus, Tabs,
+  Caption,
+  Text,
+  Value,
+  Items,
+  Enabled,
+  Visible,
+  Locked,
+  Bounds,
+  Selection,
+  Focus,
+  Tabs,
   GridContents,  ///< rows, columns, headers or colours: repaint everything
   GridCurrent,   ///< the active cell moved
-  WindowState, MousePointer
+  WindowState,
+  MousePointer,
+  Closed  ///< the form was unloaded
 };
 
 /// State that every control on a form has, and the events that any of them can raise. Setters are
@@ -81,7 +103,12 @@ class Control {
   std::function<void(bool& cancel)> onValidate;
 
  protected:
+  /// Tells the front ends.
   void Changed(Aspect aspect);
+  /// Tells the front ends, and looks whether the focused control can keep the focus.
+  void ReachChanged(Aspect aspect);
+  /// The control was hidden and is visible again.
+  virtual void Reappeared() {}
 
  private:
   Form& form_;

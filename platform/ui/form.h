@@ -2,7 +2,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "platform/ui/control.h"
@@ -14,7 +18,8 @@ namespace qvzj::ui {
 
 class Form;
 
-/// A front end's view of a form: it is told what changed and mirrors it.
+/// A front end's view of a form: it is told what changed and mirrors it. It is told nothing when a
+/// setter left everything as it was.
 class FormObserver {
  public:
   virtual ~FormObserver() = default;
@@ -30,11 +35,15 @@ enum class MousePointer { Default = 0, Hourglass = 11 };
 /// A screen: its controls by name, the focus, and the one door through which the user's acts come
 /// in. Every User… call runs behind the guard: an error that escapes the behaviour goes to
 /// `onError` and never to the caller. A call answers false when the act was not possible (control
-/// hidden, disabled or absent from the screen) or was stopped by a field that failed validation.
+/// hidden, disabled or absent from the screen), was stopped by a field that failed validation, or
+/// ended in an error.
+///
+/// A handler may unload the form, and the owner may destroy it from onUnload: the act that was
+/// under way then ends at once.
 class Form {
  public:
   explicit Form(std::string name) : name_(std::move(name)) {}
-  virtual ~Form() = default;
+  virtual ~Form();
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
@@ -44,6 +53,8 @@ class Form {
   /// Inner size in twips.
   int32_t Width() const { return width_; }
   int32_t Height() const { return height_; }
+  /// The program sets the inner size, before the form is shown; raises no event.
+  void SetSize(int32_t width, int32_t height);
   WindowState GetWindowState() const { return window_state_; }
   MousePointer GetMousePointer() const { return mouse_pointer_; }
   void SetMousePointer(MousePointer pointer);
@@ -63,14 +74,18 @@ class Form {
   /// The program moves the focus: nothing is validated; ignored when the control cannot take it.
   void SetFocus(Control& control);
   /// Moves the focus as the Tab key does: validates the field that is left, goes to the next
-  /// control in tab order, around at the end.
+  /// control in tab order, around at the end. Of an option group the selected one is the stop.
   bool SendTab(bool backwards = false);
   /// Asks the front end to pop up a menu.
   void PopUp(MenuItem& menu, int32_t left, int32_t top);
-  /// Closes the form: raises onUnload once.
+  /// Closes the form: raises onUnload once. A closed form takes no user acts until it is loaded
+  /// again.
   void Unload();
   bool Loaded() const { return loaded_; }
-  void SetLoaded(bool loaded) { loaded_ = loaded; }
+  void SetLoaded(bool loaded);
+  /// True while a user's act runs. What the act hides and shows again keeps the focus, so a front
+  /// end follows the focus only by Aspect::Focus.
+  bool Acting() const { return depth_ > 0; }
 
   // What the user does.
   bool UserFocus(Control& control);
@@ -79,21 +94,23 @@ class Form {
   /// The mouse goes down on a button at x, y (twips inside it): focus, onMouseDown, then onClick.
   bool UserPress(Button& button, int32_t x, int32_t y);
   bool UserDoubleClick(Control& control);
-  /// Sends one key to the focused control; see form_keys.cpp for what each key does.
+  /// Sends one key to the focused control; see form_keys.cpp for what each key does. False also for
+  /// a key that nothing on the form uses.
   bool UserKey(const Key& key);
   /// The user replaces the selection of a text or editable combo box (an input method's commit,
   /// or a native edit that a front end reports).
   bool UserInsert(Control& control, std::string_view text);
   /// A native editor changed the whole text to `text` with the caret at `caret`: the change is
-  /// found, run through the same filters as typing, and the result mirrored back.
+  /// found, run through the same filter as pasting (onEdit), and the result mirrored back.
   bool UserEdited(Control& control, std::string_view text, int32_t caret);
-  /// The user moved the selection inside a text box.
+  /// The user moved the selection inside a box.
   void UserSelect(Control& control, int32_t start, int32_t length);
+  /// Chooses an item; -1 clears the choice where the box allows that.
   bool UserChoose(ComboBox& combo, int32_t index);
   bool UserChoose(ListBox& list, int32_t index);
   bool UserTab(Tabs& tabs, int tab);
   bool UserDate(DatePicker& picker, basic::Date date);
-  /// The user moves the active cell of a grid.
+  /// The user moves the active cell of a grid: onLeaveCell, the move, then onClick.
   bool UserCell(Grid& grid, int32_t column, int32_t row);
   bool UserHeader(Grid& grid, int32_t column);
   bool UserCellDoubleClick(Grid& grid, int32_t column, int32_t row);
@@ -102,7 +119,8 @@ class Form {
   /// The window's close button or the host closes the form; works whatever field has the focus.
   void UserClose();
 
-  /// Runs `act` behind the guard. False when an error escaped and was reported.
+  /// Runs `act` behind the guard. False when an error escaped and was reported. Inside another act
+  /// it just runs: the outermost one catches and reports.
   bool Guard(const std::function<void()>& act);
 
   /// An error escaped a user's act or the load; the text is the engine's or the module's.
@@ -115,9 +133,69 @@ class Form {
 
  private:
   friend class Control;
+
+  /// Thrown inside an act to end it when a handler has closed the form.
+  struct Closed {};
+  enum class Life { Open, Unloaded, Destroyed };
+
   void Join(Control& control);
   void Notify(Control& control, Aspect aspect);
   void Notify(Aspect aspect);
+  void Report(const char* text);
+
+  /// Raises an event. The handler runs from a copy, so that it may replace or destroy itself.
+  template <class Handler, class... Args>
+  void Raise(const Handler& handler, Args&&... args) {
+    if (!handler) return;
+    const std::shared_ptr<Life> life = life_;
+    const Handler running = handler;
+    running(std::forward<Args>(args)...);
+    if (*life != Life::Open) throw Closed{};
+  }
+  /// Runs a user's act behind the guard; false also when the form is closed.
+  bool Act(const std::function<bool()>& act);
+  /// Runs what the program asked for; ends quietly when a handler closed the form.
+  void Run(const std::function<void()>& step);
+
+  // Focus (form_focus.cpp).
+  bool MayLeave();
+  void MoveFocus(Control* control);
+  bool Enter(Control& control);
+  bool Step(bool backwards);
+  std::vector<Control*> TabOrder() const;
+  Control* NextStop(const Control* from, bool backwards) const;
+  void CheckFocus();
+  void SettleFocus();
+
+  // Acts (form_acts.cpp).
+  bool Click(Control& control);
+  bool Press(Button& button);
+  bool Choose(ComboBox& combo, int32_t index);
+  bool Choose(ListBox& list, int32_t index);
+  bool PickTab(Tabs& tabs, int tab);
+  bool PickDate(DatePicker& picker, basic::Date date);
+  bool MoveCell(Grid& grid, int32_t column, int32_t row);
+
+  // Editing (form_edit.cpp).
+  bool EditKey(EditBox& box, const Key& key, int code);
+  bool Paste(EditBox& box);
+  bool Copy(EditBox& box, bool cut);
+  void ReplaceSelection(EditBox& box, std::string inserted);
+  void EditSelection(EditBox& box, const std::function<void(EditText&)>& edit);
+  void Revert(EditBox& box);
+  void TextEdited(EditBox& box);
+
+  // Keys (form_keys.cpp).
+  bool HandleKey(const Key& key);
+  bool ControlKey(Control& control, const Key& key, int code);
+  bool OptionKey(OptionButton& option, const Key& key);
+  bool ComboKey(ComboBox& combo, const Key& key, int code);
+  bool ListKey(ListBox& list, const Key& key, int code);
+  bool TabsKey(Tabs& tabs, const Key& key);
+  bool DateKey(DatePicker& picker, const Key& key);
+  bool GridKey(Grid& grid, const Key& key);
+  bool AltKey(char32_t letter);
+  bool TurnTabs(bool backwards);
 
   std::string name_;
   std::string caption_;
@@ -126,8 +204,12 @@ class Form {
   WindowState window_state_ = WindowState::Normal;
   MousePointer mouse_pointer_ = MousePointer::Default;
   std::vector<Control*> controls_;
+  std::unordered_map<std::string, Control*> by_full_name_;
   std::vector<FormObserver*> observers_;
   Control* focused_ = nullptr;
+  std::shared_ptr<Life> life_ = std::make_shared<Life>(Life::Open);
+  int depth_ = 0;
+  bool validating_ = false;
   bool loaded_ = false;
 };
 

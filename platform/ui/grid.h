@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/basic/column.h"
@@ -23,7 +24,9 @@ class TextOrder {
 
 /// A spreadsheet-like list that holds a million rows. Columns and rows are 1-based; row 0 is the
 /// header. Cells live in packed columns; sorting permutes the rows without moving a cell. Whoever
-/// fills it hides it first and shows it afterwards.
+/// fills it hides it first and shows it afterwards: a hidden grid tells the front ends nothing, and
+/// everything at once when it comes back. A column, row or length that is not there throws
+/// std::out_of_range.
 class Grid : public Control {
  public:
   Grid(Form& form, std::string name, int index = -1, Control* container = nullptr, int page = -1)
@@ -67,21 +70,26 @@ class Grid : public Control {
 
   /// Back colour of a row as 0xRRGGBB; it moves with the row when the grid is sorted.
   std::optional<uint32_t> RowColor(int32_t row) const;
+  /// At most 255 different colours.
   void SetRowColor(int32_t row, uint32_t rgb);
 
   int32_t SortColumn() const { return sort_column_; }
   SortOrder GetSortOrder() const { return sort_order_; }
-  /// Sets the first sort key without sorting.
+  /// Sets the first sort key (column 0: none) without sorting.
   void SetSortKey(int32_t column, SortOrder order);
   /// Orders the rows by the sort key; equal keys keep their order. Numbers and dates order by
-  /// value, texts by `order` (null: by their bytes), empty cells before all others. The active
-  /// cell keeps its place on the screen.
+  /// value, texts by `order` (null: by their bytes), empty cells before all others in either
+  /// order. The active cell keeps its place on the screen. Without a sort key the rows go back to
+  /// the order in which they were filled.
   void Sort(const TextOrder* order);
 
   int32_t ActiveColumn() const { return active_column_; }
   int32_t ActiveRow() const { return active_row_; }
-  /// Makes a cell the active one; no event.
+  /// Makes a cell the active one (row 0: none); no event.
   void SetActive(int32_t column, int32_t row);
+  /// Rows that PageUp and PageDown move by; a front end sets what it shows at once.
+  int32_t PageRows() const { return page_rows_; }
+  void SetPageRows(int32_t rows) { page_rows_ = rows < 1 ? 1 : rows; }
   /// Height of every row in twips.
   int32_t RowHeight() const { return row_height_; }
   void SetRowHeight(int32_t twips);
@@ -109,6 +117,9 @@ class Grid : public Control {
 
   ColumnInfo& Info(int32_t column);
   const ColumnInfo& Info(int32_t column) const;
+  void CheckRow(int32_t row) const;
+  void ContentsChanged();
+  void Reappeared() override;
 
   std::vector<ColumnInfo> columns_;
   int32_t row_count_ = 0;
@@ -120,6 +131,8 @@ class Grid : public Control {
   int32_t active_column_ = 1;
   int32_t active_row_ = 0;
   int32_t row_height_ = 300;
+  int32_t page_rows_ = 20;
+  bool changed_while_hidden_ = false;
 };
 
 }  // namespace qvzj::ui

@@ -10,8 +10,33 @@ namespace qvzj::ui {
 /// others are named.
 struct Key {
   enum class Name {
-    Character, Enter, Tab, Escape, Backspace, Delete, Left, Right, Up, Down, Home, End,
-    PageUp, PageDown, Space, F1, F2, F3, F4, F5, F6, F7, F8, F9, F10, F11, F12
+    Character,
+    Enter,
+    Tab,
+    Escape,
+    Backspace,
+    Delete,
+    Left,
+    Right,
+    Up,
+    Down,
+    Home,
+    End,
+    PageUp,
+    PageDown,
+    Space,
+    F1,
+    F2,
+    F3,
+    F4,
+    F5,
+    F6,
+    F7,
+    F8,
+    F9,
+    F10,
+    F11,
+    F12
   };
   Name name = Name::Character;
   char32_t character = 0;  ///< for Character; Space also carries U+0020

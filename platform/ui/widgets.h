@@ -7,6 +7,7 @@
 
 #include "platform/basic/date.h"
 #include "platform/ui/control.h"
+#include "platform/ui/edit_text.h"
 
 /// The plain controls of a form. Every setter is the program's own act and raises no event; the
 /// `on…` members are what the user's acts raise.
@@ -36,30 +37,27 @@ class Frame : public Control {
       : Control(form, Kind::Frame, std::move(name), index, container, page) {}
 };
 
-/// One line of text, or several when multi-line. Selection and lengths count characters.
-class TextBox : public Control {
+/// What text boxes and editable combo boxes share: a text with a selection. Positions and lengths
+/// count characters. Line breaks are "\n" whatever form they came in.
+class EditBox : public Control {
  public:
-  TextBox(Form& form, std::string name, int index = -1, Control* container = nullptr,
-          int page = -1)
-      : Control(form, Kind::TextBox, std::move(name), index, container, page) {}
-
-  const std::string& Text() const { return text_; }
-  /// Puts a text in, the selection to its start; the text becomes the last valid one (Esc).
-  void SetText(std::string text);
+  const std::string& Text() const { return edit_.Text(); }
   bool Locked() const { return locked_; }
+  /// A locked box shows its text and lets it be copied, and refuses every change by the user.
   void SetLocked(bool locked);
-  bool MultiLine() const { return multi_line_; }
-  void SetMultiLine(bool multi_line) { multi_line_ = multi_line; }
-  /// Right-aligned, for amounts.
-  bool RightAligned() const { return right_aligned_; }
-  void SetRightAligned(bool right) { right_aligned_ = right; }
+  /// True when the user can type into the box.
+  virtual bool TakesText() const = 0;
   /// Most bytes of the Chinese code page that the user may put in; 0 = no limit. Kept by the
-  /// behaviour through `onEdit`.
+  /// behaviour through `onKeyPress` and `onEdit`.
   int16_t MaxLength() const { return max_length_; }
   void SetMaxLength(int16_t bytes) { max_length_ = bytes; }
 
-  int32_t SelStart() const { return sel_start_; }
-  int32_t SelLength() const { return sel_length_; }
+  int32_t SelStart() const { return edit_.SelStart(); }
+  int32_t SelLength() const { return edit_.SelLength(); }
+  /// Place of the caret: one end of the selection.
+  int32_t Caret() const { return edit_.Caret(); }
+  std::string SelText() const { return edit_.Selected(); }
+  /// Selects characters from `start` on; what lies outside the text is cut off.
   void Select(int32_t start, int32_t length);
   void SelectAll();
 
@@ -69,46 +67,68 @@ class TextBox : public Control {
   /// The user changed the text.
   std::function<void()> onChange;
 
+ protected:
+  EditBox(Form& form, Kind kind, std::string name, int index, Control* container, int page)
+      : Control(form, kind, std::move(name), index, container, page) {}
+
+  /// The text, caret to its start; it becomes the last valid one (Esc).
+  void PutText(std::string text);
+  /// The user's edit changed the text.
+  virtual void Edited() {}
+
  private:
   friend class Form;
-  void UserReplaceSelection(std::string inserted);
-  void UserRevert();
 
-  std::string text_;
+  EditText edit_;
   std::string valid_text_;  // what Esc restores
-  int32_t sel_start_ = 0;
-  int32_t sel_length_ = 0;
   int16_t max_length_ = 0;
   bool locked_ = false;
+};
+
+/// One line of text, or several when multi-line.
+class TextBox : public EditBox {
+ public:
+  TextBox(Form& form, std::string name, int index = -1, Control* container = nullptr, int page = -1)
+      : EditBox(form, Kind::TextBox, std::move(name), index, container, page) {}
+
+  /// Puts a text in, the selection to its start; the text becomes the last valid one (Esc).
+  void SetText(std::string text);
+  bool TakesText() const override { return !Locked(); }
+  bool MultiLine() const { return multi_line_; }
+  void SetMultiLine(bool multi_line) { multi_line_ = multi_line; }
+  /// Right-aligned, for amounts.
+  bool RightAligned() const { return right_aligned_; }
+  void SetRightAligned(bool right) { right_aligned_ = right; }
+
+ private:
   bool multi_line_ = false;
   bool right_aligned_ = false;
 };
 
-/// A list of texts that drops down; an editable one also takes a text of its own.
-class ComboBox : public Control {
+/// A list of texts that drops down; an editable one also takes a text of its own. Text() is the
+/// chosen item, or the text typed into an editable box.
+class ComboBox : public EditBox {
  public:
   ComboBox(Form& form, std::string name, int index = -1, Control* container = nullptr,
            int page = -1)
-      : Control(form, Kind::ComboBox, std::move(name), index, container, page) {}
+      : EditBox(form, Kind::ComboBox, std::move(name), index, container, page) {}
 
   const std::vector<std::string>& Items() const { return items_; }
-  void Clear();
+  /// Empties the list, and with it the choice and the text.
+  void Clear() { SetItems({}); }
   void AddItem(std::string item);
-  /// Replaces the whole list at once.
+  /// Replaces the whole list at once; nothing is chosen and the text is empty.
   void SetItems(std::vector<std::string> items);
   /// Index of the chosen item, -1 when none.
   int32_t ListIndex() const { return list_index_; }
-  /// Chooses an item (or none, -1); the text follows.
+  /// Chooses an item (or none, -1); the text follows. Throws std::out_of_range.
   void SetListIndex(int32_t index);
-  /// The chosen item, or the text typed into an editable box.
-  const std::string& Text() const { return text_; }
   /// Shows a text; the item that equals it is chosen, none when there is none. Also a list-only
   /// box can show a text of an older record that is not in its list any more.
   void SetText(std::string text);
   bool Editable() const { return editable_; }
   void SetEditable(bool editable) { editable_ = editable; }
-  bool Locked() const { return locked_; }
-  void SetLocked(bool locked);
+  bool TakesText() const override { return editable_ && !Locked(); }
   /// The user may clear the choice (Delete or Backspace in the box).
   bool Clearable() const { return clearable_; }
   void SetClearable(bool clearable) { clearable_ = clearable; }
@@ -117,45 +137,33 @@ class ComboBox : public Control {
   void SetShownLength(int32_t characters) { shown_length_ = characters; }
   /// An item or text as the user sees it: cut to ShownLength, without trailing blanks.
   std::string Shown(const std::string& text) const;
-  /// Most bytes of the Chinese code page in an editable box; 0 = no limit.
-  int16_t MaxLength() const { return max_length_; }
-  void SetMaxLength(int16_t bytes) { max_length_ = bytes; }
-  int32_t SelStart() const { return sel_start_; }
-  int32_t SelLength() const { return sel_length_; }
-  void Select(int32_t start, int32_t length);
 
   /// The user chose an item or cleared the choice.
   std::function<void()> onClick;
-  /// As TextBox::onEdit, for an editable box.
-  std::function<void(std::string& inserted)> onEdit;
-  /// The user changed the text of an editable box.
-  std::function<void()> onChange;
 
  private:
-  friend class Form;
-  void UserReplaceSelection(std::string inserted);
+  void Edited() override;
+  int32_t IndexOf(const std::string& text) const;
 
   std::vector<std::string> items_;
-  std::string text_;
   int32_t list_index_ = -1;
   int32_t shown_length_ = 0;
-  int32_t sel_start_ = 0;
-  int32_t sel_length_ = 0;
-  int16_t max_length_ = 0;
   bool editable_ = false;
-  bool locked_ = false;
   bool clearable_ = false;
 };
 
+/// The control as a box with a text to edit; null when it is of another kind (or null).
+EditBox* AsEditBox(Control* control);
+
 class ListBox : public Control {
  public:
-  ListBox(Form& form, std::string name, int index = -1, Control* container = nullptr,
-          int page = -1)
+  ListBox(Form& form, std::string name, int index = -1, Control* container = nullptr, int page = -1)
       : Control(form, Kind::ListBox, std::move(name), index, container, page) {}
 
   const std::vector<std::string>& Items() const { return items_; }
   void SetItems(std::vector<std::string> items);
   int32_t ListIndex() const { return list_index_; }
+  /// Throws std::out_of_range.
   void SetListIndex(int32_t index);
   /// The selected item, "" when none.
   std::string Text() const;
@@ -176,6 +184,7 @@ class CheckBox : public Control {
       : Control(form, Kind::CheckBox, std::move(name), index, container, page) {}
 
   int Value() const { return value_; }
+  /// Throws std::out_of_range for a value other than 0, 1 and 2.
   void SetValue(int value);
   bool Ticked() const { return value_ == 1; }
 
@@ -195,10 +204,14 @@ class OptionButton : public Control {
   bool Selected() const { return selected_; }
   /// Selects this option and clears the others of its array.
   void Select();
+  /// True when `other` is another option of the same array in the same container.
+  bool Excludes(const Control& other) const;
 
   std::function<void()> onClick;
 
  private:
+  void SetSelected(bool selected);
+
   bool selected_ = false;
 };
 
@@ -210,7 +223,8 @@ class Tabs : public Control {
         captions_(static_cast<size_t>(count)) {}
 
   int Count() const { return static_cast<int>(captions_.size()); }
-  const std::string& TabCaption(int tab) const { return captions_[static_cast<size_t>(tab)]; }
+  /// Each throws std::out_of_range for a tab that is not there.
+  const std::string& TabCaption(int tab) const { return captions_.at(static_cast<size_t>(tab)); }
   void SetTabCaption(int tab, std::string caption);
   /// Index of the tab in front.
   int Tab() const { return tab_; }

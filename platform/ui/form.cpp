@@ -1,0 +1,138 @@
+#include "platform/ui/form.h"
+
+#include <algorithm>
+#include <cassert>
+#include <exception>
+
+namespace qvzj::ui {
+
+Form::~Form() { *life_ = Life::Destroyed; }
+
+void Form::SetCaption(std::string caption) {
+  if (caption == caption_) return;
+  caption_ = std::move(caption);
+  Notify(Aspect::Caption);
+}
+
+void Form::SetSize(int32_t width, int32_t height) {
+  if (width == width_ && height == height_) return;
+  width_ = width;
+  height_ = height;
+  Notify(Aspect::Bounds);
+}
+
+void Form::SetMousePointer(MousePointer pointer) {
+  if (pointer == mouse_pointer_) return;
+  mouse_pointer_ = pointer;
+  Notify(Aspect::MousePointer);
+}
+
+Control* Form::Find(std::string_view name, int index) const {
+  std::string full_name(name);
+  if (index >= 0) full_name += "(" + std::to_string(index) + ")";
+  return FindFullName(full_name);
+}
+
+Control* Form::FindFullName(std::string_view full_name) const {
+  const auto found = by_full_name_.find(std::string(full_name));
+  return found == by_full_name_.end() ? nullptr : found->second;
+}
+
+void Form::AddObserver(FormObserver* observer) { observers_.push_back(observer); }
+
+void Form::RemoveObserver(FormObserver* observer) { std::erase(observers_, observer); }
+
+void Form::PopUp(MenuItem& menu, int32_t left, int32_t top) {
+  const std::vector<FormObserver*> told = observers_;
+  for (FormObserver* observer : told) observer->PopUpMenu(*this, menu, left, top);
+}
+
+void Form::Unload() {
+  if (*life_ != Life::Open) return;
+  *life_ = Life::Unloaded;
+  loaded_ = false;
+  Notify(Aspect::Closed);
+  const std::function<void()> unload = onUnload;  // it may destroy the form
+  if (unload) unload();
+}
+
+void Form::SetLoaded(bool loaded) {
+  loaded_ = loaded;
+  if (loaded) *life_ = Life::Open;
+}
+
+bool Form::Guard(const std::function<void()>& act) {
+  if (depth_ > 0) {
+    act();
+    return true;
+  }
+  const std::shared_ptr<Life> life = life_;
+  depth_ = 1;
+  bool done = true;
+  const auto failed = [&](const char* text) {
+    done = false;
+    if (*life != Life::Destroyed) Report(text);
+  };
+  const auto guarded = [&](const std::function<void()>& step) {
+    try {
+      step();
+    } catch (const Closed&) {
+      // The act ends here, as it should.
+    } catch (const std::exception& error) {
+      failed(error.what());
+    } catch (...) {
+      failed("Unknown error");
+    }
+  };
+  guarded(act);
+  if (*life == Life::Open) guarded([this] { SettleFocus(); });
+  if (*life != Life::Destroyed) depth_ = 0;
+  return done;
+}
+
+void Form::Report(const char* text) {
+  assert(onError && "an error escaped and the form has nobody to report it to");
+  if (!onError) return;
+  try {
+    const auto report = onError;
+    report(text);
+  } catch (...) {
+    // The report itself failed: there is no further place to turn to, and the host must not see it.
+  }
+}
+
+bool Form::Act(const std::function<bool()>& act) {
+  if (*life_ != Life::Open) return false;
+  bool possible = true;  // an act that closed the form was possible
+  const bool done = Guard([&] { possible = act(); });
+  return done && possible;
+}
+
+void Form::Run(const std::function<void()>& step) {
+  const bool nested = depth_ > 0;
+  try {
+    step();
+  } catch (const Closed&) {
+    if (nested) throw;
+  }
+}
+
+void Form::Join(Control& control) {
+  control.SetTabIndex(static_cast<int>(controls_.size()));
+  controls_.push_back(&control);
+  [[maybe_unused]] const bool added = by_full_name_.emplace(control.FullName(), &control).second;
+  assert(added && "two controls of one name");
+}
+
+void Form::Notify(Control& control, Aspect aspect) {
+  if (observers_.empty()) return;
+  const std::vector<FormObserver*> told = observers_;  // one may leave while it is told
+  for (FormObserver* observer : told) observer->ControlChanged(control, aspect);
+}
+
+void Form::Notify(Aspect aspect) {
+  const std::vector<FormObserver*> told = observers_;
+  for (FormObserver* observer : told) observer->FormChanged(*this, aspect);
+}
+
+}  // namespace qvzj::ui
