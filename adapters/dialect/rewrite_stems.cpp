@@ -48,8 +48,7 @@ std::optional<StemTest> StemTestAt(const Tokens& tokens, size_t at, const Scope&
 std::string RangeCondition(const StemTest& test, const Target& target) {
   const StemRange range = RangeOfStem(test.stem);
   const std::string column = Wrap(target.compared_column, test.column);
-  std::string condition =
-      column + ">=" + Wrap(target.compared_text, QuoteText(range.first));
+  std::string condition = column + ">=" + Wrap(target.compared_text, QuoteText(range.first));
   if (range.past) {
     condition += " and " + column + "<" + Wrap(target.compared_text, QuoteText(*range.past));
   }
@@ -93,8 +92,8 @@ bool RewriteGreatestUnderStem(Tokens& tokens, const Scope& scope, const Target& 
   inner.insert(inner.begin(), {{Kind::Symbol, "(", true}, {Kind::Word, "select", false}});
   inner.insert(inner.end(), tokens.begin() + static_cast<Tokens::difference_type>(from),
                tokens.end());
-  inner.push_back({Kind::Raw, "order by " + Wrap(target.compared_key, test->column) +
-                                  " desc limit 1", true});
+  inner.push_back(
+      {Kind::Raw, "order by " + Wrap(target.compared_key, test->column) + " desc limit 1", true});
   inner.push_back({Kind::Symbol, ")", false});
   const Tokens name(tokens.begin() + static_cast<Tokens::difference_type>(call_end + 1),
                     tokens.begin() + static_cast<Tokens::difference_type>(from));

@@ -62,7 +62,9 @@ void SwapRightJoin(Tokens& tokens) {
   const bool one_table_each = right - from <= 4 && on - join <= 4;
   if (!IsWord(tokens[from], "from") || on == tokens.size() || !one_table_each) return;
 
-  const auto at = [&](size_t i) { return tokens.begin() + static_cast<Tokens::difference_type>(i); };
+  const auto at = [&](size_t i) {
+    return tokens.begin() + static_cast<Tokens::difference_type>(i);
+  };
   const Tokens dropped(at(from + 1), at(right));
   const Tokens kept(at(join + 1), at(on));
   Tokens swapped(tokens.begin(), at(from + 1));

@@ -25,8 +25,8 @@ size_t AfterRun(std::string_view text, size_t first, char closing, const char* w
     }
     return i + 1;
   }
-  throw DataError(std::string("Syntax error: ") + what + " without an end: " +
-                  std::string(text.substr(first)));
+  throw DataError(std::string("Syntax error: ") + what +
+                  " without an end: " + std::string(text.substr(first)));
 }
 
 size_t AfterNumber(std::string_view text, size_t i) {
@@ -86,8 +86,8 @@ Tokens Tokenize(std::string_view statement) {
     const Piece piece = NextPiece(statement, at);
     // Two minus signs in a row would begin a comment for every engine.
     const bool minus = statement[at] == '-' && !tokens.empty() && tokens.back().text == "-";
-    tokens.push_back({piece.kind, std::string(statement.substr(at, piece.end - at)),
-                      blank || minus});
+    tokens.push_back(
+        {piece.kind, std::string(statement.substr(at, piece.end - at)), blank || minus});
     blank = false;
     at = piece.end;
   }
@@ -137,9 +137,7 @@ std::string TextOf(const Token& token) {
   return basic::Replace(std::string_view(token.text).substr(1, token.text.size() - 2), "''", "'");
 }
 
-std::string QuoteText(std::string_view text) {
-  return "'" + basic::Replace(text, "'", "''") + "'";
-}
+std::string QuoteText(std::string_view text) { return "'" + basic::Replace(text, "'", "''") + "'"; }
 
 size_t AfterClosing(const Tokens& tokens, size_t open) {
   int depth = 0;

@@ -16,8 +16,8 @@ struct Token {
     Text,       ///< 'text', quotes included, a doubled quote for each quote
     Date,       ///< #mm/dd/yyyy#
     Number,
-    Symbol,     ///< operator or punctuation, one or two characters
-    Raw,        ///< a finished piece of the target's statement, which no later step looks into
+    Symbol,  ///< operator or punctuation, one or two characters
+    Raw,     ///< a finished piece of the target's statement, which no later step looks into
   };
   Kind kind;
   std::string text;    ///< as it stands in the statement

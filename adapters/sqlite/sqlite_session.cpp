@@ -1,0 +1,121 @@
+#include "adapters/sqlite/sqlite_session.h"
+
+#include <sqlite3.h>
+
+#include "adapters/sqlite/disk.h"
+#include "adapters/sqlite/sqlite_functions.h"
+#include "adapters/sqlite/sqlite_schema.h"
+#include "platform/basic/errors.h"
+
+namespace qvzj {
+namespace {
+
+/// Opens the handle; the caller closes it also after a failure.
+int OpenHandle(const std::string& file, const SqliteOptions& options, sqlite3** database) {
+  int flags = options.read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+  if (options.create && !options.read_only) flags |= SQLITE_OPEN_CREATE;
+  return sqlite3_open_v2(file.c_str(), database, flags | SQLITE_OPEN_EXRESCODE, nullptr);
+}
+
+/// Chooses the journal. A file that another process is using right now keeps the one it has.
+void ChooseJournal(sqlite3* database, const std::string& file) {
+  if (sqlite3_db_readonly(database, "main") == 1) return;
+  const char* sql = OnLocalDisk(file) ? "pragma journal_mode=wal" : "pragma journal_mode=delete";
+  const int result = sqlite3_exec(database, sql, nullptr, nullptr, nullptr) & 0xFF;
+  const bool usable = result == SQLITE_OK || result == SQLITE_BUSY || result == SQLITE_LOCKED ||
+                      result == SQLITE_READONLY || result == SQLITE_CANTOPEN;
+  if (!usable) ThrowSqlite(database);
+}
+
+}  // namespace
+
+void SqliteSession::Closer::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
+
+SqliteSession::SqliteSession(sqlite3* database, const SqliteOptions& options)
+    : database_(database),
+      schema_(std::make_unique<SqliteSchema>(database)),
+      language_(options.language) {}
+
+SqliteSession::~SqliteSession() = default;
+
+std::unique_ptr<SqliteSession> OpenSqlite(const std::string& file, const SqliteOptions& options) {
+  sqlite3* handle = nullptr;
+  const int result = OpenHandle(file, options, &handle);
+  std::unique_ptr<SqliteSession> session(new SqliteSession(handle, options));
+  try {
+    if (result != SQLITE_OK) ThrowSqlite(handle);
+    sqlite3_busy_timeout(handle, static_cast<int>(options.busy_timeout.count()));
+    RegisterFunctions(handle);
+    // The file is first looked into here: no database, or locked for good, shows now.
+    session->NativeScript("select count(*) from sqlite_master");
+    ChooseJournal(handle, file);
+    session->NativeScript("pragma synchronous=full; pragma cache_size=-65536");
+  } catch (const DataError& error) {
+    throw DataError(file + ": " + error.what());
+  }
+  return session;
+}
+
+dialect::Translation SqliteSession::Translate(std::string_view statement) const {
+  const bool by_strokes = language_ && language_() == 1;
+  const dialect::Target target =
+      dialect::SqliteTarget(by_strokes ? kStrokeCollation : kPinyinCollation);
+  return dialect::Translate(statement, target, *schema_);
+}
+
+void SqliteSession::Execute(std::string_view statement) { Query(statement); }
+
+data::Recordset SqliteSession::Query(std::string_view statement) {
+  const dialect::Translation translation = Translate(statement);
+  if (translation.added) {
+    const auto& [table, column] = *translation.added;
+    if (schema_->TypeOf(table, column) != dialect::ColumnType::Unknown) return {{}, {}};
+    schema_->Forget();
+  }
+  SqliteStatement prepared = Prepare(translation.text);
+  if (prepared.ParameterCount() > 0) throw DataError("No value given for a parameter");
+  return prepared.ReadAll();
+}
+
+data::Recordset SqliteSession::Native(std::string_view sql) { return Prepare(sql).ReadAll(); }
+
+void SqliteSession::NativeScript(std::string_view sql) {
+  while (true) {
+    SqliteStatement statement = SqliteStatement::TakeFrom(database_.get(), sql);
+    if (statement.Empty()) return;
+    statement.Run();
+  }
+}
+
+SqliteStatement SqliteSession::Prepare(std::string_view sql) { return {database_.get(), sql}; }
+
+int64_t SqliteSession::Changes() const { return sqlite3_changes64(database_.get()); }
+
+int64_t SqliteSession::LastId() const { return sqlite3_last_insert_rowid(database_.get()); }
+
+std::string SqliteSession::CheckIntegrity() {
+  std::string report;
+  data::Recordset lines = Native("pragma integrity_check");
+  for (; !lines.Eof(); lines.MoveNext()) {
+    if (lines.Text(0) == "ok") continue;
+    if (!report.empty()) report += '\n';
+    report += lines.Text(0);
+  }
+  return report;
+}
+
+SqliteTransaction::SqliteTransaction(SqliteSession& session) : session_(session) {
+  session_.NativeScript("begin immediate");
+}
+
+SqliteTransaction::~SqliteTransaction() {
+  if (!open_ || sqlite3_get_autocommit(session_.Handle())) return;
+  sqlite3_exec(session_.Handle(), "rollback", nullptr, nullptr, nullptr);
+}
+
+void SqliteTransaction::Commit() {
+  session_.NativeScript("commit");
+  open_ = false;
+}
+
+}  // namespace qvzj

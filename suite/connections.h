@@ -1,0 +1,39 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+#include "platform/data/connection.h"
+
+namespace qvzj {
+
+struct ConnectionOptions {
+  /// How long a statement waits for another process that holds the data file.
+  std::chrono::milliseconds busy_timeout{10000};
+  /// Language of the user, asked at every statement: texts order by pinyin for 0 and by strokes
+  /// for 1. Empty: by pinyin.
+  std::function<int()> language;
+};
+
+/// The suite's connection component: kind 0 is the data file in the folder `path`, which must be
+/// there; it is never created here.
+class SuiteConnections : public data::ConnectionComponent {
+ public:
+  explicit SuiteConnections(ConnectionOptions connection_options = {})
+      : options(std::move(connection_options)) {}
+
+  bool OpenConnection(uint8_t kind, data::Connection& connection, const std::string& path,
+                      const std::string& password, const std::string& user_id,
+                      const std::string& default_database) override;
+  /// Why the last OpenConnection answered false; "" after one that answered true.
+  const std::string& LastError() const { return last_error_; }
+
+  /// May be changed at any time; holds for connections opened afterwards.
+  ConnectionOptions options;
+
+ private:
+  std::string last_error_;
+};
+
+}  // namespace qvzj

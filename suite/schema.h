@@ -1,0 +1,15 @@
+#pragma once
+
+#include "adapters/sqlite/sqlite_session.h"
+
+namespace qvzj {
+
+/// Name of the data file in a data folder.
+inline constexpr const char* kDataFile = "qvjxc.db";
+
+/// Makes the suite's tables and indexes that are not there yet; what is there stays as it is.
+/// Texts compare without ASCII case, dates are kept as yyyy-mm-dd, and the id of a deleted ledger
+/// entry is never given again. Throws DataError.
+void CreateSchema(SqliteSession& session);
+
+}  // namespace qvzj
