@@ -86,9 +86,7 @@ void qvJxc_Zj::Open(int16_t run_mode, int16_t show_mode) {
 
 void qvJxc_Zj::ShowForm(int16_t run_mode) {
   if (!Form()) {
-    // A closed form may still be inside the event that closed it, when the host opens the control
-    // again from there; it is kept until the next one is closed.
-    closed_form_ = std::move(form_);
+    DropForm();
     form_ = std::make_unique<frmZj>();
   }
   try {
@@ -96,12 +94,20 @@ void qvJxc_Zj::ShowForm(int16_t run_mode) {
     LoadForm(*form_);
   } catch (...) {
     if (!Form()) {
-      form_.reset();
+      form_->Unload();
       CloseData();
+      DropForm();
     }
     throw;
   }
   Around().presenter->Show(*form_, Shared().showmode == 1);
+  if (form_ && !Form()) DropForm();  // a modal one is over
+}
+
+void qvJxc_Zj::DropForm() {
+  // The host may open the control again from the very event that closed the form.
+  if (form_ && form_->Acting()) closed_form_ = std::move(form_);
+  form_.reset();
 }
 
 void qvJxc_Zj::setMyTaskID(int32_t value) { Shared().myTaskID = value; }

@@ -60,9 +60,10 @@ class qvJxc_Zj {
  private:
   void Open(int16_t run_mode, int16_t show_mode);
   void ShowForm(int16_t run_mode);
+  void DropForm();
 
   std::unique_ptr<frmZj> form_;
-  std::unique_ptr<frmZj> closed_form_;
+  std::unique_ptr<frmZj> closed_form_;  // still inside the event that closed it
 };
 
 }  // namespace qvzj

@@ -53,7 +53,7 @@ int32_t ByteLen(const std::string& text) {
   return static_cast<int32_t>(Around().ansi->Encode(text).size());
 }
 
-void LimitKeys(const ui::TextBox& box, int& key, int16_t max, bool numeric) {
+void LimitKeys(const ui::EditBox& box, int& key, int16_t max, bool numeric) {
   const bool pasting = key == ui::kKeyCtrlV;
   if (max == 0 || (key < ' ' && !pasting)) return;
   const std::string inserted =

@@ -29,7 +29,7 @@ int32_t ByteLen(const std::string& text);
 /// character typed, or the clipboard's text for Ctrl+V, does not fit any more. `numeric` also
 /// drops every key that cannot belong to a number (digits, one point, a leading minus). With `max`
 /// 0, and for control keys other than Ctrl+V, it does nothing.
-void LimitKeys(const ui::TextBox& box, int& key, int16_t max, bool numeric = false);
+void LimitKeys(const ui::EditBox& box, int& key, int16_t max, bool numeric = false);
 /// Cuts `inserted` so that a field of `max` bytes (0 = no limit) whose text is `text` with
 /// `selected` being replaced holds it; says so when it had to cut. For what no key press announces
 /// (input methods).
