@@ -1,0 +1,26 @@
+#include "suite/export/replaced_file.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "platform/basic/errors.h"
+
+namespace qvzj {
+namespace fs = std::filesystem;
+
+ReplacedFile::ReplacedFile(std::string path)
+    : path_(std::move(path)), temporary_(path_ + ".part") {}
+
+ReplacedFile::~ReplacedFile() {
+  std::error_code ignored;
+  if (!committed_) fs::remove(temporary_, ignored);
+}
+
+void ReplacedFile::Commit() {
+  std::error_code failure;
+  fs::rename(temporary_, path_, failure);
+  if (failure) throw Error(path_ + ": " + failure.message());
+  committed_ = true;
+}
+
+}  // namespace qvzj

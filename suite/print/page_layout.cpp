@@ -1,0 +1,308 @@
+#include "suite/print/page_layout.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/basic/number.h"
+#include "platform/basic/text.h"
+#include "suite/print/amount_words.h"
+#include "suite/print/print_words.h"
+
+namespace qvzj {
+namespace {
+
+constexpr int32_t kProgressRows = 1000;     // rows between two progress reports
+constexpr double kTitleSize = 16;
+constexpr double kTextSize = 9;             // head, foot and totals
+constexpr double kLargestTable = 9;
+constexpr double kSmallestTable = 7;        // below this a line is wrapped rather than shrunk
+constexpr double kTiny = 5;                 // what many columns may still come down to
+constexpr double kPadding = 0.7;            // both sides of a cell, in em
+constexpr double kNarrowestWrap = 5;        // room a wrapped column keeps, in em
+constexpr double kLine = 1.35;              // line height, in em
+constexpr int kTotalsInARow = 3;
+constexpr int32_t kRateColumn = 13;         // of the ledger grid: rate of the entry's currency
+constexpr int16_t kLedger = 1;
+
+}  // namespace
+
+PageLayout::PageLayout(const PrintJob& job, basic::Date print_date, const TextMetrics& metrics,
+                       const Paper& paper, const PrintProgress& progress)
+    : job_(job), grid_(*job.grid), print_date_(print_date), metrics_(metrics), paper_(paper) {
+  ChooseColumns();
+  cancelled_ = !MeasureColumns(progress);
+  if (cancelled_) return;
+  FitWidths();
+  BuildTotals();
+  cancelled_ = !BreakPages(progress);
+  if (cancelled_) first_rows_.clear();
+}
+
+void PageLayout::ChooseColumns() {
+  for (int32_t column = 1; column <= grid_.ColumnCount(); ++column) {
+    if (grid_.ColumnHidden(column)) continue;
+    columns_.push_back({column, grid_.ColumnDecimals(column) >= 0,
+                        metrics_.Width(grid_.Header(column))});
+  }
+}
+
+bool PageLayout::MeasureColumns(const PrintProgress& progress) {
+  for (int32_t row = 1; row <= grid_.RowCount(); ++row) {
+    if (progress && row % kProgressRows == 0 && !progress(row, 2 * int64_t{grid_.RowCount()})) {
+      return false;
+    }
+    for (PrintColumn& column : columns_) {
+      column.needed =
+          std::max(column.needed, metrics_.Width(grid_.CellText(column.column, row)));
+    }
+  }
+  return true;
+}
+
+double PageLayout::NaturalWidth(double size) const {
+  double width = 0;
+  for (const PrintColumn& column : columns_) width += (column.needed + kPadding) * size;
+  return width;
+}
+
+void PageLayout::FitWidths() {
+  size_ = kLargestTable;
+  if (NaturalWidth(size_) > InnerWidth()) landscape_ = true;
+  while (NaturalWidth(size_) > InnerWidth() && size_ > kSmallestTable) size_ -= 0.5;
+  if (NaturalWidth(size_) > InnerWidth()) {
+    wraps_ = true;
+    while (!WrapInto(InnerWidth(), size_) && size_ > kTiny) size_ -= 0.5;
+    return;
+  }
+  for (PrintColumn& column : columns_) column.width = (column.needed + kPadding) * size_;
+  SpreadSlack();
+}
+
+/// Gives every column its natural width but cuts the widest texts to one common limit, so that the
+/// table fills `room`. False when that limit would be too narrow to read; the widths then still
+/// fit the room.
+bool PageLayout::WrapInto(double room, double size) {
+  std::vector<double> texts;
+  double fixed = 0;
+  for (const PrintColumn& column : columns_) {
+    fixed += kPadding * size;
+    if (column.number) {
+      fixed += column.needed * size;
+    } else {
+      texts.push_back(column.needed * size);
+    }
+  }
+  std::sort(texts.begin(), texts.end());
+  double left = room - fixed;
+  double limit = 0;
+  for (size_t i = 0; i < texts.size(); ++i) {
+    limit = left / static_cast<double>(texts.size() - i);
+    if (texts[i] > limit) break;
+    left -= texts[i];
+  }
+  limit = std::max(limit, size);
+  for (PrintColumn& column : columns_) {
+    const double needed = column.needed * size;
+    column.width = kPadding * size + (column.number ? needed : std::min(needed, limit));
+  }
+  return limit >= kNarrowestWrap * size;
+}
+
+void PageLayout::SpreadSlack() {
+  double width = 0;
+  for (const PrintColumn& column : columns_) width += column.width;
+  const double stretch = width > 0 ? InnerWidth() / width : 1;
+  for (PrintColumn& column : columns_) column.width *= stretch;
+}
+
+/// True when every entry listed is in the currency whose rate is 1.
+bool PageLayout::LedgerInLocalCurrency() const {
+  if (job_.kind != kLedger || grid_.ColumnCount() < kRateColumn) return false;
+  for (int32_t row = 1; row <= grid_.RowCount(); ++row) {
+    if (grid_.CellNumber(kRateColumn, row) != 1) return false;
+  }
+  return true;
+}
+
+void PageLayout::BuildTotals() {
+  const PrintWords& words = WordsOf(job_.language);
+  totals_.push_back(words.count_before + std::to_string(grid_.RowCount()) + words.count_after);
+  if (job_.kind != kLedger) return;  // a register's page does not carry the ledger's totals
+  for (size_t i = 0; i + 1 < job_.totals.size(); i += 2) {
+    totals_.push_back(job_.totals[i] + " " + job_.totals[i + 1]);
+  }
+  if (!job_.totals.empty() && LedgerInLocalCurrency()) {
+    in_words_ = words.amount_in_words +
+                AmountInWords(basic::Val(job_.totals.back()), job_.language);
+  }
+}
+
+std::vector<std::string> PageLayout::Wrap(const std::string& text, double room) const {
+  std::vector<std::string> lines;
+  std::string line;
+  double width = 0;
+  for (char32_t code : basic::CodePoints(text)) {
+    const std::string character = basic::FromCodePoint(code);
+    const double advance = metrics_.Width(character) * size_;
+    if (!line.empty() && width + advance > room) {
+      const size_t blank = line.rfind(' ');
+      std::string carried;
+      if (code < 0x80 && code != U' ' && blank != std::string::npos && blank > 0) {
+        carried = line.substr(blank + 1);
+        line.erase(blank);
+      }
+      lines.push_back(std::exchange(line, carried));
+      width = metrics_.Width(line) * size_;
+      if (code == U' ' && line.empty()) continue;
+    }
+    line += character;
+    width += advance;
+  }
+  lines.push_back(line);
+  return lines;
+}
+
+int32_t PageLayout::RowLines(int32_t row) const {
+  if (!wraps_) return 1;
+  size_t lines = 1;
+  for (const PrintColumn& column : columns_) {
+    const double room = column.width - kPadding * size_;
+    if (column.number || column.needed * size_ <= room) continue;
+    lines = std::max(lines, Wrap(grid_.CellText(column.column, row), room).size());
+  }
+  return static_cast<int32_t>(lines);
+}
+
+double PageLayout::RowHeight(int32_t lines) const {
+  return (lines * kLine + kPadding / 2) * size_;
+}
+
+double PageLayout::RowsTop() const {
+  return paper_.margin + kTitleSize * kLine + kTextSize * (kLine + 0.5) + RowHeight(1);
+}
+
+double PageLayout::RowsBottom() const {
+  return PageHeight() - paper_.margin - kTextSize * (kLine + 0.5);
+}
+
+double PageLayout::TotalsHeight() const {
+  const auto rows = (totals_.size() + kTotalsInARow - 1) / kTotalsInARow;
+  return (static_cast<double>(rows) + (in_words_.empty() ? 0 : 1) + 0.5) * kLine * kTextSize;
+}
+
+bool PageLayout::BreakPages(const PrintProgress& progress) {
+  const int32_t rows = grid_.RowCount();
+  double y = RowsTop();
+  first_rows_.push_back(1);
+  for (int32_t row = 1; row <= rows; ++row) {
+    if (progress && row % kProgressRows == 0 && !progress(int64_t{rows} + row, 2 * int64_t{rows})) {
+      return false;
+    }
+    const double height = RowHeight(RowLines(row));
+    if (y + height > RowsBottom() && row > first_rows_.back()) {
+      first_rows_.push_back(row);
+      y = RowsTop();
+    }
+    y += height;
+  }
+  if (y + TotalsHeight() > RowsBottom()) first_rows_.push_back(rows + 1);
+  return true;
+}
+
+int32_t PageLayout::LastRow(int page) const {
+  return page + 1 < PageCount() ? first_rows_[static_cast<size_t>(page) + 1] - 1
+                                : grid_.RowCount();
+}
+
+Page PageLayout::MakePage(int number) const {
+  Page page;
+  PlaceHead(page);
+  double y = RowsTop();
+  std::vector<double> ys{y - RowHeight(1), y};
+  for (int32_t row = first_rows_[static_cast<size_t>(number)]; row <= LastRow(number); ++row) {
+    y = PlaceRow(page, row, y);
+    ys.push_back(y);
+  }
+  PlaceGridLines(page, ys);
+  if (number + 1 == PageCount()) PlaceTotals(page, y + 0.5 * kTextSize);
+  PlaceFoot(page, number);
+  return page;
+}
+
+void PageLayout::PlaceHead(Page& page) const {
+  const double left = paper_.margin;
+  double y = paper_.margin;
+  page.texts.push_back(
+      {left, y, InnerWidth(), kTitleSize, PrintAlign::Center, true, job_.title});
+  y += kTitleSize * kLine;
+  page.texts.push_back({left, y, InnerWidth(), kTextSize, PrintAlign::Left, false, job_.company});
+  page.texts.push_back({left, y, InnerWidth(), kTextSize, PrintAlign::Right, false,
+                        WordsOf(job_.language).print_date + basic::FormatIso(print_date_)});
+  y = RowsTop() - RowHeight(1);
+  double x = left;
+  for (const PrintColumn& column : columns_) {
+    page.texts.push_back({x, y + kPadding / 4 * size_, column.width, size_, PrintAlign::Center,
+                          true, grid_.Header(column.column)});
+    x += column.width;
+  }
+}
+
+double PageLayout::PlaceRow(Page& page, int32_t row, double y) const {
+  const double height = RowHeight(RowLines(row));
+  if (const auto color = grid_.RowColor(row)) {
+    double width = 0;
+    for (const PrintColumn& column : columns_) width += column.width;
+    page.fills.push_back({paper_.margin, y, width, height, *color});
+  }
+  double x = paper_.margin;
+  for (const PrintColumn& column : columns_) {
+    const double room = column.width - kPadding * size_;
+    double line_y = y + kPadding / 4 * size_;
+    const std::string text = grid_.CellText(column.column, row);
+    for (std::string& line : column.number || !wraps_ ? std::vector<std::string>{text}
+                                                      : Wrap(text, room)) {
+      if (!line.empty()) {
+        page.texts.push_back({x + kPadding / 2 * size_, line_y, room, size_,
+                              column.number ? PrintAlign::Right : PrintAlign::Left, false,
+                              std::move(line)});
+      }
+      line_y += kLine * size_;
+    }
+    x += column.width;
+  }
+  return y + height;
+}
+
+void PageLayout::PlaceGridLines(Page& page, const std::vector<double>& ys) const {
+  double x = paper_.margin;
+  page.lines.push_back({x, ys.front(), x, ys.back()});
+  for (const PrintColumn& column : columns_) {
+    x += column.width;
+    page.lines.push_back({x, ys.front(), x, ys.back()});
+  }
+  for (double y : ys) page.lines.push_back({paper_.margin, y, x, y});
+}
+
+void PageLayout::PlaceTotals(Page& page, double y) const {
+  const double room = InnerWidth() / kTotalsInARow;
+  for (size_t i = 0; i < totals_.size(); ++i) {
+    const double x = paper_.margin + room * static_cast<double>(i % kTotalsInARow);
+    page.texts.push_back({x, y, room, kTextSize, PrintAlign::Left, true, totals_[i]});
+    if (i % kTotalsInARow == kTotalsInARow - 1 || i + 1 == totals_.size()) y += kLine * kTextSize;
+  }
+  if (in_words_.empty()) return;
+  page.texts.push_back(
+      {paper_.margin, y, InnerWidth(), kTextSize, PrintAlign::Left, true, in_words_});
+}
+
+void PageLayout::PlaceFoot(Page& page, int number) const {
+  const PrintWords& words = WordsOf(job_.language);
+  const double y = PageHeight() - paper_.margin - kTextSize * kLine;
+  page.texts.push_back({paper_.margin, y, InnerWidth(), kTextSize, PrintAlign::Left, false,
+                        words.made_by + job_.user});
+  page.texts.push_back({paper_.margin, y, InnerWidth(), kTextSize, PrintAlign::Right, false,
+                        words.page_before + std::to_string(number + 1) + words.page_between +
+                            std::to_string(PageCount()) + words.page_after});
+}
+
+}  // namespace qvzj

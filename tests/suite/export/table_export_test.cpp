@@ -1,0 +1,107 @@
+#include "suite/export/table_export.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "platform/basic/errors.h"
+#include "platform/ui/form.h"
+
+namespace qvzj {
+namespace {
+
+namespace fs = std::filesystem;
+
+class TableExportTest : public testing::Test {
+ protected:
+  TableExportTest() {
+    fs::create_directories(folder);
+    grid.SetColumnCount(4);
+    grid.SetRowCount(2);
+    grid.SetHeader(1, "日期");
+    grid.SetHeader(2, "摘要");
+    grid.SetHeader(3, "金额");
+    grid.SetColumnDecimals(3, 2);
+    grid.SetColumnHidden(4, true);
+    basic::Column dates;
+    dates.AppendDate(basic::Date::FromYmd(2024, 3, 1));
+    dates.AppendDate(basic::Date::FromYmd(2024, 3, 2));
+    grid.TakeColumn(1, std::move(dates));
+    grid.SetCellText(2, 1, "货款, \"首付\"");
+    grid.SetCellText(2, 2, "=1+1");
+    grid.SetCellNumber(3, 1, -1234.5);
+    grid.SetCellText(4, 1, "hidden");
+    request.grid = &grid;
+    request.title = "往来总帐清单";
+    request.totals = {"应收金额:", "100.00"};
+    request.path = (folder / "out").string();
+  }
+  ~TableExportTest() override { fs::remove_all(folder); }
+
+  std::string Written() const {
+    std::ifstream in(request.path, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    return bytes.str();
+  }
+
+  fs::path folder = fs::temp_directory_path() /
+                    ("qvzj-export-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
+                     "-" + ::testing::UnitTest::GetInstance()->current_test_info()->name());
+  ui::Form form{"form"};
+  ui::Grid grid{form, "Grid2"};
+  ExportRequest request;
+};
+
+TEST_F(TableExportTest, WritesTheVisibleColumnsAsCommaSeparatedUtf8WithAMark) {
+  const ExportResult result = ExportCsv(request, CsvEncoding::Utf8WithBom);
+  EXPECT_EQ(result.rows, 2);
+  EXPECT_EQ(Written(),
+            "\xEF\xBB\xBF日期,摘要,金额\r\n"
+            "2024-03-01,\"货款, \"\"首付\"\"\",-1234.50\r\n"
+            "2024-03-02,'=1+1,\r\n"
+            "应收金额:,100.00\r\n");
+}
+
+TEST_F(TableExportTest, WritesTheChineseCodePageOnRequest) {
+  ExportCsv(request, CsvEncoding::Gb18030);
+  EXPECT_EQ(Written().substr(0, 4), "\xC8\xD5\xC6\xDA");  // 日期
+}
+
+TEST_F(TableExportTest, CountsWhatTheCodePageCannotHold) {
+  grid.SetCellText(2, 1, "bad \xFF byte");
+  EXPECT_EQ(ExportCsv(request, CsvEncoding::Gb18030).lost_characters, 1);
+  EXPECT_NE(Written().find("bad ? byte"), std::string::npos);
+}
+
+TEST_F(TableExportTest, KeepsRareCharactersInTheChineseCodePage) {
+  grid.SetCellText(2, 1, "𠀀");
+  EXPECT_EQ(ExportCsv(request, CsvEncoding::Gb18030).lost_characters, 0);
+}
+
+TEST_F(TableExportTest, LeavesTheOldFileWhenTheUserCancels) {
+  std::ofstream(request.path) << "old";
+  grid.SetRowCount(5000);
+  request.progress = [](int64_t, int64_t) { return false; };
+  EXPECT_TRUE(ExportCsv(request, CsvEncoding::Utf8WithBom).cancelled);
+  EXPECT_TRUE(ExportXlsx(request).cancelled);
+  EXPECT_EQ(Written(), "old");
+  EXPECT_FALSE(fs::exists(request.path + ".part"));
+}
+
+TEST_F(TableExportTest, SaysWhenTheFileCannotBeWritten) {
+  request.path = (folder / "missing" / "out").string();
+  EXPECT_THROW(ExportCsv(request, CsvEncoding::Utf8WithBom), Error);
+  EXPECT_THROW(ExportXlsx(request), Error);
+}
+
+TEST_F(TableExportTest, WritesAWorkbook) {
+  const ExportResult result = ExportXlsx(request);
+  EXPECT_EQ(result.rows, 2);
+  EXPECT_EQ(Written().substr(0, 2), "PK");
+}
+
+}  // namespace
+}  // namespace qvzj

@@ -1,0 +1,209 @@
+#include "suite/print/page_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "platform/ui/form.h"
+
+namespace qvzj {
+namespace {
+
+using basic::Date;
+
+/// A ledger-like grid of its own form: date, voucher, text, amount, hidden rate.
+class PageLayoutTest : public testing::Test {
+ protected:
+  PageLayoutTest() {
+    grid.SetColumnCount(13);
+    for (int32_t column = 5; column <= 13; ++column) grid.SetColumnHidden(column, true);
+    grid.SetHeader(1, "日期");
+    grid.SetHeader(2, "票号");
+    grid.SetHeader(3, "摘要");
+    grid.SetHeader(4, "金额");
+    grid.SetColumnDecimals(4, 2);
+    job.kind = 1;
+    job.grid = &grid;
+    job.title = "往来总帐清单";
+    job.company = "总公司";
+    job.user = "张三";
+    job.totals = {"应收金额:", "100.00", "实收金额:", "30.00"};
+  }
+
+  void Fill(int32_t rows, const std::string& text = "货款") {
+    grid.SetRowCount(rows);
+    for (int32_t row = 1; row <= rows; ++row) {
+      grid.SetCellText(1, row, "2024-03-01");
+      grid.SetCellText(2, row, "PZ" + std::to_string(row));
+      grid.SetCellText(3, row, text);
+      grid.SetCellNumber(4, row, row);
+      grid.SetCellNumber(13, row, 1);
+    }
+  }
+
+  PageLayout Layout() { return PageLayout(job, Date::FromYmd(2024, 3, 15), metrics); }
+
+  static std::vector<std::string> Texts(const Page& page) {
+    std::vector<std::string> texts;
+    for (const PlacedText& text : page.texts) texts.push_back(text.text);
+    return texts;
+  }
+  static bool Has(const Page& page, const std::string& text) {
+    const auto texts = Texts(page);
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+  }
+  static bool Overflows(const PageLayout& layout, const Page& page) {
+    FixedMetrics metrics;
+    return std::any_of(page.texts.begin(), page.texts.end(), [&](const PlacedText& text) {
+      return metrics.Width(text.text) * text.size > text.width + 0.01 ||
+             text.x + text.width > layout.PageWidth() || text.y > layout.PageHeight();
+    });
+  }
+
+  ui::Form form{"form"};
+  ui::Grid grid{form, "Grid2"};
+  FixedMetrics metrics;
+  PrintJob job;
+};
+
+TEST_F(PageLayoutTest, PutsTitleCompanyDateUserAndPageNumberOnEveryPage) {
+  Fill(100);
+  const PageLayout layout = Layout();
+  ASSERT_GT(layout.PageCount(), 1);
+  for (int number = 0; number < layout.PageCount(); ++number) {
+    const Page page = layout.MakePage(number);
+    EXPECT_TRUE(Has(page, "往来总帐清单"));
+    EXPECT_TRUE(Has(page, "总公司"));
+    EXPECT_TRUE(Has(page, "打印日期: 2024-03-15"));
+    EXPECT_TRUE(Has(page, "制表人: 张三"));
+    EXPECT_TRUE(Has(page, "第 " + std::to_string(number + 1) + " 页 共 " +
+                              std::to_string(layout.PageCount()) + " 页"));
+    EXPECT_TRUE(Has(page, "票号")) << "the header row is repeated";
+  }
+}
+
+TEST_F(PageLayoutTest, PrintsEveryRowExactlyOnceInOrder) {
+  Fill(137);
+  const PageLayout layout = Layout();
+  std::vector<std::string> vouchers;
+  for (int number = 0; number < layout.PageCount(); ++number) {
+    for (const std::string& text : Texts(layout.MakePage(number))) {
+      if (text.rfind("PZ", 0) == 0) vouchers.push_back(text);
+    }
+  }
+  ASSERT_EQ(vouchers.size(), 137u);
+  for (size_t i = 0; i < vouchers.size(); ++i) {
+    EXPECT_EQ(vouchers[i], "PZ" + std::to_string(i + 1));
+  }
+}
+
+TEST_F(PageLayoutTest, StaysInPortraitWhileTheColumnsFit) {
+  Fill(3);
+  EXPECT_FALSE(Layout().Landscape());
+}
+
+TEST_F(PageLayoutTest, TurnsThePaperWhenTheColumnsNeedTheWidth) {
+  Fill(3, std::string(100, 'x'));
+  const PageLayout layout = Layout();
+  EXPECT_TRUE(layout.Landscape());
+  EXPECT_FALSE(Overflows(layout, layout.MakePage(0)));
+}
+
+TEST_F(PageLayoutTest, WrapsWhatNoPaperHoldsWithoutLosingACharacter) {
+  std::string text;
+  for (int i = 0; i < 120; ++i) text += "货";
+  Fill(2, text);
+  const PageLayout layout = Layout();
+  const Page page = layout.MakePage(0);
+  EXPECT_FALSE(Overflows(layout, page));
+  size_t characters = 0;
+  for (const std::string& line : Texts(page)) {
+    if (line.rfind("货", 0) == 0) characters += line.size() / 3;
+  }
+  EXPECT_EQ(characters, 240u);
+}
+
+TEST_F(PageLayoutTest, AlignsAmountsToTheRight) {
+  Fill(1);
+  const Page page = Layout().MakePage(0);
+  const auto amount = std::find_if(page.texts.begin(), page.texts.end(),
+                                   [](const PlacedText& text) { return text.text == "1.00"; });
+  ASSERT_NE(amount, page.texts.end());
+  EXPECT_EQ(amount->align, PrintAlign::Right);
+}
+
+TEST_F(PageLayoutTest, LeavesHiddenColumnsOut) {
+  Fill(1);
+  grid.SetCellText(6, 1, "secret");
+  EXPECT_FALSE(Has(Layout().MakePage(0), "secret"));
+}
+
+TEST_F(PageLayoutTest, ShadesTheRowsThatTheGridColours) {
+  Fill(2);
+  grid.SetRowColor(2, 0xE0E0E0);
+  const Page page = Layout().MakePage(0);
+  ASSERT_EQ(page.fills.size(), 1u);
+  EXPECT_EQ(page.fills[0].color, 0xE0E0E0u);
+}
+
+TEST_F(PageLayoutTest, ClosesTheLedgerWithItsTotalsAndTheLastOneInWords) {
+  Fill(60);
+  const PageLayout layout = Layout();
+  const Page last = layout.MakePage(layout.PageCount() - 1);
+  EXPECT_TRUE(Has(last, "应收金额: 100.00"));
+  EXPECT_TRUE(Has(last, "实收金额: 30.00"));
+  EXPECT_TRUE(Has(last, "人民币大写: 叁拾元整"));
+  EXPECT_FALSE(Has(layout.MakePage(0), "应收金额: 100.00"));
+}
+
+TEST_F(PageLayoutTest, GivesNoAmountInWordsWhenAForeignCurrencyIsAmongTheEntries) {
+  Fill(3);
+  grid.SetCellNumber(13, 2, 7.2);
+  const Page page = Layout().MakePage(0);
+  EXPECT_FALSE(Has(page, "人民币大写: 叁拾元整"));
+  EXPECT_TRUE(Has(page, "实收金额: 30.00"));
+}
+
+TEST_F(PageLayoutTest, ClosesTheRegisterWithItsCountAlone) {
+  Fill(3);
+  job.kind = 0;
+  const Page page = Layout().MakePage(0);
+  EXPECT_TRUE(Has(page, "共 3 条"));
+  EXPECT_FALSE(Has(page, "应收金额: 100.00"));
+}
+
+TEST_F(PageLayoutTest, NeverPutsTheTotalsOverTheFoot) {
+  for (int32_t rows = 30; rows < 60; ++rows) {
+    Fill(rows);
+    const PageLayout layout = Layout();
+    const Page last = layout.MakePage(layout.PageCount() - 1);
+    double totals_bottom = 0;
+    double foot = layout.PageHeight();
+    for (const PlacedText& text : last.texts) {
+      if (text.text == "人民币大写: 叁拾元整") totals_bottom = text.y + text.size * 1.35;
+      if (text.text == "制表人: 张三") foot = text.y;
+    }
+    ASSERT_GT(totals_bottom, 0) << rows;
+    EXPECT_LE(totals_bottom, foot) << rows;
+  }
+}
+
+TEST_F(PageLayoutTest, StopsWhenTheUserCancels) {
+  Fill(5000);
+  const PageLayout layout(job, Date::FromYmd(2024, 3, 15), metrics, {},
+                          [](int64_t, int64_t) { return false; });
+  EXPECT_TRUE(layout.Cancelled());
+  EXPECT_EQ(layout.PageCount(), 0);
+}
+
+TEST_F(PageLayoutTest, SpeaksTraditionalChinese) {
+  Fill(1);
+  job.language = 1;
+  const Page page = Layout().MakePage(0);
+  EXPECT_TRUE(Has(page, "製表人: 张三"));
+  EXPECT_TRUE(Has(page, "第 1 頁 共 1 頁"));
+  EXPECT_TRUE(Has(page, "人民幣大寫: 參拾元整"));
+}
+
+}  // namespace
+}  // namespace qvzj
