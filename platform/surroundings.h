@@ -4,13 +4,14 @@
 #include "platform/components.h"
 #include "platform/data/connection.h"
 #include "platform/services.h"
+#include "platform/table_export.h"
 #include "platform/ui/grid.h"
 
 namespace qvzj {
 
 /// Everything the module asks of what surrounds it. The program that loads the component fills it
 /// once before the first call; a test may replace it between two. Pointers are not owned and must
-/// outlive the component; `print`, `task`, `user` and `text_order[…]` may be null where a program
+/// outlive the component; `print`, `task`, `user`, `exporter` and `text_order[…]` may be null where a program
 /// has none, and the function that needs them then says so.
 struct Surroundings {
   Boxes* boxes = nullptr;
@@ -24,6 +25,7 @@ struct Surroundings {
   PrintComponent* print = nullptr;
   UserComponent* user = nullptr;
   TaskComponent* task = nullptr;
+  TableExporter* exporter = nullptr;
   const ui::TextOrder* text_order[2] = {nullptr, nullptr};  ///< by language: pinyin, stroke
   data::StatementWatcher statement_watcher;
 };

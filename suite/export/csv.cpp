@@ -5,8 +5,9 @@
 
 #include "adapters/icu/encoder.h"
 #include "platform/basic/errors.h"
+#include "platform/ui/grid.h"
 #include "suite/export/replaced_file.h"
-#include "suite/export/table_export.h"
+#include "suite/export/suite_exporter.h"
 
 namespace qvzj {
 namespace {
@@ -31,10 +32,10 @@ std::string TextField(std::string text) {
 /// One file being written, in its encoding.
 class CsvWriter {
  public:
-  CsvWriter(const std::string& path, CsvEncoding encoding)
+  CsvWriter(const std::string& path, bool gb18030)
       : path_(path), out_(path, std::ios::binary | std::ios::trunc) {
     CheckState();
-    if (encoding == CsvEncoding::Gb18030) {
+    if (gb18030) {
       encoder_.emplace("GB18030");
     } else {
       out_ << kUtf8Bom;
@@ -80,11 +81,11 @@ std::vector<int32_t> VisibleColumns(const ui::Grid& grid) {
 
 }  // namespace
 
-ExportResult ExportCsv(const ExportRequest& request, CsvEncoding encoding) {
+ExportResult ExportCsv(const ExportRequest& request, bool gb18030) {
   const ui::Grid& grid = *request.grid;
   const std::vector<int32_t> columns = VisibleColumns(grid);
   ReplacedFile file(request.path);
-  CsvWriter writer(file.TemporaryPath(), encoding);
+  CsvWriter writer(file.TemporaryPath(), gb18030);
   for (int32_t column : columns) writer.Field(TextField(grid.Header(column)));
   writer.EndLine();
   for (int32_t row = 1; row <= grid.RowCount(); ++row) {

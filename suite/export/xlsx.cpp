@@ -6,8 +6,9 @@
 #include "platform/basic/errors.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
+#include "platform/ui/grid.h"
 #include "suite/export/replaced_file.h"
-#include "suite/export/table_export.h"
+#include "suite/export/suite_exporter.h"
 
 namespace qvzj {
 namespace {

@@ -27,7 +27,7 @@ constexpr int16_t kLedger = 1;
 }  // namespace
 
 PageLayout::PageLayout(const PrintJob& job, basic::Date print_date, const TextMetrics& metrics,
-                       const Paper& paper, const PrintProgress& progress)
+                       const Paper& paper, const Progress& progress)
     : job_(job), grid_(*job.grid), print_date_(print_date), metrics_(metrics), paper_(paper) {
   ChooseColumns();
   cancelled_ = !MeasureColumns(progress);
@@ -46,7 +46,7 @@ void PageLayout::ChooseColumns() {
   }
 }
 
-bool PageLayout::MeasureColumns(const PrintProgress& progress) {
+bool PageLayout::MeasureColumns(const Progress& progress) {
   for (int32_t row = 1; row <= grid_.RowCount(); ++row) {
     if (progress && row % kProgressRows == 0 && !progress(row, 2 * int64_t{grid_.RowCount()})) {
       return false;
@@ -190,7 +190,7 @@ double PageLayout::TotalsHeight() const {
   return (static_cast<double>(rows) + (in_words_.empty() ? 0 : 1) + 0.5) * kLine * kTextSize;
 }
 
-bool PageLayout::BreakPages(const PrintProgress& progress) {
+bool PageLayout::BreakPages(const Progress& progress) {
   const int32_t rows = grid_.RowCount();
   double y = RowsTop();
   first_rows_.push_back(1);

@@ -1,14 +1,13 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "platform/basic/date.h"
 #include "platform/components.h"
+#include "platform/pages.h"
 #include "platform/ui/grid.h"
-#include "suite/print/metrics.h"
 
 /// Breaks a print job into pages, apart from painting: a front end paints what it is told, and a
 /// test reads it as text. All lengths are points (1/72 inch), from the paper's top left corner.
@@ -21,53 +20,21 @@ struct Paper {
   double margin = 36;
 };
 
-enum class PrintAlign { Left, Center, Right };
-
-struct PlacedText {
-  double x = 0;       ///< left edge of the room
-  double y = 0;       ///< top edge of the line
-  double width = 0;   ///< room for the text
-  double size = 9;    ///< font size
-  PrintAlign align = PrintAlign::Left;
-  bool bold = false;
-  std::string text;
-};
-
-struct PlacedLine {
-  double x1, y1, x2, y2;
-};
-
-/// A filled rectangle behind the texts, 0xRRGGBB.
-struct PlacedFill {
-  double x, y, width, height;
-  uint32_t color;
-};
-
-struct Page {
-  std::vector<PlacedFill> fills;
-  std::vector<PlacedLine> lines;
-  std::vector<PlacedText> texts;
-};
-
-/// Called with done and total rows; answering false cancels.
-using PrintProgress = std::function<bool(int64_t done, int64_t total)>;
-
-class PageLayout {
+class PageLayout : public PageSource {
  public:
   /// Measures the job's grid and breaks it into pages. The grid must stay unchanged while the
   /// layout is used. `cancelled` is true when `progress` said so; there are no pages then.
   PageLayout(const PrintJob& job, basic::Date print_date, const TextMetrics& metrics,
-             const Paper& paper = {}, const PrintProgress& progress = {});
+             const Paper& paper = {}, const Progress& progress = {});
 
   bool Cancelled() const { return cancelled_; }
   bool Landscape() const { return landscape_; }
-  double PageWidth() const { return landscape_ ? paper_.height : paper_.width; }
-  double PageHeight() const { return landscape_ ? paper_.width : paper_.height; }
-  int PageCount() const { return static_cast<int>(first_rows_.size()); }
+  double PageWidth() const override { return landscape_ ? paper_.height : paper_.width; }
+  double PageHeight() const override { return landscape_ ? paper_.width : paper_.height; }
+  int PageCount() const override { return static_cast<int>(first_rows_.size()); }
   /// Font size of the table, in points.
   double FontSize() const { return size_; }
-  /// Everything on a page, 0-based.
-  Page MakePage(int page) const;
+  Page MakePage(int page) const override;
 
  private:
   struct PrintColumn {
@@ -78,14 +45,14 @@ class PageLayout {
   };
 
   void ChooseColumns();
-  bool MeasureColumns(const PrintProgress& progress);
+  bool MeasureColumns(const Progress& progress);
   void FitWidths();
   double NaturalWidth(double size) const;
   bool WrapInto(double room, double size);
   void SpreadSlack();
   void BuildTotals();
   bool LedgerInLocalCurrency() const;
-  bool BreakPages(const PrintProgress& progress);
+  bool BreakPages(const Progress& progress);
   std::vector<std::string> Wrap(const std::string& text, double room) const;
   int32_t RowLines(int32_t row) const;
   double RowHeight(int32_t lines) const;

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/ui/form.h"
+#include "suite/print/metrics.h"
 
 namespace qvzj {
 namespace {

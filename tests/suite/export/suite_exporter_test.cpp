@@ -1,4 +1,4 @@
-#include "suite/export/table_export.h"
+#include "suite/export/suite_exporter.h"
 
 #include <gtest/gtest.h>
 
@@ -14,9 +14,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class TableExportTest : public testing::Test {
+class SuiteExporterTest : public testing::Test {
  protected:
-  TableExportTest() {
+  SuiteExporterTest() {
     fs::create_directories(folder);
     grid.SetColumnCount(4);
     grid.SetRowCount(2);
@@ -38,7 +38,7 @@ class TableExportTest : public testing::Test {
     request.totals = {"应收金额:", "100.00"};
     request.path = (folder / "out").string();
   }
-  ~TableExportTest() override { fs::remove_all(folder); }
+  ~SuiteExporterTest() override { fs::remove_all(folder); }
 
   std::string Written() const {
     std::ifstream in(request.path, std::ios::binary);
@@ -55,8 +55,8 @@ class TableExportTest : public testing::Test {
   ExportRequest request;
 };
 
-TEST_F(TableExportTest, WritesTheVisibleColumnsAsCommaSeparatedUtf8WithAMark) {
-  const ExportResult result = ExportCsv(request, CsvEncoding::Utf8WithBom);
+TEST_F(SuiteExporterTest, WritesTheVisibleColumnsAsCommaSeparatedUtf8WithAMark) {
+  const ExportResult result = ExportCsv(request, false);
   EXPECT_EQ(result.rows, 2);
   EXPECT_EQ(Written(),
             "\xEF\xBB\xBF日期,摘要,金额\r\n"
@@ -65,39 +65,39 @@ TEST_F(TableExportTest, WritesTheVisibleColumnsAsCommaSeparatedUtf8WithAMark) {
             "应收金额:,100.00\r\n");
 }
 
-TEST_F(TableExportTest, WritesTheChineseCodePageOnRequest) {
-  ExportCsv(request, CsvEncoding::Gb18030);
+TEST_F(SuiteExporterTest, WritesTheChineseCodePageOnRequest) {
+  ExportCsv(request, true);
   EXPECT_EQ(Written().substr(0, 4), "\xC8\xD5\xC6\xDA");  // 日期
 }
 
-TEST_F(TableExportTest, CountsWhatTheCodePageCannotHold) {
+TEST_F(SuiteExporterTest, CountsWhatTheCodePageCannotHold) {
   grid.SetCellText(2, 1, "bad \xFF byte");
-  EXPECT_EQ(ExportCsv(request, CsvEncoding::Gb18030).lost_characters, 1);
+  EXPECT_EQ(ExportCsv(request, true).lost_characters, 1);
   EXPECT_NE(Written().find("bad ? byte"), std::string::npos);
 }
 
-TEST_F(TableExportTest, KeepsRareCharactersInTheChineseCodePage) {
+TEST_F(SuiteExporterTest, KeepsRareCharactersInTheChineseCodePage) {
   grid.SetCellText(2, 1, "𠀀");
-  EXPECT_EQ(ExportCsv(request, CsvEncoding::Gb18030).lost_characters, 0);
+  EXPECT_EQ(ExportCsv(request, true).lost_characters, 0);
 }
 
-TEST_F(TableExportTest, LeavesTheOldFileWhenTheUserCancels) {
+TEST_F(SuiteExporterTest, LeavesTheOldFileWhenTheUserCancels) {
   std::ofstream(request.path) << "old";
   grid.SetRowCount(5000);
   request.progress = [](int64_t, int64_t) { return false; };
-  EXPECT_TRUE(ExportCsv(request, CsvEncoding::Utf8WithBom).cancelled);
+  EXPECT_TRUE(ExportCsv(request, false).cancelled);
   EXPECT_TRUE(ExportXlsx(request).cancelled);
   EXPECT_EQ(Written(), "old");
   EXPECT_FALSE(fs::exists(request.path + ".part"));
 }
 
-TEST_F(TableExportTest, SaysWhenTheFileCannotBeWritten) {
+TEST_F(SuiteExporterTest, SaysWhenTheFileCannotBeWritten) {
   request.path = (folder / "missing" / "out").string();
-  EXPECT_THROW(ExportCsv(request, CsvEncoding::Utf8WithBom), Error);
+  EXPECT_THROW(ExportCsv(request, false), Error);
   EXPECT_THROW(ExportXlsx(request), Error);
 }
 
-TEST_F(TableExportTest, WritesAWorkbook) {
+TEST_F(SuiteExporterTest, WritesAWorkbook) {
   const ExportResult result = ExportXlsx(request);
   EXPECT_EQ(result.rows, 2);
   EXPECT_EQ(Written().substr(0, 2), "PK");

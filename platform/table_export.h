@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/pages.h"
+
+/// Takes a grid out of the module as a file.
+namespace qvzj {
+
+namespace ui {
+class Grid;
+}
+
+struct ExportRequest {
+  const ui::Grid* grid = nullptr;
+  std::string title;                ///< name of the sheet
+  std::vector<std::string> totals;  ///< caption, value, caption, value, …; may be empty
+  std::string path;                 ///< UTF-8; an existing file is replaced
+  Progress progress;                ///< by rows; may be empty
+};
+
+struct ExportResult {
+  bool cancelled = false;           ///< no file was left, an older one stays as it was
+  int64_t rows = 0;
+  int64_t lost_characters = 0;      ///< written as "?" because the file's encoding lacks them
+};
+
+enum class ExportFormat { Xlsx, CsvUtf8, CsvGb18030 };
+
+/// Writes visible columns in the order and under the headers that the grid shows, rows in the
+/// shown order.
+class TableExporter {
+ public:
+  virtual ~TableExporter() = default;
+  /// Throws Error when the file cannot be written; an older file then stays as it was.
+  virtual ExportResult Export(const ExportRequest& request, ExportFormat format) = 0;
+};
+
+}  // namespace qvzj
