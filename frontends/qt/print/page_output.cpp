@@ -1,0 +1,37 @@
+#include "frontends/qt/print/page_output.h"
+
+#include <QApplication>
+
+#include "frontends/qt/print/paint_page.h"
+#include "frontends/qt/print/preview_window.h"
+#include "frontends/qt/text.h"
+
+namespace qvzj::qt {
+
+QtPageOutput::QtPageOutput(const QFont& font, bool traditional)
+    : font_(font), metrics_(font), traditional_(traditional) {}
+
+QtPageOutput::~QtPageOutput() = default;
+
+bool QtPageOutput::ShowProgress(int64_t done, int64_t total) {
+  if (!pdf_path_.isEmpty()) return true;
+  if (!work_) {
+    work_ = std::make_unique<WorkDialog>(QApplication::activeWindow(),
+                                         QApplication::applicationDisplayName());
+  }
+  const bool goes_on = work_->Step(done, total);
+  if (!goes_on) work_.reset();
+  return goes_on;
+}
+
+void QtPageOutput::Output(const PageSource& pages, const std::string& title) {
+  work_.reset();
+  if (!pdf_path_.isEmpty()) {
+    WritePdf(pages, pdf_path_, FromUtf8(title), font_, {});
+    return;
+  }
+  PreviewWindow preview(pages, FromUtf8(title), font_, traditional_, QApplication::activeWindow());
+  preview.exec();
+}
+
+}  // namespace qvzj::qt
