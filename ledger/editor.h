@@ -16,11 +16,21 @@ void ConnectEditor(frmZj& form);
 void ArrangeEditor(frmZj& form);
 /// What a press of `cmdAction(action)` does: show, reset or arm the entry (kAction… of frmZj.h).
 void PressAction(frmZj& form, int action);
+/// The armed action (kAction… of frmZj.h).
+int ArmedAction(const frmZj& form);
+/// True while the user keys a new entry in: a reload of the ledger must not overwrite it.
+bool KeyingNewEntry(const frmZj& form);
 /// Resets the panel for a new entry.
 void ResetEntry(frmZj& form);
 /// Makes `row` the ledger grid's active row and copies it into the panel. The signs that the grid
 /// shows are undone, so that saving unchanged writes back what was read.
 void ShowLedgerRow(frmZj& form, int32_t row);
+/// Offers the actions that fit the entry of a ledger grid row: a checked one can be neither
+/// changed nor deleted, and is unchecked instead of checked.
+void OfferActions(frmZj& form, int32_t row);
+/// Lets `cmdAcntSave` be pressed exactly while the armed action's button can be, and locks the
+/// fields to match.
+void OfferSave(frmZj& form);
 /// Locks or frees the fields for an action.
 void LockEntry(frmZj& form, int action);
 /// Shows the checker's name, or hides it when empty.

@@ -86,10 +86,11 @@ void DesignEditor(frmZj& form) {
   form.txtAcnt2(1).SetMaxLength(20);
   form.txtAcnt2(3).SetRightAligned(true);
   form.txtAcnt2(4).SetRightAligned(true);
-  // The balance has a column in the ledger and no part in an entry: its label only captions the
-  // column.
-  form.lblAcnt2(5).SetVisible(false);
-  form.txtAcnt2(5).SetVisible(false);
+  // The running balance is only to be read: it is no part of the entry.
+  form.txtAcnt2(5).SetRightAligned(true);
+  form.txtAcnt2(5).SetLocked(true);
+  form.txtAcnt2(5).SetTabStop(false);
+  form.txtHbRate.SetMaxLength(20);
   form.txtHbRate.SetRightAligned(true);
   form.cboDoneMan.SetEditable(true);
   form.cboDoneMan.SetMaxLength(20);
@@ -252,7 +253,6 @@ void DesignCaptions(frmZj& form, int16_t language) {
   form.SSTab1.SetTabCaption(2, text("条件查询", "條件查詢"));
   form.fraKhType.SetCaption(text("客户类型", "客戶類型"));
   form.lblAcnt2(3).SetCaption(text("应收/应付", "應收/應付"));
-  form.chkAcntInit.SetCaption(text("期初金额", "期初金額"));
   form.chkAcntName.SetCaption(text("资金帐户", "資金帳戶"));
   form.lblHb.SetCaption(text("币种", "幣種"));
   form.lblHbRate.SetCaption(text("汇率", "匯率"));

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "platform/ui/array.h"
 #include "platform/ui/form.h"
@@ -50,6 +51,14 @@ struct frmZj : ui::Form {
   std::string registerCondition;    ///< set by the register search, "" until then
   int currentAction = kActionView;  ///< index of the action button pressed last
   int16_t printKind = 0;            ///< 1 ledger, 0 register
+  /// True while the ledger's amounts stand negated since they were loaded (the payable tab came to
+  /// the front, or left it).
+  bool ledgerNegated = false;
+  /// The entry that was loaded into the editor, column by column as the texts of a statement: what
+  /// the editor showed of it, and what the row really holds. A field that still shows what it
+  /// showed is written back as the row holds it. Empty for a new entry.
+  std::vector<std::string> entryShown;
+  std::vector<std::string> entryStored;
 
   // Left: order, register, record page, search.
   ui::Frame fraOrder{*this, "fraOrder"};

@@ -118,11 +118,15 @@ void ArrangeEntryPanel(frmZj& form) {
   Place(form.chkAcntInit, column.Left(0) + 2 * kOption, second, column.width - 2 * kOption);
   pair(form.lblAcnt2(3), form.txtAcnt2(3), 1, 1);
   pair(form.lblAcnt2(4), form.txtAcnt2(4), 1, 2);
-  pair(form.lblAcnt2(5), form.txtAcnt2(5), 1, 2);  // hidden: an entry has no balance
 
-  pair(form.lblHb, form.cboHb, 2, 0);
-  pair(form.lblHbRate, form.txtHbRate, 2, 1);
-  PlacePair(form.chkAcntName, form.cboAcntName, column.Left(2), 540 + 2 * kRow, column.width, 1080);
+  constexpr int32_t kCurrency = kLabel + 900;
+  constexpr int32_t kRate = 480;
+  const int32_t third = 540 + 2 * kRow;
+  PlacePair(form.lblHb, form.cboHb, column.Left(0), third, kCurrency, kLabel);
+  PlacePair(form.lblHbRate, form.txtHbRate, column.Left(0) + kCurrency + kPad, third,
+            column.width - kCurrency - kPad, kRate);
+  pair(form.lblAcnt2(5), form.txtAcnt2(5), 2, 1);
+  PlacePair(form.chkAcntName, form.cboAcntName, column.Left(2), third, column.width, 1080);
 
   pair(form.lblAcnt2(6), form.txtAcnt2(6), 3, 0, 2);
   pair(form.lblAcnt2(7), form.txtAcnt2(7), 3, 2);

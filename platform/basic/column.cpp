@@ -113,6 +113,10 @@ void Column::SetText(size_t row, std::string_view value) {
   offsets_[row] = StoreText(value);
 }
 
+void Column::MakeReal() {
+  if (kind_ != Kind::Real) WidenTo(Kind::Real);
+}
+
 bool Column::IsNull(size_t row) const {
   switch (kind_) {
     case Kind::Integer:

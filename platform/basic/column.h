@@ -41,6 +41,9 @@ class Column {
   void SetReal(size_t row, double value);
   void SetText(size_t row, std::string_view value);
 
+  /// Makes a Real column of whatever it holds, each value as Number() tells it; nulls stay null.
+  void MakeReal();
+
   bool IsNull(size_t row) const;
   /// The value joined to the empty text: "" for null, dates as yyyy-mm-dd.
   std::string Text(size_t row) const;
@@ -55,6 +58,7 @@ class Column {
 
   /// Raw values of a Real column (nulls are NaN), for loops over millions of rows.
   const double* Reals() const { return reals_.Data(); }
+  double* Reals() { return reals_.Data(); }
   /// Raw values of an Integer column (nulls are kNullInteger).
   const int32_t* Integers() const { return integers_.Data(); }
   static constexpr int32_t kNullInteger = INT32_MIN;

@@ -1,0 +1,137 @@
+#include "ledger/actions.h"
+
+#include "ledger/entry.h"
+#include "platform/basic/number.h"
+#include "screen/frmZj.h"
+#include "services/connect.h"
+#include "services/context.h"
+#include "services/messages.h"
+#include "services/query.h"
+
+namespace qvzj {
+namespace {
+
+constexpr const char* kTwoLines = "\r\n\r\n";
+constexpr const char* kColon = ": ";
+constexpr const char* kCounterMark = "挂入-";
+constexpr int16_t kCounterMarkBytes = 5;
+
+bool Confirm(const std::string& question, int style) {
+  return Message(question, style) == Answer::Ok;
+}
+
+double Value(const std::string& text) { return basic::Val(text); }
+
+/// Does the shown entry hang on a warehouse document? Customer entries without an amount due do
+/// not.
+bool HasDocument(const frmZj& form) {
+  if (form.txtAcnt2(7).Text().empty()) return false;
+  const bool customer_entry = form.mode == kCustomers || form.mode == 9;
+  return !customer_entry || Value(form.txtAcnt2(3).Text()) != 0;
+}
+
+bool DocumentChecked(const frmZj& form) {
+  const std::string condition =
+      "fInvNo=" + Quoted(form.txtAcnt2(7).Text()) +
+      (Shared().SQLData != 0 ? " And (not fInvSHR is null) And fInvSHR<>''"
+                             : " And '' & fInvSHR<>''");
+  return CountRows("tJXC_CkDj01", condition) > 0 || CountRows("tJXC_CkDj_Bak01", condition) > 0;
+}
+
+std::string CheckerStatement(const frmZj& form, const std::string& checker) {
+  return "Update tAccountDetail Set fChecker=" + Quoted(checker) +
+         " Where fID=" + form.chkAcntInit.Tag();
+}
+
+/// The money account's side of the shown customer entry: the amount received or paid.
+EntryTexts CounterEntry(const frmZj& form) {
+  using enum EntryColumn;
+  const EntryTexts exact = EntryToWrite(form);
+  EntryTexts counter = EntryInEditor(form);
+  const auto room = static_cast<int16_t>(form.txtAcnt2(6).MaxLength() - kCounterMarkBytes);
+  counter[CompID] = form.cboAcntName.Tag();
+  counter[Type1] = "1";
+  counter[Init] = "0";
+  counter[MoneyA] = "0";
+  counter[MoneyB] = exact[MoneyB];
+  counter[Brief] = Quoted(kCounterMark + FitLength(form.txtAcnt2(2).Text(), room, ""));
+  counter[ID2] = form.chkAcntInit.Tag();
+  counter[MoneyRate] = exact[MoneyRate];
+  return counter;
+}
+
+std::optional<Commit> PrepareChecking(frmZj& form) {
+  if (!NoQuote(Shared().UserName)) return std::nullopt;
+  const std::string check = CheckerStatement(form, Shared().UserName);
+  const bool linked = form.mode == kCustomers && Value(form.cboAcntName.Tag()) != 0;
+  if (!linked) return Commit{check, kColon};
+  if (Value(form.txtAcnt2(4).Text()) == 0) {
+    Message("本帐目凭证未有“实收/实付”金额，无须关联帐户的进出帐操作！", box::kInformation);
+    return Commit{check, kColon};
+  }
+  if (!EntryTextsFit(form) || !NoQuote(form.txtAcnt2(2).Text())) return std::nullopt;
+  const std::string insert = InsertStatement(CounterEntry(form));
+  Data().Execute(check);
+  return Commit{insert, kColon, true};
+}
+
+bool CounterEntryChecked(const std::string& id) {
+  return CountRows("tAccountDetail", "fType1=1 and fID2=" + id + " And fChecker<>''") > 0;
+}
+
+std::optional<Commit> PrepareUnchecking(frmZj& form) {
+  if (!Confirm("帐目已经审核。是否反审核，取消“审核”标志 ？", box::kExclamationOkCancel)) {
+    return std::nullopt;
+  }
+  const std::string uncheck = CheckerStatement(form, "");
+  const bool linked = form.mode == kCustomers && Value(form.cboAcntName.Tag()) > 0;
+  if (!linked) return Commit{uncheck, kColon};
+  const std::string& id = form.chkAcntInit.Tag();
+  const std::string& link = form.chkAcntName.Caption();
+  if (CounterEntryChecked(id)) {
+    Message("该往来帐目的关联[" + link + "]也已经审核，必须先“反审核”关联帐户 !" + kTwoLines +
+                "操作取消！",
+            box::kExclamation);
+    return std::nullopt;
+  }
+  const bool has_counter_entry = form.chkAcntName.Ticked() && form.cboAcntName.ListIndex() >= 0 &&
+                                 Value(form.txtAcnt2(4).Text()) != 0;
+  if (has_counter_entry &&
+      !Confirm("注意：系统将删除关联的" + link + "凭证，确定？", box::kQuestionOkCancel)) {
+    return std::nullopt;
+  }
+  Data().Execute(uncheck);
+  return Commit{"Delete from tAccountDetail Where fType1=1 and fID2=" + id, kColon};
+}
+
+}  // namespace
+
+bool EntryTextsFit(const frmZj& form) {
+  for (int i : {1, 6, 7, 8, 9}) {
+    if (!NoQuote(form.txtAcnt2(i).Text())) return false;
+  }
+  return NoQuote(form.cboDoneMan.Text()) && NoQuote(form.cboHb.Text()) &&
+         NoQuote(form.lblSHR.Caption());
+}
+
+std::optional<Commit> PrepareDelete(frmZj& form) {
+  const std::string& document = form.txtAcnt2(7).Text();
+  if (!NoQuote(document)) return std::nullopt;
+  if (HasDocument(form) && DocumentChecked(form)) {
+    Message("该相关单号（" + document + "）已经审核，不可删除。操作取消！" + kTwoLines +
+                "请在【仓库管理】中，反审核<相关单号>，系统自动删除本帐目凭证！",
+            box::kExclamation);
+    return std::nullopt;
+  }
+  if (!Confirm("是否删除" + form.lblAcnt2(1).Caption() + "（" + form.txtAcnt2(1).Text() + "） ？",
+               box::kQuestionOkCancel)) {
+    return std::nullopt;
+  }
+  return Commit{"Delete from tAccountDetail Where fID=" + form.chkAcntInit.Tag(), kColon};
+}
+
+std::optional<Commit> PrepareCheck(frmZj& form) {
+  return form.lblSHR.Caption().empty() ? PrepareChecking(form) : PrepareUnchecking(form);
+}
+
+}  // namespace qvzj

@@ -1,0 +1,267 @@
+#include "ledger/editor.h"
+
+#include "ledger/entry.h"
+#include "ledger/fields.h"
+#include "platform/basic/number.h"
+#include "platform/basic/text.h"
+#include "platform/surroundings.h"
+#include "screen/frmZj.h"
+#include "screen/keys.h"
+#include "screen/layout.h"
+#include "services/context.h"
+#include "services/numbering.h"
+#include "services/query.h"
+
+namespace qvzj {
+namespace {
+
+/// Items of `cboAcntName` carry the account's id from this character on.
+constexpr int32_t kIdStart = 41;
+
+double ItemId(const std::string& item) { return basic::Val(basic::Mid(item, kIdStart)); }
+
+void ProposeNumber(frmZj& form) {
+  form.txtAcnt2(1).SetText(
+      NextNumber(form.dtpAcntDate.Value(), form.numberTemplate, kLedgerNumber));
+}
+
+void ShowRate(frmZj& form) {
+  const std::string rate =
+      FirstValue("Select MoneyRate from Moneys where MoneyCode='" + form.cboHb.Text() + "'");
+  form.txtHbRate.SetText(basic::FormatFixed(basic::Val(rate), 4));
+}
+
+/// The opening amount of a money account shows only with an opening balance.
+void ShowOpeningAmount(frmZj& form, bool shown) {
+  form.lblAcnt2(3).SetVisible(shown);
+  form.txtAcnt2(3).SetVisible(shown);
+  if (!shown) form.txtAcnt2(3).SetText("0.00");
+}
+
+void OpeningClicked(frmZj& form) {
+  if (form.mode == kCustomers) return;
+  const bool opening = form.chkAcntInit.Ticked();
+  if (opening) form.optType2(1).Select();
+  ShowOpeningAmount(form, opening);
+  if (opening) form.SetFocus(form.txtAcnt2(3));
+}
+
+void AccountChosen(frmZj& form) {
+  ui::ComboBox& accounts = form.cboAcntName;
+  const bool chosen = accounts.ListIndex() >= 0;
+  accounts.SetTag(chosen ? basic::NumberText(ItemId(accounts.Text())) : "0");
+  form.chkAcntName.SetValue(chosen ? 1 : 0);
+}
+
+void LinkClicked(frmZj& form) {
+  if (form.chkAcntName.Ticked()) {
+    SelectAccountById(form, basic::ToInt32(basic::Val(form.cboAcntName.Tag())));
+    form.SetFocus(form.cboAcntName);
+  } else {
+    SelectAccountById(form, 0);
+    form.cboAcntName.SetTag("0");
+  }
+}
+
+void CheckAmount(ui::TextBox& box, bool& cancel) {
+  const std::string& text = box.Text();
+  cancel = !NoQuote(text);
+  if (cancel) return;
+  box.SetText(basic::IsNumeric(text) ? basic::FormatFixed(basic::Val(text), 2) : "0.00");
+}
+
+/// A field that is left with the rate gone gets the currency's present rate back.
+void CheckRate(frmZj& form) {
+  if (!basic::IsNumeric(form.txtHbRate.Text())) ShowRate(form);
+}
+
+void ConnectTexts(frmZj& form) {
+  for (int i = form.txtAcnt2.First(); i <= form.txtAcnt2.Last(); ++i) {
+    ui::TextBox& box = form.txtAcnt2(i);
+    ConnectKeys(box);
+    RefuseQuotes(box);
+    box.onGotFocus = [&box] { box.SelectAll(); };
+  }
+  for (int i : {3, 4}) {
+    ui::TextBox& amount = form.txtAcnt2(i);
+    amount.onValidate = [&amount](bool& cancel) { CheckAmount(amount, cancel); };
+  }
+  ConnectKeys(form.txtHbRate, true);
+  form.txtHbRate.onValidate = [&form](bool&) { CheckRate(form); };
+  ConnectKeys(form.cboDoneMan);
+  RefuseQuotes(form.cboDoneMan);
+}
+
+void ConnectDate(frmZj& form) {
+  EnterWalksOn(form.dtpAcntDate);
+  form.dtpAcntDate.onChange = [&form] {
+    if (ArmedAction(form) == kActionNew) ProposeNumber(form);
+  };
+  form.dtpAcntDate.onValidate = [&form](bool&) {
+    if (KeyingNewEntry(form) && form.txtAcnt2(1).Text().empty()) ProposeNumber(form);
+  };
+}
+
+void ClearTexts(frmZj& form) {
+  form.txtAcnt2(1).SetText("");
+  form.txtAcnt2(3).SetText("0.00");
+  form.txtAcnt2(4).SetText("0.00");
+  for (int i = 5; i <= 8; ++i) form.txtAcnt2(i).SetText("");
+  form.txtAcnt2(9).SetText(Shared().UserName);
+  form.cboDoneMan.SetText("");
+}
+
+void ClearLink(frmZj& form) {
+  form.chkAcntName.SetValue(0);
+  SelectAccountById(form, 0);
+  form.cboAcntName.SetTag("0");
+}
+
+/// The register's current record becomes the new entry's.
+void TakeCurrentRecord(frmZj& form) {
+  if (basic::Val(form.lblKhName.Tag()) == 0) return;
+  form.txtAcnt2(2).SetTag(form.lblKhName.Tag());
+  form.txtAcnt2(2).SetText(form.lblKhName.Caption());
+}
+
+/// With no entry in the ledger there is nothing to show, change, delete or check.
+void ShowNoEntry(frmZj& form) {
+  ResetEntry(form);
+  form.chkAcntInit.SetTag("0");
+  form.cmdAcntCancel.SetTag("");
+}
+
+void FocusForAction(frmZj& form, int action) {
+  switch (action) {
+    case kActionView:
+      form.SetFocus(form.cmdAcntCancel);
+      break;
+    case kActionNew:
+    case kActionChange:
+      form.SetFocus(form.dtpAcntDate);
+      break;
+    default:
+      form.SetFocus(form.cmdAcntSave);
+      break;
+  }
+}
+
+}  // namespace
+
+void ConnectEditor(frmZj& form) {
+  for (int i = form.cmdAction.First(); i <= form.cmdAction.Last(); ++i) {
+    form.cmdAction(i).onClick = [&form, i] { PressAction(form, i); };
+  }
+  ConnectTexts(form);
+  ConnectDate(form);
+  form.cboHb.onClick = [&form] { ShowRate(form); };
+  EnterWalksOn(form.cboHb);
+  EnterWalksOn(form.cboKhOrder);
+  form.chkAcntInit.onClick = [&form] { OpeningClicked(form); };
+  EnterWalksOn(form.chkAcntInit);
+  form.cboAcntName.onClick = [&form] { AccountChosen(form); };
+  form.chkAcntName.onClick = [&form] { LinkClicked(form); };
+}
+
+void ArrangeEditor(frmZj& form) {
+  const bool customers = form.mode == kCustomers;
+  form.chkAcntName.SetVisible(customers);
+  form.cboAcntName.SetVisible(customers);
+  form.lblAcnt2(3).SetVisible(customers);
+  form.txtAcnt2(3).SetVisible(customers);
+}
+
+void PressAction(frmZj& form, int action) {
+  if (action != kActionNew) {
+    if (form.Grid2.RowCount() > 0) {
+      ShowLedgerRow(form, form.Grid2.ActiveRow());
+    } else {
+      ShowNoEntry(form);
+    }
+  }
+  form.cmdAcntSave.SetTag(std::to_string(action));
+  form.lblAcntTitle.SetCaption(basic::Left(form.cmdAction(action).Caption(), 4));
+  form.cmdAcntCancel.SetEnabled(true);
+  if (action == kActionNew) ResetEntry(form);
+  form.currentAction = action;
+  // Before the locks, which look at it: an entry that cannot be saved stays locked.
+  form.cmdAcntSave.SetEnabled(action > kActionView);
+  LockEntry(form, action);
+  if (!form.picAcnt.Visible()) {
+    form.picAcnt.SetVisible(true);
+    LayoutForm(form);
+    form.SetFocus(form.txtAcnt2(1));
+  }
+  FocusForAction(form, action);
+}
+
+int ArmedAction(const frmZj& form) { return basic::ToInt32(basic::Val(form.cmdAcntSave.Tag())); }
+
+bool KeyingNewEntry(const frmZj& form) {
+  return form.picAcnt.Visible() && ArmedAction(form) == kActionNew;
+}
+
+void ResetEntry(frmZj& form) {
+  ForgetEntry(form);
+  form.dtpAcntDate.SetValue(Around().clock->Today());
+  ClearTexts(form);
+  if (!form.cboHb.Items().empty()) {
+    form.cboHb.SetListIndex(0);
+    ShowRate(form);
+  }
+  ShowChecker(form, "");
+  form.chkAcntInit.SetValue(0);
+  if (form.mode != kCustomers) ShowOpeningAmount(form, false);
+  TakeCurrentRecord(form);
+  ClearLink(form);
+}
+
+void OfferSave(frmZj& form) {
+  const int armed = ArmedAction(form);
+  form.cmdAcntSave.SetEnabled(form.cmdAction(armed).Enabled());
+  LockEntry(form, form.currentAction);
+}
+
+void LockEntry(frmZj& form, int action) {
+  const bool locked = action == kActionView || action == kActionDelete || action == kActionCheck ||
+                      (action == kActionChange && !form.cmdAcntSave.Enabled());
+  for (int i = form.txtAcnt2.First(); i <= form.txtAcnt2.Last(); ++i) {
+    // The name follows the register and the balance the ledger: nobody types them.
+    form.txtAcnt2(i).SetLocked(locked || i == 2 || i == 5);
+  }
+  form.cboDoneMan.SetLocked(locked);
+  form.cboHb.SetLocked(locked);
+  form.txtHbRate.SetLocked(locked);
+  form.chkAcntInit.SetEnabled(!locked);
+  form.optType2(1).SetEnabled(!locked);
+  form.optType2(2).SetEnabled(!locked);
+  form.dtpAcntDate.SetEnabled(!locked);
+  const bool linkable = action == kActionNew || action == kActionChange ||
+                        (action == kActionCheck && form.lblSHR.Caption().empty());
+  form.chkAcntName.SetEnabled(linkable);
+  form.cboAcntName.SetLocked(!linkable);
+}
+
+void ShowChecker(frmZj& form, const std::string& name) {
+  form.lblSHR.SetCaption(name);
+  if (!name.empty()) {
+    ui::Bounds frame = form.fraSHR.GetBounds();
+    frame.left = form.lblSHR.GetBounds().left - 50;
+    frame.width = form.lblSHR.GetBounds().width + 100;
+    form.fraSHR.SetBounds(frame);
+  }
+  form.lblSHR.SetVisible(!name.empty());
+  form.fraSHR.SetVisible(!name.empty());
+}
+
+void SelectAccountById(frmZj& form, int32_t id) {
+  ui::ComboBox& accounts = form.cboAcntName;
+  int32_t found = -1;
+  const std::vector<std::string>& items = accounts.Items();
+  for (size_t i = 0; i < items.size() && id >= 1 && found < 0; ++i) {
+    if (ItemId(items[i]) == id) found = static_cast<int32_t>(i);
+  }
+  accounts.SetListIndex(found);
+}
+
+}  // namespace qvzj

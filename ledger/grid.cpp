@@ -1,0 +1,88 @@
+#include "ledger/grid.h"
+
+#include "ledger/columns.h"
+#include "ledger/editor.h"
+#include "platform/basic/number.h"
+#include "platform/surroundings.h"
+#include "screen/frmZj.h"
+#include "services/context.h"
+#include "services/strings.h"
+
+namespace qvzj {
+namespace {
+
+namespace col = ledger_column;
+
+std::string S(int16_t id) { return LoadText(id); }
+
+/// The two directions' words as one header: "进帐(+)/出帐(-)".
+std::string BothDirections(int16_t plus, int16_t minus) {
+  return S(plus) + "(+)/" + S(minus) + "(-)";
+}
+
+const ui::TextOrder* OrderOfLanguage() {
+  return Around().text_order[Shared().Language == 1 ? 1 : 0];
+}
+
+void SortBy(ui::Grid& grid, int32_t column) {
+  const bool ascending = grid.GetSortOrder() == ui::SortOrder::Ascending;
+  const bool flip = grid.SortColumn() == column;
+  grid.SetSortKey(column, ascending != flip ? ui::SortOrder::Ascending : ui::SortOrder::Descending);
+  grid.Sort(OrderOfLanguage());
+}
+
+void TabClicked(frmZj& form, int previous) {
+  WriteAmountHeaders(form);
+  // The payable tab shows its side positive; leaving it undoes that.
+  if (form.SSTab2.Tab() != 2 && previous != 2) return;
+  for (int32_t column : {col::kMoneyA, col::kMoneyB, col::kBalance}) {
+    form.Grid2.NegateColumn(column);
+  }
+  form.ledgerNegated = !form.ledgerNegated;
+  ui::TextBox& balance = form.txtAcnt2(5);
+  if (!balance.Text().empty()) {
+    balance.SetText(basic::FormatFixed(-basic::Val(balance.Text()), 2));
+  }
+}
+
+void RowEntered(frmZj& form, int32_t row) {
+  if (row < 1) return;
+  ShowLedgerRow(form, row);
+  OfferSave(form);
+  form.SetFocus(form.Grid2);
+}
+
+}  // namespace
+
+void ConnectLedgerGrid(frmZj& form) {
+  form.Grid2.onClick = [&form](int32_t column, int32_t row) {
+    if (row == 0) SortBy(form.Grid2, column);
+  };
+  form.Grid2.onDblClick = [&form](int32_t, int32_t row) {
+    if (row >= 1) PressAction(form, kActionView);
+  };
+  form.Grid2.onLeaveCell = [&form](int32_t, int32_t, int32_t, int32_t new_row, bool&) {
+    RowEntered(form, new_row);
+  };
+  form.Grid2.onRowHeight = [&form](int32_t, int32_t, int32_t height) {
+    form.Grid2.SetRowHeight(height);
+  };
+  form.SSTab2.onClick = [&form](int previous) { TabClicked(form, previous); };
+}
+
+void WriteAmountHeaders(frmZj& form) {
+  const int tab = form.SSTab2.Tab();
+  std::string money_a = S(45);
+  std::string money_b = tab == 0 ? BothDirections(46, 47) : S(tab == 1 ? 46 : 47);
+  std::string balance = S(9);
+  if (form.mode == kCustomers) {
+    money_a = tab == 0 ? BothDirections(10, 11) : S(tab == 1 ? 10 : 11);
+    money_b = tab == 0 ? BothDirections(12, 13) : S(tab == 1 ? 12 : 13);
+    balance = S(tab == 2 ? 11 : 10) + S(9);
+  }
+  form.Grid2.SetHeader(col::kMoneyA, money_a);
+  form.Grid2.SetHeader(col::kMoneyB, money_b);
+  form.Grid2.SetHeader(col::kBalance, balance);
+}
+
+}  // namespace qvzj

@@ -1,0 +1,67 @@
+#include "ledger/print.h"
+
+#include "platform/basic/errors.h"
+#include "platform/surroundings.h"
+#include "screen/frmZj.h"
+#include "services/context.h"
+
+namespace qvzj {
+namespace {
+
+constexpr const char* kListSuffix = "清单";
+constexpr int16_t kRegisterPrint = 0;
+constexpr int16_t kLedgerPrint = 1;
+
+/// Captions and values of the totals panel; money accounts have no pairs 2 and 3.
+std::vector<std::string> Totals(const frmZj& form) {
+  std::vector<std::string> totals;
+  for (int i = form.txtTotal.First(); i <= form.txtTotal.Last(); ++i) {
+    if (form.mode != kCustomers && (i == 2 || i == 3)) continue;
+    totals.push_back(form.lblTotal(i).Caption());
+    totals.push_back(form.txtTotal(i).Text());
+  }
+  return totals;
+}
+
+DataAccess CurrentAccess() {
+  const Context& context = Shared();
+  return {context.UserPath, context.Password, context.SQLData, context.UserID, context.Default};
+}
+
+void PrintLedger(frmZj& form) {
+  form.printKind = kLedgerPrint;
+  PrintGrid(form, form.Grid2, form.SSTab2.TabCaption(0) + kListSuffix,
+            form.mode == kCustomers ? "qvzj_0" : "qvzj_1", "");
+}
+
+void PrintRegister(frmZj& form) {
+  form.printKind = kRegisterPrint;
+  PrintGrid(form, form.Grid1, form.SSTab1.TabCaption(0) + kListSuffix, "", "");
+}
+
+}  // namespace
+
+void ConnectPrint(frmZj& form) {
+  form.cmdPrint.onClick = [&form] { PrintLedger(form); };
+  form.cmdKhPrint.onClick = [&form] { PrintRegister(form); };
+}
+
+void PrintGrid(frmZj& form, ui::Grid& grid, const std::string& title, const std::string& report,
+               const std::string& extra) {
+  if (grid.RowCount() == 0) return;
+  if (!Around().print) throw Error("The print component qvPrint_ADO.qvPrint is not available");
+  PrintJob job;
+  job.kind = form.printKind;
+  job.language = Shared().Language;
+  job.totals = Totals(form);
+  job.grid = &grid;
+  job.access = CurrentAccess();
+  job.company = Shared().CompName;
+  job.user = Shared().UserName;
+  job.title = title;
+  job.report = report;
+  job.extra = extra;
+  Around().print->Print(job);
+}
+
+}  // namespace qvzj

@@ -1,0 +1,131 @@
+#include "ledger/save.h"
+
+#include "ledger/actions.h"
+#include "ledger/editor.h"
+#include "ledger/entry.h"
+#include "ledger/filter.h"
+#include "ledger/query.h"
+#include "platform/basic/number.h"
+#include "screen/frmZj.h"
+#include "screen/layout.h"
+#include "services/connect.h"
+#include "services/messages.h"
+#include "services/query.h"
+#include "services/strings.h"
+
+namespace qvzj {
+namespace {
+
+constexpr int16_t kDoneText = 49;
+
+bool NumberIsZero(const std::string& text) { return basic::Val(text) == 0; }
+
+/// Entries under the shown entry's id in the ledger that is open. The engine's error rises when
+/// they cannot be counted, so that a broken connection is not taken for a vanished entry.
+bool EntryExists(const frmZj& form) {
+  const std::string condition =
+      "fID=" + form.chkAcntInit.Tag() + " And fType1=" + std::to_string(form.mode);
+  const int16_t rows = CountRows("tAccountDetail", condition);
+  if (rows >= 0) return rows > 0;
+  return !NumberIsZero(FirstValue("select count(*) from tAccountDetail Where " + condition));
+}
+
+bool CheckEntryThere(const frmZj& form) {
+  if (NumberIsZero(form.chkAcntInit.Tag())) {
+    Message("请选择[帐目] !", box::kExclamation);
+    return false;
+  }
+  if (EntryExists(form)) return true;
+  Message(form.cmdAcntCancel.Tag() + "：帐目已不存在！", box::kCritical);
+  return false;
+}
+
+/// A required field is missing: says which and takes the user to it.
+bool Refuse(frmZj& form, const std::string& request, const std::string& what, ui::Control& field) {
+  Message(request + " [" + what + "] !", box::kExclamation);
+  form.SetFocus(field);
+  return false;
+}
+
+bool CheckFields(frmZj& form) {
+  if (form.txtAcnt2(1).Text().empty()) {
+    return Refuse(form, "请输入", form.lblAcnt2(1).Caption(), form.txtAcnt2(1));
+  }
+  if (NumberIsZero(form.txtAcnt2(2).Tag())) {
+    return Refuse(form, "请选择", form.lblAcnt2(2).Caption(), form.txtAcnt2(2));
+  }
+  if (NumberIsZero(form.txtAcnt2(3).Text()) && NumberIsZero(form.txtAcnt2(4).Text())) {
+    // The second amount's caption stands for both halves.
+    const std::string& amount = form.lblAcnt2(4).Caption();
+    const std::string both = form.lblAcnt2(3).Visible() ? amount + "/" + amount : amount;
+    return Refuse(form, "请输入", both, form.txtAcnt2(4));
+  }
+  return EntryTextsFit(form);
+}
+
+std::optional<Commit> PrepareNew(frmZj& form) {
+  if (!CheckFields(form)) return std::nullopt;
+  return Commit{InsertStatement(EntryToWrite(form)), ":"};
+}
+
+std::optional<Commit> PrepareChange(frmZj& form) {
+  if (!CheckFields(form)) return std::nullopt;
+  return Commit{UpdateStatement(form, EntryToWrite(form), form.chkAcntInit.Tag()), ":"};
+}
+
+std::optional<Commit> Prepare(frmZj& form, int action) {
+  if (action != kActionNew && !CheckEntryThere(form)) return std::nullopt;
+  switch (action) {
+    case kActionNew:
+      return PrepareNew(form);
+    case kActionChange:
+      return PrepareChange(form);
+    case kActionDelete:
+      return PrepareDelete(form);
+    default:
+      return PrepareCheck(form);
+  }
+}
+
+void Report(const frmZj& form, const Commit& commit) {
+  std::string text =
+      "[" + form.lblAcnt2(1).Caption() + commit.colon + form.txtAcnt2(1).Text() + "]";
+  if (commit.counter_entry) {
+    text += "\r\n\r\n同时，系统已经自动产生相同票号的[" + form.chkAcntName.Caption() + "凭证] 。";
+  }
+  Message(text, box::kInformation, form.lblAcntTitle.Caption() + " " + LoadText(kDoneText) + "！");
+}
+
+void CancelEntry(frmZj& form) {
+  form.picAcnt.SetVisible(false);
+  LayoutForm(form);
+  form.currentAction = kActionView;
+  form.cmdAcntSave.SetTag(std::to_string(kActionView));
+  // What was keyed and not saved must not come back with the next look at the entry.
+  ShowLedgerRow(form, form.Grid2.ActiveRow());
+  LockEntry(form, kActionView);
+  form.SetFocus(form.Grid2);
+}
+
+}  // namespace
+
+void ConnectSave(frmZj& form) {
+  form.cmdAcntSave.onClick = [&form] { SaveEntry(form); };
+  form.cmdAcntCancel.onClick = [&form] { CancelEntry(form); };
+}
+
+void SaveEntry(frmZj& form) {
+  const int action = ArmedAction(form);
+  if (action == kActionView) return;
+  const std::optional<Commit> commit = Prepare(form, action);
+  if (!commit) return;
+  Data().Execute(commit->statement);
+  Report(form, *commit);
+  LoadLedger(form, LedgerCondition(form));
+  if (action == kActionNew) {
+    ResetEntry(form);
+    form.SetFocus(form.dtpAcntDate);
+  }
+}
+
+}  // namespace qvzj

@@ -1,0 +1,121 @@
+#include "ledger/columns.h"
+#include "ledger/editor.h"
+#include "ledger/entry.h"
+#include "platform/basic/number.h"
+#include "platform/basic/text.h"
+#include "platform/surroundings.h"
+#include "screen/frmZj.h"
+#include "services/connect.h"
+#include "services/strings.h"
+
+// Copies a row of the ledger grid into the entry editor.
+namespace qvzj {
+namespace {
+
+namespace col = ledger_column;
+
+constexpr int16_t kEntryText = 7;
+constexpr int16_t kCheckText = 63;
+constexpr int16_t kUncheckText = 64;
+
+std::string CellText(const frmZj& form, int32_t column, int32_t row) {
+  return form.Grid2.Stored(column).Text(form.Grid2.StoredRow(row));
+}
+
+double CellNumber(const frmZj& form, int32_t column, int32_t row) {
+  return form.Grid2.Stored(column).Number(form.Grid2.StoredRow(row));
+}
+
+void ShowDate(frmZj& form, int32_t row) {
+  const basic::Column& dates = form.Grid2.Stored(col::kDate);
+  const size_t stored = form.Grid2.StoredRow(row);
+  if (dates.GetKind() == basic::Column::Kind::Date && !dates.IsNull(stored)) {
+    form.dtpAcntDate.SetValue({dates.Integer(stored)});
+  } else {
+    form.dtpAcntDate.SetValue(
+        basic::ParseIso(dates.Text(stored)).value_or(Around().clock->Today()));
+  }
+}
+
+void ShowAmounts(frmZj& form, int32_t row) {
+  using basic::FormatFixed;
+  form.txtAcnt2(3).SetText(FormatFixed(UnsignedAmount(form, col::kMoneyA, row), 2));
+  form.txtAcnt2(4).SetText(FormatFixed(UnsignedAmount(form, col::kMoneyB, row), 2));
+  form.txtAcnt2(5).SetText(FormatFixed(CellNumber(form, col::kBalance, row), 2));
+}
+
+/// The opening amount of a money account has its place only with opening balances.
+void ShowOpening(frmZj& form, int32_t row) {
+  form.chkAcntInit.SetValue(CellNumber(form, col::kInit, row) != 0 ? 1 : 0);
+  if (form.mode == kCustomers) return;
+  form.lblAcnt2(3).SetVisible(form.chkAcntInit.Ticked());
+  form.txtAcnt2(3).SetVisible(form.chkAcntInit.Ticked());
+}
+
+/// The linked money account; an id that the list does not hold stays in the tag.
+void ShowLink(frmZj& form, int32_t row) {
+  const double id = form.mode == kCustomers ? CellNumber(form, col::kID2, row) : 0;
+  form.cboAcntName.SetTag(id != 0 ? CellText(form, col::kID2, row) : "0");
+  form.chkAcntName.SetValue(id > 0 ? 1 : 0);
+  SelectAccountById(form, basic::ToInt32(id));
+}
+
+/// The entry's own currency and rate, not the currency's present rate. The grid does not carry the
+/// currency, so it is read for this one entry.
+void ShowCurrency(frmZj& form, int32_t row) {
+  const data::Recordset entry = Data().Open("Select fMoneyCode from tAccountDetail where fID=" +
+                                            CellText(form, col::kID, row));
+  const bool known = !entry.Eof() && !entry.IsNull(0);
+  const std::string code = known ? entry.Text(0) : "";
+  form.cboHb.SetText(code);
+  form.txtHbRate.SetText(basic::FormatFixed(CellNumber(form, col::kRate, row), 4));
+  RememberEntry(form, row, known ? &code : nullptr);
+}
+
+void ShowTitle(frmZj& form) {
+  form.lblAcntTitle.SetCaption(basic::Left(form.cmdAction(form.currentAction).Caption(), 4));
+}
+
+}  // namespace
+
+void ShowLedgerRow(frmZj& form, int32_t row) {
+  if (row < 1 || row > form.Grid2.RowCount()) return;
+  ForgetEntry(form);
+  form.Grid2.SetActive(form.Grid2.ActiveColumn(), row);
+  ShowDate(form, row);
+  form.optType2(CellNumber(form, col::kType2, row) == 1 ? 1 : 2).Select();
+  form.txtAcnt2(1).SetText(CellText(form, col::kNumber, row));
+  form.txtAcnt2(2).SetText(CellText(form, col::kName, row));
+  form.txtAcnt2(2).SetTag(CellText(form, col::kCompID, row));
+  ShowAmounts(form, row);
+  form.txtAcnt2(6).SetText(CellText(form, col::kBrief, row));
+  form.txtAcnt2(7).SetText(CellText(form, col::kInvID, row));
+  form.txtAcnt2(8).SetText(CellText(form, col::kOrderID, row));
+  form.txtAcnt2(9).SetText(CellText(form, col::kUser, row));
+  form.cboDoneMan.SetText(CellText(form, col::kDoneman, row));
+  ShowOpening(form, row);
+  ShowLink(form, row);
+  ShowChecker(form, CellText(form, col::kChecker, row));
+  form.chkAcntInit.SetTag(CellText(form, col::kID, row));
+  form.cmdAcntCancel.SetTag(CellText(form, col::kNumber, row));
+  ShowCurrency(form, row);
+  OfferActions(form, row);
+  ShowTitle(form);
+  const int armed = ArmedAction(form);
+  if (armed == kActionChange || armed == kActionDelete) {
+    OfferSave(form);
+  } else {
+    LockEntry(form, form.currentAction);
+  }
+}
+
+void OfferActions(frmZj& form, int32_t row) {
+  const bool checked = !CellText(form, col::kChecker, row).empty();
+  form.cmdAction(2).SetEnabled(!checked);
+  form.cmdAction(3).SetEnabled(!checked);
+  ui::Button& check = form.cmdAction(4);
+  check.SetCaption(LoadText(kEntryText) + LoadText(checked ? kUncheckText : kCheckText) +
+                   basic::Right(check.Caption(), 4));
+}
+
+}  // namespace qvzj
