@@ -57,7 +57,7 @@ void Preset(qvJxc_Zj& control, const Options& options) {
 
 int Play(const Options& options, std::istream& in) {
   Headless headless;
-  SuiteConnections connections;
+  SuiteConnections connections({.language = [] { return static_cast<int>(Shared().Language); }});
   headless.Install(connections);
   if (options.today) headless.clock.Set(*options.today);
   if (!options.settings.empty()) LoadSettings(options.settings, headless.settings);
