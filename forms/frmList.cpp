@@ -29,7 +29,7 @@ void PlaceControls(frmList& dialog) {
 
 frmList::frmList() : ui::Form("frmList") {
   PlaceControls(*this);
-  UserResize(3600, 4380, ui::WindowState::Normal);
+  SetSize(3600, 4380);
   cmdLogOK.onClick = [this] {
     Shared().myName = NameOf(List1.Text());
     Unload();

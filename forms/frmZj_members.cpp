@@ -29,12 +29,25 @@ int16_t StateOf(int16_t run_mode) {
   }
 }
 
+// The screen opens on the customer that the host named, found again by its id.
 void OpenNamedCustomer(frmZj& form) {
   LoadForm(form);
   form.lblKhName.SetTag(std::to_string(Shared().myTaskID));
   form.txtSeek(1).SetText(Shared().myName);
   form.chkSeek2.SetValue(0);
-  SearchRegister(form);
+  form.Guard([&form] { SearchRegister(form); });
+}
+
+// The host turns an open form to the other register: it starts up anew for that one, and closes
+// when that fails.
+void StartAnew(frmZj& form) {
+  form.SetLoaded(false);
+  try {
+    LoadForm(form);
+  } catch (...) {
+    form.Unload();
+    throw;
+  }
 }
 
 }  // namespace
@@ -45,11 +58,7 @@ void frmZj::State(int16_t run_mode) {
   const int16_t previous = mode;
   runMode = StateOf(run_mode);
   mode = runMode == kCustomers ? kCustomers : kAccounts;
-  if (Loaded() && mode != previous) {
-    // The host turns an open form to the other register: it starts up anew for that one.
-    SetLoaded(false);
-    LoadForm(*this);
-  }
+  if (Loaded() && mode != previous) StartAnew(*this);
   if (run_mode == kRunNamedCustomer) OpenNamedCustomer(*this);
 }
 

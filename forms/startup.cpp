@@ -79,6 +79,7 @@ void NameAllFields(frmZj& form) {
   NameFields(form.chkDate, form.dtpDate);
   NameFields(form.chkID, form.txtID);
   NameFields(form.chkUser, form.txtUser);
+  form.txtSeekMsg.SetAccessibleName(form.fraKhType.AccessibleName());
   form.txtBrief.SetAccessibleName(form.chkBrief.AccessibleName());
   form.cboKhOrder.SetAccessibleName(form.lblKhOrder.AccessibleName());
   form.dtpAcntDate.SetAccessibleName(form.lblAcnt2(0).AccessibleName());

@@ -136,6 +136,10 @@ void SaveRecord(frmZj& form) {
   LoadRegister(form, form.registerCondition);
 }
 
+void EmptyRecord(frmZj& form) {
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetText("");
+}
+
 void LockRecord(frmZj& form, bool locked) {
   for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetLocked(locked);
 }
@@ -150,9 +154,7 @@ void ArmRecordAction(frmZj& form, int action) {
   form.cmdKhSave.SetTag(std::to_string(action));
   form.cmdKhSave.SetCaption(form.mnuKhManage(action).Caption());
   ShowRecordButtons(form, true);
-  if (form.cmdKhSave.Tag() == kAdd) {
-    for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetText("");
-  }
+  if (form.cmdKhSave.Tag() == kAdd) EmptyRecord(form);
   LockRecord(form, form.cmdKhSave.Tag() == kDelete);
   form.SSTab1.SetTab(1);
   form.SetFocus(form.txtAcnt(0));
@@ -161,7 +163,11 @@ void ArmRecordAction(frmZj& form, int action) {
 void LeaveRecordEditing(frmZj& form) {
   ShowRecordButtons(form, false);
   LockRecord(form, true);
-  ShowRegisterRow(form, form.Grid1.ActiveRow());
+  if (form.Grid1.ActiveRow() > 0) {
+    ShowRegisterRow(form, form.Grid1.ActiveRow());
+  } else {
+    EmptyRecord(form);
+  }
   form.SSTab1.SetTab(0);
   form.SetFocus(form.Grid1);
 }

@@ -67,7 +67,7 @@ void DesignRegister(frmZj& form) {
   form.txtSeekMsg.SetMultiLine(true);
   form.txtSeekMsg.SetLocked(true);
   form.txtSeekMsg.SetTabStop(false);
-  form.txtSeekMsg.SetText("<供销商>可任意归入\r\n\r\n----<供应商> <销售商> <代销商>");
+  form.txtSeekMsg.SetText("<供销商>可任意归入\n\n----<供应商> <销售商> <代销商>");
   form.txtKhMemo.SetMultiLine(true);
   form.Grid1.SetColumnCount(static_cast<int32_t>(kRegisterWidths.size()));
   for (int32_t column = 1; column <= form.Grid1.ColumnCount(); ++column) {
@@ -238,7 +238,7 @@ void frmZj::Design() {
   DesignCaptions(*this, 0);
   ResetForm(*this);
   // A size that shows every column of interest on a usual screen; the window may change it.
-  UserResize(15000, 10200, ui::WindowState::Normal);
+  SetSize(15000, 10200);
 }
 
 void DesignCaptions(frmZj& form, int16_t language) {
