@@ -106,6 +106,8 @@ bool Form::EditKey(EditBox& box, const Key& key, int code) {
 }
 
 bool Form::Copy(EditBox& box, bool cut) {
+  const bool masked = box.GetKind() == Kind::TextBox && static_cast<TextBox&>(box).Masked();
+  if (masked) return true;
   if (box.SelLength() > 0 && writeClipboard) {
     Raise(writeClipboard, box.SelText());
     if (cut && box.TakesText()) ReplaceSelection(box, {});

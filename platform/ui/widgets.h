@@ -99,10 +99,14 @@ class TextBox : public EditBox {
   /// Right-aligned, for amounts.
   bool RightAligned() const { return right_aligned_; }
   void SetRightAligned(bool right) { right_aligned_ = right; }
+  /// Shows dots in place of the text, for passwords. What it holds cannot be copied out.
+  bool Masked() const { return masked_; }
+  void SetMasked(bool masked) { masked_ = masked; }
 
  private:
   bool multi_line_ = false;
   bool right_aligned_ = false;
+  bool masked_ = false;
 };
 
 /// A list of texts that drops down; an editable one also takes a text of its own. Text() is the

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/surroundings.h"
+#include "platform/ui/form.h"
+
+namespace qvzj {
+
+/// Connects what every form of the suite needs: error box, clipboard, and the presenter's notice
+/// when it is closed.
+inline void WireForm(ui::Form& form) {
+  form.onError = [&form](const std::string& text) { Around().boxes->Error(text, form.Caption()); };
+  form.onUnload = [&form] { Around().presenter->Closed(form); };
+  form.readClipboard = [] { return Around().clipboard->Text(); };
+  form.writeClipboard = [](const std::string& text) { Around().clipboard->SetText(text); };
+}
+
+/// Makes Enter in a field move on as Tab does, and Esc close the form.
+inline void MoveOnByEnter(ui::Form& form, ui::Control& control) {
+  control.onKeyPress = [&form](int& key) {
+    if (key == ui::kKeyEnter) {
+      key = 0;
+      form.SendTab();
+    } else if (key == ui::kKeyEscape) {
+      key = 0;
+      form.Unload();
+    }
+  };
+}
+
+}  // namespace qvzj
