@@ -40,13 +40,13 @@ void FormLogin::Ask(int16_t language, const AcceptLogin& accept) {
 
 frmLogin::frmLogin(int16_t language, AcceptLogin accept)
     : ui::Form("frmLogin"), accept_(std::move(accept)) {
-  Caption(language);
+  WriteCaptions(language);
   Place();
   Connect();
   SetFocus(txtUser);
 }
 
-void frmLogin::Caption(int16_t language) {
+void frmLogin::WriteCaptions(int16_t language) {
   SetCaption(LoginTitle(language));
   lblUser.SetCaption(InLanguage(language, "用户(&U):", "用戶(&U):"));
   lblPassword.SetCaption(InLanguage(language, "密码(&P):", "密碼(&P):"));

@@ -43,7 +43,7 @@ struct frmLogin : ui::Form {
   ui::Button cmdCancel{*this, "cmdCancel"};
 
  private:
-  void Caption(int16_t language);
+  void WriteCaptions(int16_t language);
   void Place();
   void Connect();
   void Accept();

@@ -15,13 +15,13 @@ enum Column : int32_t { kId = 1, kDate, kUser, kText, kColumns = kText };
 
 frmTask::frmTask(const TaskCall& call)
     : ui::Form("frmTask"), language_(call.language), today_(call.date), records_(call) {
-  Caption(call);
+  WriteCaptions(call);
   Place();
   Connect();
   Refill(0);
 }
 
-void frmTask::Caption(const TaskCall& call) {
+void frmTask::WriteCaptions(const TaskCall& call) {
   SetCaption(InLanguage(language_, "联系记录", "聯繫記錄") + " - " + call.customer_name);
   Grid1.SetColumnCount(kColumns);
   Grid1.SetHeader(kDate, "日期");
@@ -33,7 +33,7 @@ void frmTask::Caption(const TaskCall& call) {
   cmdSave.SetCaption(InLanguage(language_, "存盘(&S)", "保存(&S)"));
   cmdDelete.SetCaption(InLanguage(language_, "删除(&D)", "刪除(&D)"));
   cmdExit.SetCaption("退出(&X)");
-  Grid1.SetAccessibleName(ui::Form::Caption());
+  Grid1.SetAccessibleName(Caption());
   dtpDate.SetAccessibleName(ui::ShownCaption(lblDate.Caption()));
   txtBrief.SetAccessibleName(ui::ShownCaption(lblBrief.Caption()));
 }
@@ -88,7 +88,7 @@ void frmTask::Connect() {
 
 bool frmTask::Asks(const char* simplified, const char* traditional) const {
   return Around().boxes->Show(InLanguage(language_, simplified, traditional),
-                              box::kQuestionOkCancel, ui::Form::Caption()) == Answer::Ok;
+                              box::kQuestionOkCancel, Caption()) == Answer::Ok;
 }
 
 bool frmTask::MayLeave() {
@@ -126,7 +126,7 @@ void frmTask::Save() {
   const std::string text = basic::Trim(txtBrief.Text());
   if (text.empty()) {
     Around().boxes->Show(InLanguage(language_, "请输入联系内容!", "請輸入聯繫內容!"),
-                         box::kExclamation, ui::Form::Caption());
+                         box::kExclamation, Caption());
     SetFocus(txtBrief);
     return;
   }

@@ -28,7 +28,7 @@ struct frmTask : ui::Form {
   ui::Button cmdExit{*this, "cmdExit"};
 
  private:
-  void Caption(const TaskCall& call);
+  void WriteCaptions(const TaskCall& call);
   void Place();
   void Connect();
   /// Lists the records anew and shows the one of that id, or the first.
