@@ -40,7 +40,7 @@ inline const std::vector<Rule>& Rules() {
        {"control", "forms", "screen", "services", "platform", "adapters"},
        {"nlohmann/"}},
       {"frontends/qt",
-       {"control", "forms", "screen", "services", "platform"},
+       {"control", "forms", "screen", "services", "platform", "adapters"},
        {"Q", "xlsxwriter.h"}},
   };
   return rules;

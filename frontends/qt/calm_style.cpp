@@ -1,0 +1,203 @@
+#include "frontends/qt/calm_style.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
+#include <QWidget>
+
+#include "frontends/qt/theme.h"
+
+namespace qvzj::qt {
+
+namespace {
+
+bool Has(const QStyleOption& option, QStyle::StateFlag flag) { return option.state.testFlag(flag); }
+
+/// The two-stroke arrow of drop-down fields.
+void DrawChevron(QPainter& painter, const QRect& rect, const QColor& color) {
+  const QPointF center = QRectF(rect).center();
+  QPainterPath path(center + QPointF(-3.5, -1.75));
+  path.lineTo(center + QPointF(0, 1.75));
+  path.lineTo(center + QPointF(3.5, -1.75));
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPath(path);
+  painter.restore();
+}
+
+void DrawButton(const QStyleOption& option, QPainter& painter) {
+  const Colors& colors = ColorsFor(option.palette);
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  QColor fill = colors.base;
+  if (!enabled) {
+    fill = colors.card;
+  } else if (Has(option, QStyle::State_Sunken) || Has(option, QStyle::State_On)) {
+    fill = colors.soft_accent;
+  } else if (Has(option, QStyle::State_MouseOver)) {
+    fill = colors.hover;
+  }
+  const bool focused = Has(option, QStyle::State_HasFocus);
+  DrawRounded(painter, option.rect, fill,
+              focused   ? colors.accent
+              : enabled ? colors.strong_border
+                        : colors.border);
+  if (focused) {
+    DrawRounded(painter, option.rect.adjusted(1, 1, -1, -1), Qt::transparent, colors.accent, 3);
+  }
+}
+
+void DrawField(const QStyleOption& option, QPainter& painter, bool read_only) {
+  const Colors& colors = ColorsFor(option.palette);
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const bool focused = Has(option, QStyle::State_HasFocus) && enabled;
+  DrawRounded(painter, option.rect, enabled && !read_only ? colors.base : colors.read_only,
+              focused   ? colors.accent
+              : enabled ? colors.strong_border
+                        : colors.border);
+}
+
+void DrawDropDown(const QStyleOptionComplex& option, QPainter& painter, const QRect& arrow,
+                  bool read_only) {
+  const Colors& colors = ColorsFor(option.palette);
+  DrawField(option, painter, read_only);
+  DrawChevron(painter, arrow,
+              Has(option, QStyle::State_Enabled) && !read_only ? colors.text : colors.border);
+}
+
+void DrawTab(const QStyleOptionTab& option, QPainter& painter) {
+  const Colors& colors = ColorsFor(option.palette);
+  const QRect rect = option.rect;
+  if (Has(option, QStyle::State_Selected)) {
+    painter.fillRect(QRect(rect.left() + 8, rect.bottom() - 1, rect.width() - 16, 2),
+                     colors.accent);
+    if (Has(option, QStyle::State_HasFocus)) {
+      DrawRounded(painter, rect.adjusted(2, 2, -2, -4), Qt::transparent, colors.accent, 3);
+    }
+  } else if (Has(option, QStyle::State_MouseOver)) {
+    painter.fillRect(rect.adjusted(2, 3, -2, -3), colors.hover);
+  }
+}
+
+void DrawHeaderSection(const QStyleOptionHeader& option, QPainter& painter) {
+  const Colors& colors = ColorsFor(option.palette);
+  painter.fillRect(option.rect, Has(option, QStyle::State_MouseOver) ? colors.hover : colors.card);
+  painter.setPen(colors.border);
+  painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+  painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
+}
+
+bool IsReadOnly(const QWidget* widget) {
+  return widget != nullptr && widget->property("qvReadOnly").toBool();
+}
+
+}  // namespace
+
+void DrawRounded(QPainter& painter, const QRect& rect, const QColor& fill, const QColor& outline,
+                 double radius) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(outline.alpha() == 0 ? QPen(Qt::NoPen) : QPen(outline, 1));
+  painter.setBrush(fill);
+  painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+  painter.restore();
+}
+
+CalmStyle::CalmStyle() : QProxyStyle("Fusion") {}
+
+void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                              QPainter* painter, const QWidget* widget) const {
+  switch (element) {
+    case PE_PanelButtonCommand:
+      DrawButton(*option, *painter);
+      return;
+    case PE_FrameLineEdit:
+    case PE_PanelLineEdit: {
+      const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+      if (frame != nullptr && frame->lineWidth <= 0) return;  // inside a drop-down field
+      DrawField(*option, *painter, Has(*option, State_ReadOnly));
+      return;
+    }
+    case PE_FrameFocusRect:
+      return;  // each control shows the focus itself
+    case PE_FrameDefaultButton:
+      return;
+    default:
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+}
+
+void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const {
+  switch (element) {
+    case CE_PushButtonBevel:
+      DrawButton(*option, *painter);
+      return;
+    case CE_TabBarTabShape:
+      if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option)) {
+        DrawTab(*tab, *painter);
+      }
+      return;
+    case CE_HeaderSection:
+    case CE_HeaderEmptyArea:
+      if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option)) {
+        DrawHeaderSection(*header, *painter);
+      } else {
+        painter->fillRect(option->rect, ColorsFor(option->palette).card);
+      }
+      return;
+    default:
+      QProxyStyle::drawControl(element, option, painter, widget);
+  }
+}
+
+void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const {
+  if (control == CC_ComboBox) {
+    const QRect arrow = subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
+    DrawDropDown(*option, *painter, arrow, IsReadOnly(widget));
+    return;
+  }
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                           const QWidget* widget) const {
+  switch (metric) {
+    case PM_ButtonMargin:
+      return 4;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+    case PM_TabBarTabShiftVertical:
+    case PM_TabBarBaseHeight:
+    case PM_TabBarBaseOverlap:
+      return 0;
+    case PM_TabBarTabHSpace:
+      return 20;
+    case PM_TabBarTabVSpace:
+      return 8;
+    case PM_HeaderMargin:
+      return 4;
+    default:
+      return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+}
+
+int CalmStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* returned) const {
+  switch (hint) {
+    case SH_ComboBox_Popup:
+      return 0;  // drop the list below the field, so that the field stays readable
+    case SH_EtchDisabledText:
+    case SH_DitherDisabledText:
+      return 0;
+    case SH_UnderlineShortcut:
+      return 1;
+    case SH_TabBar_Alignment:
+      return Qt::AlignLeft;
+    default:
+      return QProxyStyle::styleHint(hint, option, widget, returned);
+  }
+}
+
+}  // namespace qvzj::qt

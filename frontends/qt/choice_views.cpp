@@ -1,0 +1,212 @@
+#include "frontends/qt/choice_views.h"
+
+#include <QAbstractItemView>
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSignalBlocker>
+
+#include "frontends/qt/form_window.h"
+#include "frontends/qt/keys.h"
+#include "frontends/qt/line_link.h"
+#include "frontends/qt/text.h"
+#include "frontends/qt/theme.h"
+
+namespace qvzj::qt {
+
+namespace {
+
+QDate ToNative(basic::Date date) { return {date.Year(), date.Month(), date.Day()}; }
+
+basic::Date FromNative(const QDate& date) {
+  return basic::Date::FromYmd(date.year(), date.month(), date.day());
+}
+
+}  // namespace
+
+ComboView::ComboView(FormWindow& window, ui::ComboBox& combo, QWidget* parent)
+    : ControlView(window, combo), combo_(combo), native_(new QComboBox(parent)) {
+  native_->setEditable(combo_.Editable());
+  native_->setInsertPolicy(QComboBox::NoInsert);
+  native_->setMaxVisibleItems(16);
+  native_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  if (combo_.Editable()) {
+    native_->setCompleter(nullptr);  // what stands in the box is what was typed
+    link_ = std::make_unique<LineLink>(
+        *native_->lineEdit(), combo_, [this](const std::function<bool()>& act) { return Act(act); },
+        [this] { return Live(); });
+  }
+  Adopt(native_, native_->lineEdit());
+  connect(native_, &QComboBox::activated, this, [this](int index) {
+    Act([&] { return GetForm().UserChoose(combo_, index); });
+    if (Live()) ShowText();
+  });
+}
+
+ComboView::~ComboView() = default;
+
+void ComboView::SendKey(const ui::Key& key) {
+  if (link_) {
+    link_->Key(key);
+  } else {
+    ControlView::SendKey(key);
+  }
+}
+
+QWidget* ComboView::Widget() const { return native_; }
+
+void ComboView::Mirror(ui::Aspect aspect) {
+  ControlView::Mirror(aspect);
+  switch (aspect) {
+    case ui::Aspect::Items:
+      ShowItems();
+      return;
+    case ui::Aspect::Text:
+    case ui::Aspect::Value:
+      ShowText();
+      return;
+    case ui::Aspect::Selection:
+      if (link_) link_->ShowSelection();
+      return;
+    case ui::Aspect::Locked:
+      native_->setProperty("qvReadOnly", combo_.Locked());
+      if (native_->lineEdit()) native_->lineEdit()->setReadOnly(!combo_.TakesText());
+      native_->update();
+      return;
+    default:
+      return;
+  }
+}
+
+void ComboView::ShowItems() {
+  const QSignalBlocker quiet(native_);
+  QStringList shown;
+  for (const std::string& item : combo_.Items()) shown << FromUtf8(combo_.Shown(item));
+  native_->clear();
+  native_->addItems(shown);
+  ShowText();
+}
+
+void ComboView::ShowText() {
+  const QSignalBlocker quiet(native_);
+  if (native_->currentIndex() != combo_.ListIndex()) {
+    // Choosing an item also rewrites an editor's text; its own change must not come back.
+    const QSignalBlocker quiet_line(native_->lineEdit() ? native_->lineEdit()
+                                                        : static_cast<QObject*>(native_));
+    native_->setCurrentIndex(combo_.ListIndex());
+  }
+  if (link_) {
+    link_->ShowText();
+  } else {
+    // A list-only box shows a text that is not in its list as if it were.
+    native_->setPlaceholderText(FromUtf8(combo_.Shown(combo_.Text())));
+  }
+}
+
+bool ComboView::IsModelKey(const ui::Key& key) const {
+  using Name = ui::Key::Name;
+  if (IsFormKey(key) || (link_ && LineLink::TakesKey(key))) return true;
+  if (key.ctrl || key.alt) return false;
+  if (combo_.Editable()) {
+    return key.name == Name::Up || key.name == Name::Down || key.name == Name::PageUp ||
+           key.name == Name::PageDown;
+  }
+  return key.name == Name::Delete || key.name == Name::Backspace || key.name == Name::Character ||
+         IsListKey(key);
+}
+
+bool ComboView::eventFilter(QObject* watched, QEvent* event) {
+  if (ControlView::eventFilter(watched, event)) return true;
+  if (!Live() || !combo_.Locked() || watched != native_) return false;
+  // A locked box shows its text and nothing else: it drops no list and takes no key.
+  const auto type = event->type();
+  return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick ||
+         type == QEvent::Wheel ||
+         (type == QEvent::KeyPress && !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy));
+}
+
+ListView::ListView(FormWindow& window, ui::ListBox& list, QWidget* parent)
+    : ControlView(window, list), list_(list), native_(new QListWidget(parent)) {
+  Adopt(native_, native_->viewport());
+  native_->setUniformItemSizes(true);
+  native_->setTabKeyNavigation(false);
+  connect(native_, &QListWidget::currentRowChanged, this, [this](int row) {
+    Act([&] { return GetForm().UserChoose(list_, row); });
+    if (Live()) Mirror(ui::Aspect::Value);
+  });
+  connect(native_, &QListWidget::itemDoubleClicked, this,
+          [this] { Act([this] { return GetForm().UserDoubleClick(list_); }); });
+}
+
+QWidget* ListView::Widget() const { return native_; }
+
+bool ListView::IsModelKey(const ui::Key& key) const {
+  const bool letter = key.name == ui::Key::Name::Character && !key.ctrl && !key.alt;
+  return letter || IsListKey(key) || IsFormKey(key);
+}
+
+void ListView::Mirror(ui::Aspect aspect) {
+  ControlView::Mirror(aspect);
+  const QSignalBlocker quiet(native_);
+  if (aspect == ui::Aspect::Items) ShowItems();
+  if (aspect == ui::Aspect::Value && native_->currentRow() != list_.ListIndex()) {
+    native_->setCurrentRow(list_.ListIndex());
+  }
+}
+
+void ListView::ShowItems() {
+  QStringList shown;
+  for (const std::string& item : list_.Items()) {
+    shown << FromUtf8(item).replace(QLatin1Char('\t'), QStringLiteral("    "));
+  }
+  native_->clear();
+  native_->addItems(shown);
+  native_->setCurrentRow(list_.ListIndex());
+}
+
+DateView::DateView(FormWindow& window, ui::DatePicker& picker, QWidget* parent)
+    : ControlView(window, picker), picker_(picker), native_(new QDateEdit(parent)) {
+  native_->setDisplayFormat("yyyy-MM-dd");
+  native_->setCalendarPopup(true);
+  native_->setKeyboardTracking(false);  // a date half typed is no date
+  native_->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
+  native_->setLocale(QLocale(QLocale::Chinese));
+  native_->calendarWidget()->setGridVisible(false);
+  native_->calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  Adopt(native_, native_->findChild<QLineEdit*>());
+  connect(native_, &QDateEdit::userDateChanged, this, [this](QDate date) {
+    if (!Live() || !date.isValid()) return;
+    reporting_ = true;
+    Act([&] { return GetForm().UserDate(picker_, FromNative(date)); });
+    reporting_ = false;
+    if (Live()) Mirror(ui::Aspect::Value);
+  });
+}
+
+QWidget* DateView::Widget() const { return native_; }
+
+bool DateView::IsModelKey(const ui::Key& key) const {
+  using Name = ui::Key::Name;
+  const bool steps = key.name == Name::Up || key.name == Name::Down || key.name == Name::PageUp ||
+                     key.name == Name::PageDown;
+  return (steps && IsListKey(key)) || IsFormKey(key);
+}
+
+void DateView::Mirror(ui::Aspect aspect) {
+  ControlView::Mirror(aspect);
+  if (aspect != ui::Aspect::Value) return;
+  const QDate wanted = ToNative(picker_.Value());
+  if (native_->date() == wanted) return;
+  const QSignalBlocker quiet(native_);
+  native_->setDate(wanted);
+}
+
+void DateView::CommitEdit() {
+  if (!reporting_) native_->interpretText();
+}
+
+}  // namespace qvzj::qt

@@ -1,0 +1,257 @@
+#include "frontends/qt/form_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QScreen>
+
+#include "frontends/qt/keys.h"
+#include "frontends/qt/scale.h"
+#include "frontends/qt/text.h"
+#include "frontends/qt/theme.h"
+
+namespace qvzj::qt {
+
+FormWindow::FormWindow(ui::Form& form, const WindowOptions& options, QWidget* parent)
+    : QWidget(parent, Qt::Window), form_(&form), options_(options) {
+  setObjectName(FromUtf8(form.Name()));
+  setFocusPolicy(Qt::NoFocus);
+  ApplyTheme();
+  TakeInitialSize();
+  Build();
+  form_->AddObserver(this);
+  FormChanged(form, ui::Aspect::Caption);
+  FormChanged(form, ui::Aspect::MousePointer);
+  Flush();
+}
+
+FormWindow::~FormWindow() { Detach(); }
+
+void FormWindow::Detach() {
+  if (!Live()) return;
+  SetHourglass(false);
+  form_->RemoveObserver(this);
+  for (const auto& view : views_) view->Detach();
+  stale_.clear();
+  form_ = nullptr;
+}
+
+bool FormWindow::Resizable() const { return Live() && form_->onResize != nullptr; }
+
+void FormWindow::ApplyTheme() {
+  const bool traditional = options_.language && options_.language() == 1;
+  setFont(ThemeFont(traditional));
+  setPalette(ThemePalette(Appearance::System));
+  setStyle(ThemeStyle());
+}
+
+void FormWindow::TakeInitialSize() {
+  const QSize wanted(ToPixels(form_->Width(), logicalDpiX()),
+                     ToPixels(form_->Height(), logicalDpiY()));
+  if (!Resizable()) {
+    setFixedSize(wanted);
+    return;
+  }
+  resize(wanted.boundedTo(screen()->availableSize()));
+}
+
+QWidget* FormWindow::ParentFor(const ui::Control& control) {
+  const ui::Control* container = control.Container();
+  return container == nullptr ? this : ViewOf(*container)->Inner(control.Page());
+}
+
+void FormWindow::Build() {
+  for (ui::Control* control : form_->Controls()) {
+    if (control->GetKind() == ui::Kind::Menu) continue;
+    std::unique_ptr<ControlView> view = MakeView(*this, *control, ParentFor(*control));
+    view_of_[control] = view.get();
+    views_.push_back(std::move(view));
+  }
+  for (const auto& view : views_) view->MirrorAll();
+}
+
+ControlView* FormWindow::ViewOf(const ui::Control& control) const {
+  const auto found = view_of_.find(&control);
+  return found == view_of_.end() ? nullptr : found->second;
+}
+
+bool FormWindow::Act(const std::function<bool()>& act) {
+  if (!Live()) return false;
+  const QPointer<FormWindow> self(this);
+  if (acts_ == 0 && form_->Focused() != nullptr) {
+    if (ControlView* focused = ViewOf(*form_->Focused())) focused->CommitEdit();
+    if (!self || !Live()) return false;
+  }
+  ++acts_;
+  const bool done = act();
+  if (!self) return false;
+  --acts_;
+  if (!Live()) return false;
+  if (acts_ == 0) Flush();
+  return done;
+}
+
+void FormWindow::PutOff(ControlView& view) {
+  stale_.insert(&view);
+  FlushLater();
+}
+
+void FormWindow::FlushLater() {
+  // An act that waits in a message box shows its state meanwhile.
+  if (flush_posted_) return;
+  flush_posted_ = true;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        flush_posted_ = false;
+        Flush();
+      },
+      Qt::QueuedConnection);
+}
+
+void FormWindow::Flush() {
+  if (!Live()) return;
+  while (!stale_.empty()) {
+    const auto batch = std::exchange(stale_, {});
+    for (ControlView* view : batch) view->Refresh();
+  }
+  SyncFocus();
+}
+
+void FormWindow::SyncFocus() {
+  ui::Control* focused = form_->Focused();
+  ControlView* view = focused == nullptr ? nullptr : ViewOf(*focused);
+  QWidget* wanted = view == nullptr ? this : view->FocusWidget();
+  if (focusWidget() == wanted) return;
+  const QScopedValueRollback<bool> following(following_, true);
+  wanted->setFocus(Qt::OtherFocusReason);
+}
+
+void FormWindow::ControlChanged(ui::Control& control, ui::Aspect aspect) {
+  if (aspect == ui::Aspect::Focus) {
+    FlushLater();
+    return;
+  }
+  if (ControlView* view = ViewOf(control)) view->Mirror(aspect);
+}
+
+void FormWindow::FormChanged(ui::Form& form, ui::Aspect aspect) {
+  switch (aspect) {
+    case ui::Aspect::Caption:
+      setWindowTitle(FromUtf8(form.Caption()));
+      return;
+    case ui::Aspect::Focus:
+      FlushLater();
+      return;
+    case ui::Aspect::MousePointer:
+      SetHourglass(form.GetMousePointer() == ui::MousePointer::Hourglass);
+      return;
+    case ui::Aspect::Closed:
+      Detach();
+      hide();
+      return;
+    default:
+      return;
+  }
+}
+
+void FormWindow::SetHourglass(bool on) {
+  if (on == hourglass_) return;
+  hourglass_ = on;
+  if (on) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+void FormWindow::PopUpMenu(ui::Form&, ui::MenuItem& menu, int32_t left, int32_t top) {
+  auto* native = new QMenu(this);
+  native->setAttribute(Qt::WA_DeleteOnClose);
+  native->setFont(font());
+  FillMenu(*native, menu);
+  native->popup(mapToGlobal(QPoint(ToPixels(left, logicalDpiX()), ToPixels(top, logicalDpiY()))));
+}
+
+void FormWindow::FillMenu(QMenu& native, ui::MenuItem& menu) {
+  for (ui::Control* control : form_->Controls()) {
+    if (control->Container() != &menu || !control->Visible()) continue;
+    if (control->Caption() == "-") {
+      native.addSeparator();
+      continue;
+    }
+    QAction* action = native.addAction(FromUtf8(control->Caption()));
+    action->setEnabled(control->Enabled());
+    // The menu must be gone before the act, which may open a box.
+    connect(
+        action, &QAction::triggered, this,
+        [this, control] { Act([this, control] { return form_->UserClick(*control); }); },
+        Qt::QueuedConnection);
+  }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  if (!Live()) return;
+  event->ignore();  // the form decides; its end closes the window
+  Act([this] {
+    form_->UserClose();
+    return true;
+  });
+  if (!Live()) event->accept();
+}
+
+void FormWindow::ReportSize() {
+  if (!Live() || !Resizable() || !isVisible()) return;
+  const ui::WindowState state = isMinimized()   ? ui::WindowState::Minimised
+                                : isMaximized() ? ui::WindowState::Maximised
+                                                : ui::WindowState::Normal;
+  Act([&] {
+    return form_->UserResize(ToTwips(width(), logicalDpiX()), ToTwips(height(), logicalDpiY()),
+                             state);
+  });
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  ReportSize();
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) ReportSize();
+  if (event->type() == QEvent::ApplicationPaletteChange)
+    setPalette(ThemePalette(Appearance::System));
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  ReportSize();
+  FlushLater();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  // No control has the focus: the form's own keys still work.
+  const std::optional<ui::Key> key = KeyOf(*event);
+  if (!Live() || !key || !IsFormKey(*key)) {
+    QWidget::keyPressEvent(event);
+    return;
+  }
+  Act([&] { return form_->UserKey(*key); });
+}
+
+bool FormWindow::focusNextPrevChild(bool) {
+  // Tab is the form's; a hidden widget hands its focus to whatever the form says.
+  FlushLater();
+  return true;
+}
+
+void FormWindow::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().window());
+}
+
+}  // namespace qvzj::qt

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "frontends/qt/view.h"
+#include "platform/ui/form.h"
+
+class QMenu;
+
+namespace qvzj::qt {
+
+class LayoutStore;
+
+/// What windows need from the program around them. All may be left empty.
+struct WindowOptions {
+  /// 0 simplified, 1 traditional Chinese; asked when a window is built.
+  std::function<int()> language;
+  /// Keeps column widths and window places per user; null keeps none.
+  LayoutStore* layouts = nullptr;
+};
+
+/// A native window that shows a form. It builds itself from the form's controls, whatever form it
+/// is, and follows them until the form goes away (Detach).
+class FormWindow : public QWidget, private ui::FormObserver {
+ public:
+  FormWindow(ui::Form& form, const WindowOptions& options, QWidget* parent = nullptr);
+  ~FormWindow() override;
+
+  /// The form has been unloaded: lets go of it. The window may be deleted any time later.
+  void Detach();
+  /// False after Detach.
+  bool Live() const { return form_ != nullptr; }
+  ui::Form& GetForm() const { return *form_; }
+  const WindowOptions& Options() const { return options_; }
+
+  /// Runs a user's act on the form, then brings the window in step with it. False when the act was
+  /// refused or the form has gone meanwhile.
+  bool Act(const std::function<bool()>& act);
+  /// Shows the view's contents at the end of the running act rather than at once.
+  void PutOff(ControlView& view);
+  /// Shows now what was put off until the end of an act (grid contents, the focus).
+  void Flush();
+  /// True while the window itself moves the native focus.
+  bool Following() const { return following_; }
+  /// The view of a control; null for menu entries.
+  ControlView* ViewOf(const ui::Control& control) const;
+  const std::vector<std::unique_ptr<ControlView>>& Views() const { return views_; }
+  /// True for a form that arranges itself to its window; others are dialogs of fixed size.
+  bool Resizable() const;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  void ControlChanged(ui::Control& control, ui::Aspect aspect) override;
+  void FormChanged(ui::Form& form, ui::Aspect aspect) override;
+  void PopUpMenu(ui::Form& form, ui::MenuItem& menu, int32_t left, int32_t top) override;
+
+  void Build();
+  void ApplyTheme();
+  void TakeInitialSize();
+  void SyncFocus();
+  void SetHourglass(bool on);
+  void ReportSize();
+  void FillMenu(QMenu& native, ui::MenuItem& menu);
+  void FlushLater();
+  QWidget* ParentFor(const ui::Control& control);
+
+  ui::Form* form_;
+  WindowOptions options_;
+  std::vector<std::unique_ptr<ControlView>> views_;
+  std::unordered_map<const ui::Control*, ControlView*> view_of_;
+  std::unordered_set<ControlView*> stale_;  // views whose contents are put off
+  int acts_ = 0;                            // depth of running acts
+  bool flush_posted_ = false;
+  bool hourglass_ = false;
+  bool following_ = false;
+};
+
+}  // namespace qvzj::qt

@@ -1,0 +1,242 @@
+#include "frontends/qt/grid_view.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QStyledItemDelegate>
+
+#include "frontends/qt/form_window.h"
+#include "frontends/qt/grid_model.h"
+#include "frontends/qt/keys.h"
+#include "frontends/qt/scale.h"
+#include "frontends/qt/theme.h"
+
+namespace qvzj::qt {
+
+namespace {
+
+/// Paints the chosen rows softly, so that a text keeps its colour on them.
+class CellDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const Colors& colors = ColorsFor(option->palette);
+    const bool focused = option->widget != nullptr && option->widget->hasFocus();
+    const QColor text = index.data(Qt::ForegroundRole).isValid()
+                            ? index.data(Qt::ForegroundRole).value<QBrush>().color()
+                            : colors.text;
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+      option->palette.setColor(group, QPalette::Highlight,
+                               focused ? colors.soft_accent : colors.faint_accent);
+      option->palette.setColor(group, QPalette::HighlightedText, text);
+    }
+    option->state &= ~QStyle::State_HasFocus;
+  }
+};
+
+bool HasArrow(const std::string& header) { return header.ends_with("↑") || header.ends_with("↓"); }
+
+}  // namespace
+
+GridTable::GridTable(QWidget* parent) : QTableView(parent) {
+  setItemDelegate(new CellDelegate(this));
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(ExtendedSelection);
+  setEditTriggers(NoEditTriggers);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setVerticalScrollMode(ScrollPerItem);
+  setFrameShape(QFrame::StyledPanel);
+  setContextMenuPolicy(Qt::CustomContextMenu);
+  horizontalHeader()->setSectionsClickable(true);
+  horizontalHeader()->setSectionsMovable(true);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setMinimumSectionSize(24);
+  horizontalHeader()->setTextElideMode(Qt::ElideRight);
+  verticalHeader()->setHighlightSections(false);
+  verticalHeader()->setSectionsClickable(true);
+}
+
+void GridTable::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (!currentIndex().isValid()) return;
+  // The current row has a mark at its left edge, so that it stays clear among selected rows.
+  QPainter painter(viewport());
+  const int row = currentIndex().row();
+  painter.fillRect(0, rowViewportPosition(row), 3, rowHeight(row), ColorsFor(palette()).accent);
+}
+
+GridView::GridView(FormWindow& window, ui::Grid& grid, QWidget* parent)
+    : ControlView(window, grid),
+      grid_(grid),
+      table_(new GridTable(parent)),
+      model_(std::make_unique<GridModel>(grid)) {
+  table_->setModel(model_.get());
+  Adopt(table_, table_->viewport());
+  for (QWidget* part : {static_cast<QWidget*>(table_->horizontalHeader()),
+                        static_cast<QWidget*>(table_->verticalHeader())}) {
+    part->setStyle(ThemeStyle());
+    part->setFocusPolicy(Qt::NoFocus);
+  }
+  table_->viewport()->setFocusPolicy(Qt::NoFocus);
+  ConnectTable();
+}
+
+GridView::~GridView() {
+  // The table lives a little longer than its model.
+  table_->setModel(nullptr);
+}
+
+void GridView::ConnectTable() {
+  connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this](const QModelIndex& current) { CurrentMoved(current); });
+  connect(table_->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) {
+    if (!Live()) return;
+    Act([&] { return GetForm().UserHeader(grid_, section + 1); });
+  });
+  connect(table_, &QTableView::doubleClicked, this, [this](const QModelIndex& cell) {
+    if (!Live()) return;
+    const int column = cell.column() + 1;
+    const int row = cell.row() + 1;
+    Act([&] { return GetForm().UserCellDoubleClick(grid_, column, row); });
+  });
+  connect(table_->verticalHeader(), &QHeaderView::sectionResized, this,
+          [this](int section, int, int pixels) {
+            if (showing_ || !Live()) return;
+            const int32_t height = ToTwips(pixels, table_->logicalDpiY());
+            Act([&] { return GetForm().UserRowHeight(grid_, section + 1, section + 1, height); });
+          });
+}
+
+QWidget* GridView::Widget() const { return table_; }
+
+void GridView::Mirror(ui::Aspect aspect) {
+  switch (aspect) {
+    case ui::Aspect::GridContents:
+    case ui::Aspect::GridCurrent:
+    case ui::Aspect::Visible:
+      // Filling a grid hides it, changes it many times and shows it again, all in one act.
+      contents_stale_ = contents_stale_ || aspect == ui::Aspect::GridContents;
+      current_stale_ = true;
+      window_.PutOff(*this);
+      return;
+    case ui::Aspect::Bounds:
+      ControlView::Mirror(aspect);
+      CountPageRows();
+      return;
+    default:
+      ControlView::Mirror(aspect);
+  }
+}
+
+void GridView::Refresh() {
+  const QScopedValueRollback<bool> echo(showing_, true);
+  if (contents_stale_) {
+    contents_stale_ = false;
+    model_->SetPalette(table_->palette(), ColorsFor(table_->palette()).negative);
+    model_->Refresh();
+    ShowColumns();
+    ShowSortIndicator();
+  }
+  table_->setVisible(grid_.Visible());
+  if (current_stale_) {
+    current_stale_ = false;
+    ShowCurrent();
+  }
+}
+
+void GridView::Detach() {
+  showing_ = true;
+  model_->Detach();
+}
+
+void GridView::ShowColumns() {
+  const int count = grid_.ColumnCount();
+  designed_.resize(static_cast<size_t>(count), -1);
+  for (int column = 0; column < count; ++column) {
+    table_->setColumnHidden(column, grid_.ColumnHidden(column + 1));
+    const int32_t width = grid_.ColumnWidth(column + 1);
+    int32_t& designed = designed_[static_cast<size_t>(column)];
+    if (designed == width) continue;
+    designed = width;
+    table_->setColumnWidth(column, ToPixels(width, table_->logicalDpiX()));
+  }
+  const int height = ToPixels(grid_.RowHeight(), table_->logicalDpiY());
+  table_->verticalHeader()->setDefaultSectionSize(height);
+  CountPageRows();
+}
+
+void GridView::ShowSortIndicator() {
+  QHeaderView* header = table_->horizontalHeader();
+  const int column = grid_.SortColumn();
+  const bool sorted =
+      column >= 1 && column <= grid_.ColumnCount() && grid_.GetSortOrder() != ui::SortOrder::None;
+  // Where the form writes the arrow into the caption, a second one would only be noise.
+  const bool shown = sorted && !HasArrow(grid_.Header(column));
+  header->setSortIndicatorShown(shown);
+  if (shown) {
+    header->setSortIndicator(column - 1, grid_.GetSortOrder() == ui::SortOrder::Ascending
+                                             ? Qt::AscendingOrder
+                                             : Qt::DescendingOrder);
+  }
+}
+
+void GridView::ShowCurrent() {
+  const QModelIndex wanted = model_->index(grid_.ActiveRow() - 1, grid_.ActiveColumn() - 1);
+  QItemSelectionModel* selection = table_->selectionModel();
+  if (!wanted.isValid()) {
+    selection->clear();
+    return;
+  }
+  if (selection->currentIndex() == wanted && selection->isRowSelected(wanted.row())) return;
+  const bool other_row = selection->currentIndex().row() != wanted.row();
+  selection->setCurrentIndex(wanted,
+                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  if (other_row) table_->scrollTo(wanted);
+}
+
+void GridView::CurrentMoved(const QModelIndex& current) {
+  if (showing_ || !Live() || !current.isValid()) return;
+  const int column = current.column() + 1;
+  const int row = current.row() + 1;
+  if (column == grid_.ActiveColumn() && row == grid_.ActiveRow()) return;
+  Act([&] { return GetForm().UserCell(grid_, column, row); });
+  if (!Live()) return;
+  if (grid_.ActiveColumn() != column || grid_.ActiveRow() != row) {
+    // The form kept the cell or went elsewhere.
+    const QScopedValueRollback<bool> echo(showing_, true);
+    ShowCurrent();
+  }
+}
+
+void GridView::CountPageRows() {
+  const int height = table_->verticalHeader()->defaultSectionSize();
+  if (height > 0) grid_.SetPageRows(table_->viewport()->height() / height);
+}
+
+bool GridView::IsModelKey(const ui::Key& key) const {
+  using Name = ui::Key::Name;
+  const bool sideways =
+      (key.name == Name::Left || key.name == Name::Right) && !key.ctrl && !key.alt && !key.shift;
+  return sideways || IsListKey(key) || IsFormKey(key);
+}
+
+bool GridView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize && Live()) CountPageRows();
+  if (event->type() == QEvent::PaletteChange) {
+    model_->SetPalette(table_->palette(), ColorsFor(table_->palette()).negative);
+  }
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+    table_->viewport()->update();  // the current row's shade tells the focus
+  }
+  return ControlView::eventFilter(watched, event);
+}
+
+}  // namespace qvzj::qt

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QTableView>
+
+#include "frontends/qt/view.h"
+
+namespace qvzj::qt {
+
+class GridModel;
+
+/// The native table: rows of one height, whole rows selected, the current row clear with or
+/// without the focus.
+class GridTable : public QTableView {
+ public:
+  explicit GridTable(QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+/// The view of a grid. Contents are taken over at the end of an act, never cell by cell; the
+/// active cell is the form's, a selection of several rows is the table's own.
+class GridView : public ControlView {
+ public:
+  GridView(FormWindow& window, ui::Grid& grid, QWidget* parent);
+  ~GridView() override;
+  QWidget* Widget() const override;
+  void Mirror(ui::Aspect aspect) override;
+  void Refresh() override;
+  void Detach() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+  GridTable* Table() const { return table_; }
+  GridModel& Model() const { return *model_; }
+  ui::Grid& GetGrid() const { return grid_; }
+
+ protected:
+  bool FocusesOnPress() const override { return true; }
+  bool IsModelKey(const ui::Key& key) const override;
+
+ private:
+  void ConnectTable();
+  void ShowColumns();
+  void ShowSortIndicator();
+  void ShowCurrent();
+  void CurrentMoved(const QModelIndex& current);
+  void CountPageRows();
+
+  ui::Grid& grid_;
+  GridTable* table_;
+  std::unique_ptr<GridModel> model_;
+  std::vector<int32_t> designed_;  // designed widths in twips, as last shown
+  bool contents_stale_ = true;
+  bool current_stale_ = true;
+  bool showing_ = false;  // the table's own signals are echoes
+};
+
+}  // namespace qvzj::qt

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+
+#include "frontends/qt/view.h"
+
+class QCheckBox;
+class QPushButton;
+class QRadioButton;
+
+/// The views of labels, buttons, check boxes, options and frames.
+namespace qvzj::qt {
+
+/// One line of text that is cut with an ellipsis where it does not fit and then shows itself whole
+/// as a tool tip.
+class ElidedLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
+};
+
+class LabelView : public ControlView {
+ public:
+  LabelView(FormWindow& window, ui::Label& label, QWidget* parent);
+  QWidget* Widget() const override;
+  void Mirror(ui::Aspect aspect) override;
+  TextFit Fit() const override;
+
+ private:
+  ElidedLabel* label_;
+};
+
+class ButtonView : public ControlView {
+ public:
+  ButtonView(FormWindow& window, ui::Button& button, QWidget* parent);
+  QWidget* Widget() const override;
+  void Mirror(ui::Aspect aspect) override;
+  TextFit Fit() const override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ protected:
+  bool IsModelKey(const ui::Key& key) const override;
+
+ private:
+  void Pressed();
+
+  ui::Button& button_;
+  QPushButton* native_;
+  QPoint pressed_at_;  // in the button
+};
+
+class CheckView : public ControlView {
+ public:
+  CheckView(FormWindow& window, ui::CheckBox& check, QWidget* parent);
+  QWidget* Widget() const override;
+  void Mirror(ui::Aspect aspect) override;
+  TextFit Fit() const override;
+
+ protected:
+  bool IsModelKey(const ui::Key& key) const override;
+
+ private:
+  ui::CheckBox& check_;
+  QCheckBox* native_;
+};
+
+class OptionView : public ControlView {
+ public:
+  OptionView(FormWindow& window, ui::OptionButton& option, QWidget* parent);
+  QWidget* Widget() const override;
+  void Mirror(ui::Aspect aspect) override;
+  TextFit Fit() const override;
+
+ protected:
+  bool IsModelKey(const ui::Key& key) const override;
+
+ private:
+  ui::OptionButton& option_;
+  QRadioButton* native_;
+};
+
+/// A panel with a quiet outline; a caption stands in its upper edge.
+class Panel : public QWidget {
+ public:
+  using QWidget::QWidget;
+  void SetTitle(const QString& title);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString title_;
+};
+
+class FrameView : public ControlView {
+ public:
+  FrameView(FormWindow& window, ui::Frame& frame, QWidget* parent);
+  QWidget* Widget() const override;
+  void Mirror(ui::Aspect aspect) override;
+
+ private:
+  Panel* panel_;
+};
+
+}  // namespace qvzj::qt

@@ -1,0 +1,63 @@
+#include "frontends/qt/presenter.h"
+
+#include <QApplication>
+#include <QScreen>
+
+#include "frontends/qt/layout_store.h"
+
+namespace qvzj::qt {
+
+QtPresenter::~QtPresenter() {
+  for (auto& [form, shown] : shown_) delete shown.window;
+}
+
+FormWindow* QtPresenter::WindowOf(const ui::Form& form) const {
+  const auto found = shown_.find(&form);
+  return found == shown_.end() ? nullptr : found->second.window;
+}
+
+void QtPresenter::Place(FormWindow& window, const QWidget* owner) const {
+  if (window.Resizable() && options_.layouts != nullptr &&
+      window.restoreGeometry(options_.layouts->Place(window.objectName()))) {
+    return;
+  }
+  const QRect room =
+      owner != nullptr ? owner->frameGeometry() : window.screen()->availableGeometry();
+  window.move(room.center() - QRect(QPoint(), window.size()).center());
+}
+
+void QtPresenter::Show(ui::Form& form, bool modal) {
+  if (FormWindow* open = WindowOf(form)) {
+    open->showNormal();
+    open->raise();
+    open->activateWindow();
+    return;
+  }
+  QWidget* owner = modal ? QApplication::activeWindow() : nullptr;
+  auto* window = new FormWindow(form, options_, owner);
+  if (modal) window->setWindowModality(Qt::ApplicationModal);
+  Place(*window, owner);
+  shown_[&form] = {window, nullptr};
+  window->show();
+  window->activateWindow();
+  if (!modal) return;
+  QEventLoop loop;
+  shown_[&form].loop = &loop;
+  loop.exec();
+}
+
+void QtPresenter::Closed(ui::Form& form) {
+  const auto found = shown_.find(&form);
+  if (found == shown_.end()) return;
+  const Shown shown = found->second;
+  shown_.erase(found);
+  if (options_.layouts != nullptr && shown.window->windowFlags().testFlag(Qt::Window)) {
+    options_.layouts->KeepPlace(shown.window->objectName(), shown.window->saveGeometry());
+  }
+  shown.window->Detach();
+  shown.window->hide();
+  shown.window->deleteLater();
+  if (shown.loop != nullptr) shown.loop->quit();
+}
+
+}  // namespace qvzj::qt

@@ -1,0 +1,123 @@
+#include "frontends/qt/view.h"
+
+#include <QEvent>
+#include <QFocusEvent>
+#include <QKeyEvent>
+
+#include "frontends/qt/form_window.h"
+#include "frontends/qt/keys.h"
+#include "frontends/qt/scale.h"
+#include "frontends/qt/text.h"
+#include "frontends/qt/theme.h"
+
+namespace qvzj::qt {
+
+QWidget* ControlView::Inner(int) const { return Widget(); }
+
+void ControlView::Mirror(ui::Aspect aspect) {
+  switch (aspect) {
+    case ui::Aspect::Caption:
+      FocusWidget()->setAccessibleName(FromUtf8(control_->AccessibleName()));
+      return;
+    case ui::Aspect::Enabled:
+      Widget()->setEnabled(control_->Enabled());
+      return;
+    case ui::Aspect::Visible:
+      Widget()->setVisible(control_->Visible());
+      return;
+    case ui::Aspect::Bounds:
+      Widget()->setGeometry(ToPixels(control_->GetBounds(), *Widget()));
+      return;
+    default:
+      return;
+  }
+}
+
+void ControlView::MirrorAll() {
+  for (ui::Aspect aspect :
+       {ui::Aspect::Caption, ui::Aspect::Items, ui::Aspect::Tabs, ui::Aspect::Text,
+        ui::Aspect::Value, ui::Aspect::Locked, ui::Aspect::Enabled, ui::Aspect::Bounds,
+        ui::Aspect::Visible, ui::Aspect::GridContents, ui::Aspect::GridCurrent}) {
+    Mirror(aspect);
+  }
+}
+
+void ControlView::Adopt(QWidget* widget, QWidget* also) {
+  widget->setObjectName(FromUtf8(control_->FullName()));
+  for (QWidget* watched : {widget, also}) {
+    if (watched == nullptr) continue;
+    watched->setStyle(ThemeStyle());
+    watched->setFocusPolicy(Qt::TabFocus);
+    watched->installEventFilter(this);
+  }
+}
+
+bool ControlView::IsModelKey(const ui::Key& key) const { return IsFormKey(key); }
+
+bool ControlView::Live() const { return window_.Live(); }
+
+bool ControlView::Act(const std::function<bool()>& act) { return window_.Act(act); }
+
+bool ControlView::eventFilter(QObject* watched, QEvent* event) {
+  if (!Live()) return false;
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      return HandleKey(*static_cast<QKeyEvent*>(event), true);
+    case QEvent::KeyPress:
+      return HandleKey(*static_cast<QKeyEvent*>(event), false);
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      return FocusesOnPress() && HandlePress();
+    case QEvent::Wheel: {
+      // The wheel scrolls what has the focus; over anything else it must not change a value.
+      const bool focused = FocusWidget()->hasFocus();
+      const bool scrolls = control_->GetKind() == ui::Kind::Grid ||
+                           control_->GetKind() == ui::Kind::ListBox ||
+                           control_->GetKind() == ui::Kind::TextBox;
+      if (!focused && !scrolls) event->ignore();
+      return !focused && !scrolls;
+    }
+    case QEvent::FocusIn:
+      if (!window_.Following()) HandleFocusIn();
+      return false;
+    default:
+      return QObject::eventFilter(watched, event);
+  }
+}
+
+bool ControlView::HandleKey(QKeyEvent& event, bool only_ask) {
+  const std::optional<ui::Key> key = KeyOf(event);
+  if (!key || !IsModelKey(*key)) return false;
+  if (only_ask) {
+    event.accept();
+  } else {
+    SendKey(*key);
+  }
+  return true;
+}
+
+void ControlView::SendKey(const ui::Key& key) {
+  Act([&] { return GetForm().UserKey(key); });
+}
+
+bool ControlView::HandlePress() {
+  if (GetForm().Focused() == control_ || !control_->CanFocus()) return false;
+  if (!Act([this] { return GetForm().UserFocus(*control_); })) return true;
+  return SwallowFocusingPress();
+}
+
+void ControlView::HandleFocusIn() {
+  // Something outside moved the focus (assistive technology, the window coming to the front).
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        if (!Live()) return;
+        if (FocusWidget()->hasFocus() && GetForm().Focused() != control_ && control_->CanFocus()) {
+          Act([this] { return GetForm().UserFocus(*control_); });
+        }
+        window_.Flush();
+      },
+      Qt::QueuedConnection);
+}
+
+}  // namespace qvzj::qt

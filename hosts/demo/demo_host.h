@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "control/qvJxc_Zj.h"
+#include "frontends/qt/surroundings.h"
+#include "suite/connections.h"
+
+namespace qvzj::demo {
+
+/// The host's side of the embedding: the surroundings, the suite's components and the control, set
+/// up as a host does it.
+class DemoHost {
+ public:
+  /// `data` is the folder of the data file.
+  explicit DemoHost(const QString& data, const QString& settings_file = {});
+
+  /// Opens the control in a run mode; an open one in another mode or language is closed first.
+  void Open(int16_t run_mode);
+  void Close();
+  /// 0 simplified, 1 traditional Chinese; an open control is closed, as its texts are set once.
+  void SetLanguage(int16_t language);
+  int16_t Language() const { return language_; }
+
+  qvJxc_Zj& Control() { return control_; }
+  qt::QtPresenter& Windows() { return surroundings_.Windows(); }
+
+ private:
+  qt::QtSurroundings surroundings_;
+  SuiteConnections connections_;
+  qvJxc_Zj control_;
+  int16_t language_ = 0;
+  int16_t open_mode_ = -1;  // run mode of the open screen
+};
+
+}  // namespace qvzj::demo

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace qvzj::demo {
+
+class DemoHost;
+
+/// Draws the screens of both modes in both languages into PNG files in `folder` and names each
+/// file on standard output. False when the control did not open or a file could not be written.
+bool TakeShots(DemoHost& host, const QString& folder);
+
+}  // namespace qvzj::demo
