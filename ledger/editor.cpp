@@ -156,7 +156,6 @@ void ConnectEditor(frmZj& form) {
   ConnectDate(form);
   form.cboHb.onClick = [&form] { ShowRate(form); };
   EnterWalksOn(form.cboHb);
-  EnterWalksOn(form.cboKhOrder);
   form.chkAcntInit.onClick = [&form] { OpeningClicked(form); };
   EnterWalksOn(form.chkAcntInit);
   form.cboAcntName.onClick = [&form] { AccountChosen(form); };

@@ -1,0 +1,280 @@
+#include "ledger/query.h"
+
+#include "tests/ledger/ledger_world.h"
+
+namespace qvzj::test {
+namespace {
+
+class LedgerQuery : public LedgerTest {
+ protected:
+  frmZj& OpenAll(int16_t mode = kCustomers) {
+    frmZj& form = Open(mode);
+    form.UserClick(form.OptSelect(0));
+    return form;
+  }
+};
+
+TEST_F(LedgerQuery, SignsBalancesAndTotalsCustomers) {
+  Add({.number = "N1", .a = "100", .b = "30"});
+  Add({.type2 = "2", .number = "N2", .a = "50"});
+  frmZj& form = Open();
+  EXPECT_EQ(Column(form, col::kMoneyA), (Texts{"100.00", "-50.00"}));
+  EXPECT_EQ(Column(form, col::kMoneyB), (Texts{"30.00", ""}));
+  EXPECT_EQ(Column(form, col::kBalance), (Texts{"70.00", "20.00"}));
+  const Texts totals = {"100.00", "30.00", "70.00", "50.00", "0.00", "50.00"};
+  for (int i = 0; i < 6; ++i) EXPECT_EQ(Total(form, i), totals[static_cast<size_t>(i)]) << i;
+}
+
+TEST_F(LedgerQuery, AddsAmountsUpInMoneyAccounts) {
+  Add({.type1 = 1, .number = "N1", .init = "1", .a = "500"});
+  Add({.type1 = 1, .number = "N2", .b = "30"});
+  Add({.type1 = 1, .type2 = "2", .number = "N3", .b = "10"});
+  frmZj& form = Open(kAccounts);
+  EXPECT_EQ(Column(form, col::kMoneyA), (Texts{"500.00", "", ""}));
+  EXPECT_EQ(Column(form, col::kMoneyB), (Texts{"", "30.00", "-10.00"}));
+  EXPECT_EQ(Column(form, col::kBalance), (Texts{"500.00", "530.00", "520.00"}));
+  EXPECT_EQ(Total(form, 0), "500.00");
+  EXPECT_EQ(Total(form, 1), "30.00");
+  EXPECT_EQ(Total(form, 4), "10.00");
+  EXPECT_EQ(Total(form, 5), "520.00");
+}
+
+TEST_F(LedgerQuery, LeavesTheHiddenTotalsOfMoneyAccountsAsTheyWere) {
+  frmZj& form = Open(kAccounts);
+  form.txtTotal(2).SetText("x");
+  form.txtTotal(3).SetText("y");
+  Load(form);
+  EXPECT_EQ(Total(form, 2), "x");
+  EXPECT_EQ(Total(form, 3), "y");
+}
+
+TEST_F(LedgerQuery, CountsADirectionOf0AsPayable) {
+  Add({.type2 = "0", .a = "5"});
+  frmZj& form = Open();
+  EXPECT_EQ(Column(form, col::kMoneyA), Texts{"-5.00"});
+  EXPECT_EQ(Total(form, 3), "5.00");
+}
+
+TEST_F(LedgerQuery, ShowsZerosAsEmptyCellsButWritesAZeroBalance) {
+  Add({.number = "N1", .a = "7"});
+  Add({.number = "N2", .b = "7"});
+  frmZj& form = Open();
+  EXPECT_EQ(Column(form, col::kMoneyA), (Texts{"7.00", ""}));
+  EXPECT_TRUE(form.Grid2.CellEmpty(col::kMoneyB, 1));
+  EXPECT_EQ(Column(form, col::kBalance), (Texts{"7.00", "0.00"}));
+}
+
+TEST_F(LedgerQuery, RestartsTheBalanceAtEveryRegisterName) {
+  Add({.comp = 1, .number = "N1", .a = "1"});
+  Add({.comp = 1, .number = "N2", .a = "2"});
+  Add({.comp = 2, .number = "N3", .a = "4"});
+  frmZj& form = OpenAll();
+  EXPECT_EQ(Column(form, col::kBalance), (Texts{"1.00", "3.00", "4.00"}));
+}
+
+TEST_F(LedgerQuery, KeepsOneBalanceOverRecordsOfTheSameName) {
+  world.Sql("update cards set compname='甲公司' where fID=2;");
+  Add({.comp = 1, .number = "N1", .a = "1"});
+  Add({.comp = 2, .number = "N2", .a = "4"});
+  EXPECT_EQ(Column(OpenAll(), col::kBalance), (Texts{"1.00", "5.00"}));
+}
+
+TEST_F(LedgerQuery, ListsEntriesWithoutARegisterRecordAsOneGroup) {
+  Add({.comp = 17, .number = "N1", .a = "1"});
+  Add({.comp = 18, .number = "N2", .a = "2"});
+  Add({.comp = 1, .number = "N3", .a = "4"});
+  frmZj& form = OpenAll();
+  EXPECT_EQ(Column(form, col::kName), (Texts{"(17) - Error", "(18) - Error", "甲公司"}));
+  EXPECT_EQ(Column(form, col::kBalance), (Texts{"1.00", "3.00", "4.00"}));
+}
+
+TEST_F(LedgerQuery, ShowsDatesYearFirst) {
+  Add({.date = "2024-03-09"});
+  EXPECT_EQ(Column(Open(), col::kDate), Texts{"2024-03-09"});
+}
+
+TEST_F(LedgerQuery, GreysCheckedEntriesAndOnlyThose) {
+  Add({.number = "N1", .checker = "'王'"});
+  Add({.number = "N2"});
+  Add({.number = "N3", .checker = "null"});
+  frmZj& form = Open();
+  EXPECT_EQ(form.Grid2.RowColor(1), 0xE0E0E0u);
+  EXPECT_FALSE(form.Grid2.RowColor(2).has_value());
+  EXPECT_FALSE(form.Grid2.RowColor(3).has_value());
+}
+
+TEST_F(LedgerQuery, WritesTotalsOf0ForAnEmptyLedgerAndLeavesTheEditor) {
+  frmZj& form = Open();
+  form.txtAcnt2(1).SetText("keep");
+  Load(form);
+  EXPECT_EQ(form.Grid2.RowCount(), 0);
+  for (int i = 0; i < 6; ++i) EXPECT_EQ(Total(form, i), "0.00");
+  EXPECT_EQ(form.txtAcnt2(1).Text(), "keep");
+  EXPECT_TRUE(form.Grid2.Visible());
+}
+
+TEST_F(LedgerQuery, ShowsThePayableSidePositiveOnTheThirdTab) {
+  Add({.number = "N1", .a = "100", .b = "30"});
+  Add({.type2 = "2", .number = "N2", .a = "50", .b = "20"});
+  frmZj& form = Open();
+  form.UserTab(form.SSTab2, 2);
+  Load(form);
+  EXPECT_EQ(Column(form, col::kMoneyA), (Texts{"-100.00", "50.00"}));
+  EXPECT_EQ(Column(form, col::kMoneyB), (Texts{"-30.00", "20.00"}));
+  EXPECT_EQ(Column(form, col::kBalance), (Texts{"-70.00", "-40.00"}));
+  EXPECT_EQ(Total(form, 0), "100.00");
+  EXPECT_EQ(Total(form, 3), "50.00");
+}
+
+TEST_F(LedgerQuery, KeepsTheSignOfOpeningAmountsOnTheThirdTab) {
+  Add({.type1 = 1, .number = "N1", .init = "1", .a = "500"});
+  Add({.type1 = 1, .number = "N2", .b = "30"});
+  frmZj& form = Open(kAccounts);
+  form.UserTab(form.SSTab2, 2);
+  Load(form);
+  EXPECT_EQ(Column(form, col::kMoneyA), (Texts{"500.00", ""}));
+  EXPECT_EQ(Column(form, col::kMoneyB), (Texts{"", "-30.00"}));
+  EXPECT_EQ(Column(form, col::kBalance), (Texts{"500.00", "470.00"}));
+}
+
+TEST_F(LedgerQuery, SumsManySmallAmountsToTheCent) {
+  world.Sql(
+      "with recursive n(i) as (select 1 union all select i+1 from n where i<100000) "
+      "insert into tAccountDetail (fDate,fCompID,fType1,fType2,fAcntNo,fMoneyA,fMoneyB,"
+      "fChecker,fMoneyRate) select '2024-03-01',1,0,1,printf('%06d',i),0.1,0,'',1 from n;");
+  frmZj& form = Open();
+  EXPECT_EQ(form.Grid2.RowCount(), 100000);
+  EXPECT_EQ(Total(form, 0), "10000.00");
+  EXPECT_EQ(form.Grid2.CellText(col::kBalance, 100000), "10000.00");
+}
+
+TEST_F(LedgerQuery, BuildsTheStatementForOneRecord) {
+  frmZj& form = Open();
+  Load(form);
+  EXPECT_EQ(world.Statements().front(),
+            "Select b.fDate,b.fAcntNo,a.CompName,b.fMoneyA,b.fMoneyB,0 as hh,b.fBrief,b.fInvID,"
+            "b.fOrderID,b.fUser,b.fDoneman,b.fChecker,b.fMoneyRate,b.fType2,b.fInit,b.fCompID,"
+            "b.fID,b.fID2 From cards a Right Join tAccountDetail b On b.fCompID=a.fID Where "
+            "b.fType1=0 And a.fID=1 Order By a.CompCode,a.CompName,b.fDate,b.fAcntNo");
+}
+
+TEST_F(LedgerQuery, OrdersByNameInMoneyAccountsWhenAsked) {
+  frmZj& form = Open(kAccounts);
+  form.cboKhOrder.SetListIndex(1);
+  form.UserClick(form.OptSelect(0));
+  EXPECT_EQ(world.Statements().front(),
+            "Select b.fDate,b.fAcntNo,a.CompName,b.fMoneyA,b.fMoneyB,0 as hh,b.fBrief,b.fInvID,"
+            "b.fOrderID,b.fUser,b.fDoneman,b.fChecker,b.fMoneyRate,b.fType2,b.fInit,b.fCompID,"
+            "b.fID,b.fID2 From tAccounts a Right Join tAccountDetail b On b.fCompID=a.fID Where "
+            "b.fType1=1 Order By a.CompName,b.fDate,b.fAcntNo");
+}
+
+TEST_F(LedgerQuery, AddsTheRegisterConditionForSelectedRecords) {
+  Add({.comp = 1, .number = "N1"});
+  Add({.comp = 2, .number = "N2"});
+  frmZj& form = Open();
+  form.registerCondition = "a.CompCode like 'C002'";
+  form.UserClick(form.OptSelect(1));
+  EXPECT_EQ(Column(form, col::kNumber), Texts{"N2"});
+}
+
+TEST_F(LedgerQuery, ListsTheWholeLedgerForSelectedRecordsBeforeAnySearch) {
+  Add({.number = "N1"});
+  Add({.type1 = 1, .number = "N2"});
+  frmZj& form = Open();
+  form.chkID(0).SetValue(1);
+  form.txtID(0).SetText("nothing");
+  form.UserClick(form.OptSelect(1));
+  EXPECT_EQ(form.Grid2.RowCount(), 2);
+}
+
+TEST_F(LedgerQuery, SelectsTheEntryLastShownAgain) {
+  Add({.number = "N1"});
+  const std::string second = Add({.number = "N2"});
+  frmZj& form = Open();
+  form.UserCell(form.Grid2, 1, 2);
+  Add({.date = "2024-01-01", .number = "N0"});
+  Load(form);
+  EXPECT_EQ(form.Grid2.ActiveRow(), 3);
+  EXPECT_EQ(form.chkAcntInit.Tag(), second);
+}
+
+TEST_F(LedgerQuery, SelectsTheFirstRowWhenTheEntryIsGone) {
+  Add({.number = "N1"});
+  const std::string second = Add({.number = "N2"});
+  frmZj& form = Open();
+  form.UserCell(form.Grid2, 1, 2);
+  world.Sql("delete from tAccountDetail where fID=" + second + ";");
+  Load(form);
+  EXPECT_EQ(form.Grid2.ActiveRow(), 1);
+}
+
+TEST_F(LedgerQuery, SelectsTheFirstRowWhileNoRecordIsCurrent) {
+  Add({.number = "N1"});
+  Add({.number = "N2"});
+  frmZj& form = Open();
+  form.UserCell(form.Grid2, 1, 2);
+  form.UserClick(form.OptSelect(0));
+  for (const char* tag : {"0", ""}) {
+    form.UserCell(form.Grid2, 1, 2);
+    form.lblKhName.SetTag(tag);
+    Load(form);
+    EXPECT_EQ(form.Grid2.ActiveRow(), 1);
+  }
+}
+
+TEST_F(LedgerQuery, FailsOnACurrentRecordThatIsNoNumberAndShowsTheGridAgain) {
+  Add({});
+  frmZj& form = OpenAll();
+  form.lblKhName.SetTag("x");
+  EXPECT_FALSE(form.Guard([&] { LoadLedger(form, LedgerCondition(form)); }));
+  EXPECT_EQ(form.Grid2.RowCount(), 0);
+  EXPECT_TRUE(form.Grid2.Visible());
+}
+
+TEST_F(LedgerQuery, FailsOnANullAmountAndLeavesNoHalfFilledGrid) {
+  Add({.number = "N1", .a = "1"});
+  Add({.number = "N2", .b = "null"});
+  frmZj& form = Open(kAccounts);
+  world.Sql("update tAccountDetail set fType1=1;");
+  form.UserClick(form.OptSelect(0));
+  EXPECT_EQ(world.headless.boxes.TakeErrors(),
+            Texts{"Type mismatch: Invalid use of Null: fMoneyB"});
+  EXPECT_EQ(form.Grid2.RowCount(), 0);
+  EXPECT_TRUE(form.Grid2.Visible());
+  world.Sql("update tAccountDetail set fMoneyB=2 where fMoneyB is null;");
+  form.UserClick(form.OptSelect(0));
+  EXPECT_EQ(form.Grid2.RowCount(), 2);
+}
+
+TEST_F(LedgerQuery, ShowsTheEnginesErrorForAStatementItRefuses) {
+  frmZj& form = Open();
+  form.registerCondition = "a.nosuch=1";
+  form.UserClick(form.OptSelect(1));
+  EXPECT_EQ(world.headless.boxes.TakeErrors().size(), 1u);
+  EXPECT_TRUE(form.Grid2.Visible());
+}
+
+TEST_F(LedgerQuery, ForgetsTheSortedOrderAtAReload) {
+  Add({.number = "N1", .a = "1"});
+  Add({.number = "N2", .a = "2"});
+  frmZj& form = Open();
+  form.UserHeader(form.Grid2, col::kMoneyA);
+  EXPECT_EQ(Column(form, col::kNumber), (Texts{"N2", "N1"}));
+  Load(form);
+  EXPECT_EQ(Column(form, col::kNumber), (Texts{"N1", "N2"}));
+}
+
+TEST_F(LedgerQuery, FillsTheHiddenColumns) {
+  const std::string id = Add({.comp = 2, .type2 = "2", .init = "1", .id2 = "7", .rate = "1.5"});
+  frmZj& form = OpenAll();
+  EXPECT_EQ(form.Grid2.CellText(col::kRate, 1), "1.5");
+  EXPECT_EQ(form.Grid2.CellText(col::kType2, 1), "2");
+  EXPECT_EQ(form.Grid2.CellText(col::kInit, 1), "1");
+  EXPECT_EQ(form.Grid2.CellText(col::kCompID, 1), "2");
+  EXPECT_EQ(form.Grid2.CellText(col::kID, 1), id);
+  EXPECT_EQ(form.Grid2.CellText(col::kID2, 1), "7");
+}
+
+}  // namespace
+}  // namespace qvzj::test
