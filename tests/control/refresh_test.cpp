@@ -1,0 +1,312 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "services/connect.h"
+#include "services/context.h"
+#include "tests/support/world.h"
+
+namespace qvzj {
+namespace {
+
+using test::World;
+
+std::string TooOld(const std::string& path, const std::string& title) {
+  return "系统数据库 " + path + " 属早期版本，无 [" + title + "] 功能。请升级系统！";
+}
+
+TEST(Refresh, DoesNothingUntilTheHostNamesTheData) {
+  World world;
+  world.control.setUserPath("");
+  world.control.setMyModel("");
+  world.control.refresh(0, 0);
+  EXPECT_EQ(world.control.Form(), nullptr);
+  EXPECT_TRUE(world.Messages().empty());
+}
+
+TEST(Refresh, RunsWithoutAPathInServerMode) {
+  World world;
+  world.control.setUserPath("");
+  world.control.setSQLData(1);
+  world.control.refresh(0, 0);
+  EXPECT_EQ(world.Messages(), std::vector<std::string>{TooOld("", "客户往来帐管理系统")});
+}
+
+TEST(Refresh, RefusesWithoutTheModulesRight) {
+  for (const char* model : {"", "1111111111", "11111111110", "1111111111A1"}) {
+    World world;
+    world.control.setMyModel(model);
+    world.control.setCompName("总公司");
+    world.control.refresh(0, 0);
+    EXPECT_EQ(world.control.Form(), nullptr) << model;
+    const auto shown = world.headless.boxes.TakeShown();
+    ASSERT_EQ(shown.size(), 1u) << model;
+    EXPECT_EQ(shown[0].text, "总公司: 您无权进行管理 !");
+    EXPECT_EQ(shown[0].style, box::kCritical);
+    EXPECT_EQ(shown[0].title, "qvZj_ocx");
+    EXPECT_TRUE(world.Statements().empty());
+  }
+}
+
+TEST(Refresh, OpensWithAnyOtherDigitThanZero) {
+  World world;
+  world.control.setMyModel("00000000005");
+  world.Open(0);
+  EXPECT_NE(world.control.Form(), nullptr);
+}
+
+TEST(Refresh, ShowsTheFormAsTheHostAsks) {
+  World world;
+  world.Open(0);
+  EXPECT_EQ(world.headless.presenter.Find("frmZj"), world.control.Form());
+  EXPECT_FALSE(world.headless.presenter.LastModal());
+  world.control.refresh(0, 1);
+  EXPECT_TRUE(world.headless.presenter.LastModal());
+  EXPECT_EQ(Shared().showmode, 1);
+}
+
+TEST(Refresh, ShowsModallyOnlyForShowModeOne) {
+  World world;
+  world.control.refresh(0, 2);
+  EXPECT_EQ(Shared().showmode, 2);
+  EXPECT_FALSE(world.headless.presenter.LastModal());
+}
+
+TEST(Refresh, TitlesByRunModeZeroOnly) {
+  const std::pair<int16_t, const char*> titles[] = {
+      {0, "客户往来帐管理系统"}, {1, "资金帐户管理系统"},  {9, "资金帐户管理系统"},
+      {10, "资金帐户管理系统"},  {11, "资金帐户管理系统"}, {5, "资金帐户管理系统"}};
+  for (const auto& [run_mode, title] : titles) {
+    World world;
+    world.Open(run_mode);
+    EXPECT_EQ(Shared().Title, title) << run_mode;
+  }
+}
+
+TEST(Refresh, TitlesInTheUsersLanguage) {
+  World world;
+  world.control.setLanguage(1);
+  world.Open(0);
+  EXPECT_EQ(Shared().Title, "客戶往来帳管理系統");
+}
+
+TEST(Refresh, OpensTheRegisterOfTheRunMode) {
+  const std::pair<int16_t, int16_t> modes[] = {{0, kCustomers}, {9, kCustomers}, {10, kCustomers},
+                                               {1, kAccounts},  {11, kAccounts}, {5, kAccounts}};
+  for (const auto& [run_mode, mode] : modes) {
+    World world;
+    EXPECT_EQ(world.Open(run_mode).mode, mode) << run_mode;
+  }
+}
+
+TEST(Refresh, KeepsAnUnlistedRunModeAsTheStateItself) {
+  World world;
+  EXPECT_EQ(world.Open(5).State(), 5);
+  world.control.refresh(10, 0);
+  EXPECT_EQ(world.Form().State(), 0);
+  world.control.refresh(11, 0);
+  EXPECT_EQ(world.Form().State(), 1);
+}
+
+TEST(Refresh, ProvesThatTheLedgerIsThereBeforeAnythingElse) {
+  World world;
+  world.Open(0);
+  EXPECT_EQ(world.Statements().at(0), "select count(*) from tAccountDetail Where 1=2");
+}
+
+TEST(Refresh, ReportsADatabaseWithoutALedger) {
+  World world;
+  world.Sql("drop table tAccountDetail;");
+  world.control.refresh(1, 0);
+  const auto shown = world.headless.boxes.TakeShown();
+  ASSERT_EQ(shown.size(), 1u);
+  EXPECT_EQ(shown[0].text, TooOld(world.folder.Path().string(), "资金帐户管理系统"));
+  EXPECT_EQ(shown[0].style, box::kCritical);
+  EXPECT_EQ(shown[0].title, "资金帐户管理系统");
+  EXPECT_EQ(world.control.Form(), nullptr);
+  EXPECT_EQ(Data().State(), 0);
+}
+
+TEST(Refresh, ReportsMissingDataByTheSameText) {
+  World world;
+  world.control.setUserPath("/nowhere");
+  world.control.refresh(0, 0);
+  EXPECT_EQ(world.Messages(), std::vector<std::string>{TooOld("/nowhere", "客户往来帐管理系统")});
+}
+
+TEST(Refresh, ShowsNoPasswordOfAServersDetails) {
+  World world;
+  world.control.setSQLData(1);
+  world.control.setUserPath("Driver=x;PWD=top;Server=y");
+  world.control.refresh(0, 0);
+  world.control.setUserPath("Server=y;Password={a;b}");
+  world.control.refresh(0, 0);
+  EXPECT_EQ(world.Messages(),
+            (std::vector<std::string>{TooOld("Driver=x;PWD=***;Server=y", "客户往来帐管理系统"),
+                                      TooOld("Server=y;Password=***", "客户往来帐管理系统")}));
+}
+
+TEST(Refresh, ReportsADatabaseKindBeyondAByteAndThrowsNothing) {
+  World world;
+  world.control.setSQLData(300);
+  EXPECT_NO_THROW(world.control.refresh(0, 0));
+  EXPECT_EQ(world.control.Form(), nullptr);
+  EXPECT_EQ(world.headless.boxes.TakeErrors().size(), 1u);
+}
+
+TEST(Refresh, ReportsALanguageWithoutTextsAndThrowsNothing) {
+  World world;
+  world.control.setLanguage(2);
+  EXPECT_NO_THROW(world.control.refresh(0, 0));
+  EXPECT_EQ(world.control.Form(), nullptr);
+  EXPECT_EQ(world.headless.boxes.TakeErrors().size(), 1u);
+}
+
+TEST(Refresh, QuotesDatesByTheDatabaseKind) {
+  World world;
+  world.Open(0);
+  EXPECT_EQ(Shared().DateQuote, "#");
+  world.control.setSQLData(1);
+  world.control.refresh(0, 0);
+  EXPECT_EQ(Shared().DateQuote, "'");
+}
+
+TEST(Refresh, TakesTheUsersOwnDataPathWhereSomethingIsThere) {
+  World world;
+  const std::string own = world.folder.Path().string() + "/";
+  world.control.setUserPath("/elsewhere");
+  world.headless.settings.Set("tessary", "qvTask", "DataPath", own);
+  world.Open(0);
+  EXPECT_EQ(Shared().UserPath, own);
+}
+
+TEST(Refresh, IgnoresAnOwnDataPathThatNamesNothing) {
+  World world;
+  world.headless.settings.Set("tessary", "qvTask", "DataPath", "/nowhere/*.db");
+  world.Open(0);
+  EXPECT_EQ(Shared().UserPath, world.folder.Path().string());
+}
+
+TEST(Refresh, KeepsOneFormWhileItIsOpen) {
+  World world;
+  const frmZj* first = &world.Open(0);
+  EXPECT_EQ(&world.Open(0), first);
+  EXPECT_EQ(world.headless.presenter.Open().size(), 1u);
+}
+
+TEST(Refresh, StartsAFreshFormAfterTheLastWasClosed) {
+  World world;
+  world.Open(0).txtSeek(1).SetText("left over");
+  world.Form().UserClose();
+  EXPECT_EQ(world.control.Form(), nullptr);
+  EXPECT_EQ(Shared().cnData, nullptr);
+  EXPECT_EQ(world.Open(0).txtSeek(1).Text(), "");
+}
+
+TEST(Refresh, TakesANewPathAfterTheFormWasClosed) {
+  World world;
+  world.Open(0).UserClose();
+  world.control.setUserPath("/nowhere");
+  world.control.refresh(0, 0);
+  EXPECT_EQ(world.control.Form(), nullptr);
+  EXPECT_EQ(world.Messages().size(), 1u);
+}
+
+TEST(Refresh, MayBeCalledFromTheEventThatClosedTheForm) {
+  World world;
+  frmZj& form = world.Open(0);
+  const auto unload = form.onUnload;
+  form.onUnload = [&world, unload] {
+    unload();
+    world.control.refresh(1, 0);
+  };
+  EXPECT_TRUE(form.UserClick(form.cmdExit));
+  ASSERT_NE(world.control.Form(), nullptr);
+  EXPECT_EQ(world.Form().mode, kAccounts);
+  EXPECT_EQ(Data().State(), 1);
+}
+
+TEST(Refresh, DropsAModalFormThatTheUserClosed) {
+  World world;
+  world.headless.presenter.run_modal = [](ui::Form& form) { form.UserClose(); };
+  world.control.refresh(0, 1);
+  EXPECT_EQ(world.control.Form(), nullptr);
+  EXPECT_TRUE(world.headless.presenter.Open().empty());
+  EXPECT_EQ(Shared().cnData, nullptr);
+}
+
+TEST(Refresh, ReportsAFailedStartAndShowsNoForm) {
+  World world;
+  world.Sql("drop table Moneys;");
+  EXPECT_NO_THROW(world.control.refresh(0, 0));
+  EXPECT_EQ(world.control.Form(), nullptr);
+  EXPECT_TRUE(world.headless.presenter.Open().empty());
+  const auto errors = world.headless.boxes.TakeErrors();
+  ASSERT_EQ(errors.size(), 1u);
+  EXPECT_NE(errors[0].find("Moneys"), std::string::npos);
+  EXPECT_EQ(Shared().cnData, nullptr);
+}
+
+TEST(Refresh, OpensOnceTheCauseOfAFailedStartIsGone) {
+  World world;
+  world.Sql("alter table Moneys rename to Moneys2;");
+  world.control.refresh(0, 0);
+  EXPECT_EQ(world.control.Form(), nullptr);
+  world.Sql("alter table Moneys2 rename to Moneys;");
+  EXPECT_NO_THROW(world.Open(0));
+}
+
+TEST(Refresh, DiscardsAnOpenFormThatCannotTurnToTheOtherRegister) {
+  World world;
+  world.Open(0);
+  world.Sql("drop table tAccounts;");
+  EXPECT_NO_THROW(world.control.refresh(1, 0));
+  EXPECT_EQ(world.control.Form(), nullptr);
+  EXPECT_TRUE(world.headless.presenter.Open().empty());
+  EXPECT_EQ(world.headless.boxes.TakeErrors().size(), 1u);
+}
+
+struct Customers : World {
+  Customers() {
+    Sql("insert into cards(fID,CompCode,compname,fType0) values"
+        "(1,'K1','东方公司',0),(2,'K2','华星公司',0),(3,'K3','华星二店',0);");
+  }
+};
+
+TEST(RunModeNine, OpensOnTheNamedCustomer) {
+  Customers world;
+  world.control.setMyTaskID(3);
+  world.control.setMyName("华星");
+  frmZj& form = world.Open(9);
+  EXPECT_EQ(form.State(), 0);
+  EXPECT_EQ(form.txtSeek(1).Text(), "华星");
+  EXPECT_EQ(form.chkSeek2.Value(), 0);
+  EXPECT_EQ(form.lblKhName.Tag(), "3");
+  EXPECT_EQ(form.lblKhName.Caption(), "华星二店");
+}
+
+TEST(RunModeNine, SearchesAgainOnAFormThatIsOpen) {
+  Customers world;
+  frmZj& form = world.Open(0);
+  form.chkSeek2.SetValue(1);
+  world.control.setMyTaskID(2);
+  world.control.setMyName("华星");
+  world.control.refresh(9, 0);
+  EXPECT_EQ(form.chkSeek2.Value(), 0);
+  EXPECT_EQ(form.lblKhName.Tag(), "2");
+}
+
+TEST(Control, ClosesItsFormWhenTheHostDestroysIt) {
+  World world;
+  {
+    qvJxc_Zj control;
+    control.refresh(0, 0);
+    ASSERT_NE(control.Form(), nullptr);
+    EXPECT_EQ(world.headless.presenter.Open().size(), 1u);
+  }
+  EXPECT_TRUE(world.headless.presenter.Open().empty());
+  EXPECT_EQ(Shared().cnData, nullptr);
+}
+
+}  // namespace
+}  // namespace qvzj
