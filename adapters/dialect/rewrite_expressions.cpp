@@ -88,7 +88,10 @@ void RewriteConcatenation(Tokens& tokens, const Target& target) {
     tokens[at].text = "||";
     wrap(at + 1, TermEnd(tokens, at + 1));
     const size_t first = TermBegin(tokens, at);
-    if (first < at) wrap(first, at);
+    if (first == at) continue;
+    const size_t before = tokens.size();
+    wrap(first, at);
+    at -= before - tokens.size();
   }
 }
 

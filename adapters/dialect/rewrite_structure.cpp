@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 
 #include "adapters/dialect/rewrites.h"
@@ -23,6 +24,13 @@ std::string TypeFor(const Token& type, const Target& target) {
     if (IsWord(type, word)) return target.date_type;
   }
   return type.text;
+}
+
+/// True when [first, last) is a table with or without an alias.
+bool IsOneTable(const Tokens& tokens, size_t first, size_t last) {
+  if (first >= last || last - first > 3) return false;
+  return std::all_of(tokens.begin() + static_cast<Tokens::difference_type>(first),
+                     tokens.begin() + static_cast<Tokens::difference_type>(last), IsName);
 }
 
 }  // namespace
@@ -59,8 +67,8 @@ void SwapRightJoin(Tokens& tokens) {
   while (from > 0 && !IsWord(tokens[from], "from")) --from;
   size_t on = join;
   while (on < tokens.size() && !IsWord(tokens[on], "on")) ++on;
-  const bool one_table_each = right - from <= 4 && on - join <= 4;
-  if (!IsWord(tokens[from], "from") || on == tokens.size() || !one_table_each) return;
+  if (!IsWord(tokens[from], "from") || on == tokens.size()) return;
+  if (!IsOneTable(tokens, from + 1, right) || !IsOneTable(tokens, join + 1, on)) return;
 
   const auto at = [&](size_t i) {
     return tokens.begin() + static_cast<Tokens::difference_type>(i);

@@ -14,7 +14,9 @@ namespace {
 int OpenHandle(const std::string& file, const SqliteOptions& options, sqlite3** database) {
   int flags = options.read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
   if (options.create && !options.read_only) flags |= SQLITE_OPEN_CREATE;
-  return sqlite3_open_v2(file.c_str(), database, flags | SQLITE_OPEN_EXRESCODE, nullptr);
+  // A session belongs to one thread, so the engine need not lock itself at every value read.
+  flags |= SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+  return sqlite3_open_v2(file.c_str(), database, flags, nullptr);
 }
 
 /// Chooses the journal. A file that another process is using right now keeps the one it has.

@@ -176,6 +176,7 @@ data::Recordset SqliteStatement::ReadAll() {
     }
   }
   Reset();
+  for (Column& column : columns) column.Fit();
   return {std::move(names), std::move(columns)};
 }
 

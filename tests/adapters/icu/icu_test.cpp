@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -72,6 +73,28 @@ TEST(TextOrder, ComparesAsItsKeysDo) {
       const int direct = order.Compare(a, b);
       EXPECT_EQ(by_key < 0, direct < 0) << a << " / " << b;
       EXPECT_EQ(by_key > 0, direct > 0) << a << " / " << b;
+    }
+  }
+}
+
+TEST(TextOrder, ComparesMixturesOfCodesAndMarksAsItsKeysDo) {
+  const Texts pieces = {"a", "B", "Z", "9", "-", " ", "@", "_", "\xCC\x81", "é", "中", "\t", "."};
+  for (const IcuTextOrder& order : {IcuTextOrder::Pinyin(), IcuTextOrder::Stroke()}) {
+    std::mt19937 random(20240315);
+    std::uniform_int_distribution<size_t> piece(0, pieces.size() - 1);
+    std::uniform_int_distribution<int> length(0, 4);
+    const auto text = [&] {
+      std::string made;
+      for (int i = length(random); i > 0; --i) made += pieces[piece(random)];
+      return made;
+    };
+    for (int round = 0; round < 20000; ++round) {
+      const std::string a = text();
+      const std::string b = text();
+      const int by_key = order.SortKey(a).compare(order.SortKey(b));
+      const int direct = order.Compare(a, b);
+      ASSERT_EQ(by_key < 0, direct < 0) << a << " / " << b;
+      ASSERT_EQ(by_key > 0, direct > 0) << a << " / " << b;
     }
   }
 }
