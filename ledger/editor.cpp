@@ -160,6 +160,11 @@ void ConnectEditor(frmZj& form) {
   EnterWalksOn(form.chkAcntInit);
   form.cboAcntName.onClick = [&form] { AccountChosen(form); };
   form.chkAcntName.onClick = [&form] { LinkClicked(form); };
+  // Nothing on the way from the date to the save button may stop a clerk who walks by Enter.
+  EnterWalksOn(form.optType2(1));
+  EnterWalksOn(form.optType2(2));
+  EnterWalksOn(form.chkAcntName);
+  EnterWalksOn(form.cboAcntName);
 }
 
 void ArrangeEditor(frmZj& form) {

@@ -196,6 +196,7 @@ void ConnectRegisterEdit(frmZj& form) {
   form.cmdKhSave.onClick = [&form] { SaveRecord(form); };
   form.cmdKhCancel.onClick = [&form] { LeaveRecordEditing(form); };
   for (int i = 0; i < form.txtAcnt.Count(); ++i) ConnectRecordBox(form, form.txtAcnt(i));
+  for (int i = 0; i < form.optKhType.Count(); ++i) EnterWalksOn(form.optKhType(i));
 }
 
 }  // namespace qvzj

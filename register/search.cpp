@@ -18,6 +18,12 @@ std::string CustomerTypeCondition(const frmZj& form) {
   return "(a.fType0=0 Or a.fType0=3)";
 }
 
+// A ticked row without a text asks for records that have any text in the column.
+std::string SearchPattern(const std::string& text) {
+  const std::string pattern = LikePattern(text);
+  return pattern.empty() ? "%" : pattern;
+}
+
 void ConnectSearchRow(frmZj& form, int i) {
   ui::CheckBox& check = form.chkSeek(i);
   ui::TextBox& text = form.txtSeek(i);
@@ -36,7 +42,7 @@ std::string BuildRegisterCondition(const frmZj& form) {
   for (int i = 0; i < form.chkSeek.Count(); ++i) {
     if (!form.chkSeek(i).Ticked()) continue;
     condition +=
-        " And a." + form.chkSeek(i).Tag() + " like '" + LikePattern(form.txtSeek(i).Text()) + "'";
+        " And a." + form.chkSeek(i).Tag() + " like '" + SearchPattern(form.txtSeek(i).Text()) + "'";
   }
   const std::string type = CustomerTypeCondition(form);
   if (!type.empty()) condition += " And " + type;

@@ -32,6 +32,15 @@ TEST_F(RegisterSearch, ListsTheWholeRegisterWithNothingTicked) {
   EXPECT_EQ(form.registerCondition, "1=1");
 }
 
+TEST_F(RegisterSearch, ATickedRowWithoutATextFindsEveryRecordThatHasAny) {
+  OpenSearch();
+  world.Sql(
+      "update cards set province=null where fID=1; update cards set province='' where fID=2;");
+  Seek(3, "");
+  Search();
+  EXPECT_EQ(world.Form().Grid1.RowCount(), 2);
+}
+
 TEST_F(RegisterSearch, JoinsTheTickedRowsInOrder) {
   frmZj& form = OpenSearch();
   Seek(3, "上*");
@@ -45,7 +54,7 @@ TEST_F(RegisterSearch, JoinsTheTickedRowsInOrder) {
 TEST_F(RegisterSearch, AddsATickedRowWithoutText) {
   frmZj& form = OpenSearch();
   Seek(6, "");
-  EXPECT_EQ(BuildRegisterCondition(form), "1=1 And a.telphone like ''");
+  EXPECT_EQ(BuildRegisterCondition(form), "1=1 And a.telphone like '%'");
 }
 
 TEST_F(RegisterSearch, KeepsTheRegisterFilteredAcrossReloads) {
