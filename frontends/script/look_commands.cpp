@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -53,20 +54,11 @@ GridTarget GridNamed(Script& script, const Word& word) {
   return {*grid, target.name};
 }
 
-int32_t RowOf(const GridTarget& target, const Word& word) {
-  const int32_t row = ToNumber(word);
-  if (row < 0 || row > target.grid.RowCount()) {
-    throw ScriptError(target.name + " has no row " + word.text);
-  }
-  return row;
-}
-
 void PrintGrid(Script& script, const Arguments& arguments) {
   const GridTarget target = GridNamed(script, arguments[0]);
-  int32_t first = 0;
-  int32_t last = target.grid.RowCount();
-  if (arguments.Count() > 1) first = RowOf(target, arguments[1]);
-  if (arguments.Count() > 2) last = RowOf(target, arguments[2]);
+  const int32_t first = arguments.Count() > 1 ? std::max(ToNumber(arguments[1]), 0) : 0;
+  const int32_t rows = target.grid.RowCount();
+  const int32_t last = arguments.Count() > 2 ? std::min(ToNumber(arguments[2]), rows) : rows;
   for (int32_t row = first; row <= last; ++row) {
     std::string line = target.name + " " + std::to_string(row) + ":";
     for (int32_t column = 1; column <= target.grid.ColumnCount(); ++column) {
@@ -79,8 +71,10 @@ void PrintGrid(Script& script, const Arguments& arguments) {
 
 void Color(Script& script, const Arguments& arguments) {
   const GridTarget target = GridNamed(script, arguments[0]);
-  const int32_t row = RowOf(target, arguments[1]);
-  if (row == 0) throw ScriptError("the header has no colour");
+  const int32_t row = ToNumber(arguments[1]);
+  if (row < 1 || row > target.grid.RowCount()) {
+    throw ScriptError(target.name + " has no row " + arguments[1].text);
+  }
   const auto color = target.grid.RowColor(row);
   char text[16] = "none";
   if (color) std::snprintf(text, sizeof text, "#%06X", *color & 0xFFFFFFu);
