@@ -32,9 +32,12 @@ constexpr Search kSearches[] = {
      "select " QV_ENTRY " || ': fMoneyA is ' || coalesce(b.fMoneyA,'null') || ', fMoneyB is ' ||"
      " coalesce(b.fMoneyB,'null') from tAccountDetail b where typeof(b.fMoneyA) not in"
      " ('integer','real') or typeof(b.fMoneyB) not in ('integer','real') order by b.fID"},
+    {FaultKind::Checker,
+     "select " QV_ENTRY
+     " || ': its fChecker is null' from tAccountDetail b where b.fChecker is null order by b.fID"},
     {FaultKind::Date,
      "select " QV_ENTRY " || ': its date is ' || coalesce(b.fDate,'null') from tAccountDetail b"
-     " where b.fDate is null or date(b.fDate) is null order by b.fID"},
+     " where coalesce(date(b.fDate),'')<>coalesce(substr(b.fDate,1,10),'null') order by b.fID"},
     {FaultKind::Link,
      "select " QV_ENTRY " || ': it is linked to the money account ' || b.fID2 ||"
      " ', which is not there' from tAccountDetail b left join tAccounts a on a.fID=b.fID2"
@@ -45,7 +48,8 @@ constexpr Search kSearches[] = {
      " where b.fType1=1 and b.fID2<>0 and k.fID is null order by b.fID"},
     {FaultKind::Counter,
      "select * from (select " QV_ENTRY " || ' and its customer entry ' || k.fID || ' differ:' ||"
-     " case when coalesce(k.fChecker,'')='' then ' the customer entry is not checked' else '' end ||"
+     " case when coalesce(k.fChecker,'')='' then ' the customer entry is not checked' else '' end "
+     "||"
      " case when k.fID2 is not b.fCompID then ' money account' else '' end ||"
      " case when k.fMoneyB is not b.fMoneyB then ' amount' else '' end ||"
      " case when k.fType2 is not b.fType2 then ' direction' else '' end ||"
@@ -77,14 +81,24 @@ constexpr Search kSearches[] = {
 
 const char* NameOf(FaultKind kind) {
   switch (kind) {
-    case FaultKind::File: return "damaged file";
-    case FaultKind::Kind: return "no ledger";
-    case FaultKind::Orphan: return "orphan";
-    case FaultKind::Amount: return "amount";
-    case FaultKind::Date: return "date";
-    case FaultKind::Link: return "link";
-    case FaultKind::Counter: return "counter-entry";
-    case FaultKind::DuplicateNumber: return "duplicate number";
+    case FaultKind::File:
+      return "damaged file";
+    case FaultKind::Kind:
+      return "no ledger";
+    case FaultKind::Orphan:
+      return "orphan";
+    case FaultKind::Amount:
+      return "amount";
+    case FaultKind::Checker:
+      return "checker";
+    case FaultKind::Date:
+      return "date";
+    case FaultKind::Link:
+      return "link";
+    case FaultKind::Counter:
+      return "counter-entry";
+    case FaultKind::DuplicateNumber:
+      return "duplicate number";
   }
   return "";
 }

@@ -10,14 +10,15 @@ class SqliteSession;
 
 /// Kinds of faults that data can have, in the order in which they are looked for.
 enum class FaultKind {
-  File,              ///< pages or indexes of the data file are damaged
-  Kind,              ///< an entry of no ledger: fType1 is not 0, 1 or 9
-  Orphan,            ///< an entry whose customer or money account is gone
-  Amount,            ///< an amount that is null or no number
-  Date,              ///< an entry without a date that can be read
-  Link,              ///< a customer entry linked to a money account that is gone
-  Counter,           ///< a counter-entry out of step with its customer entry, or missing
-  DuplicateNumber,   ///< several entries of one ledger with one voucher number
+  File,             ///< pages or indexes of the data file are damaged
+  Kind,             ///< an entry of no ledger: fType1 is not 0, 1 or 9
+  Orphan,           ///< an entry whose customer or money account is gone
+  Amount,           ///< an amount that is null or no number
+  Checker,          ///< a checker that is null: neither checked nor unchecked to the filter
+  Date,             ///< an entry without a date that can be read
+  Link,             ///< a customer entry linked to a money account that is gone
+  Counter,          ///< a counter-entry out of step with its customer entry, or missing
+  DuplicateNumber,  ///< several entries of one ledger with one voucher number
 };
 
 /// Short name of a kind, as reports print it.

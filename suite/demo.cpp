@@ -1,7 +1,6 @@
 #include "suite/demo.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <string>
 
 #include "platform/basic/errors.h"
@@ -55,7 +54,7 @@ class DemoMaker {
     const std::string digits(static_cast<size_t>(DemoNumberWidth(options_)), 'X');
     table.Add({int64_t{51}, int64_t{1}, int64_t{1}, "PZyymmXXXX"});  // switched off
     table.Add({int64_t{51}, int64_t{0}, int64_t{2}, "yyyymmPZ" + digits});
-    table.Add({int64_t{52}, int64_t{0}, int64_t{1}, "yyyymmZJ" + digits});
+    table.Add({int64_t{52}, int64_t{0}, int64_t{3}, "yyyymmZJ" + digits});
   }
 
   void WriteFunctions() {
@@ -71,8 +70,9 @@ class DemoMaker {
         {23, "mnuCardPlan", "拜访计划", "拜訪計劃"},
         {24, "mnuCardPrint", "客户打印", "客戶列印"},
     };
-    RowWriter table(session_, "tSysFunc", {"SerialNo", "model_Name", "Model_Name_0", "Model_Name_1",
-                                           "SecondPass", "password", "NoUse_"});
+    RowWriter table(session_, "tSysFunc",
+                    {"SerialNo", "model_Name", "Model_Name_0", "Model_Name_1", "SecondPass",
+                     "password", "NoUse_"});
     for (const Function& f : kFunctions) {
       table.Add({f.number, f.name, f.simplified, f.traditional, int64_t{0}, "", int64_t{0}});
     }
@@ -95,8 +95,8 @@ class DemoMaker {
         {"中国银行港币户", "中国银行深圳分行", 2},
     };
     RowWriter table(session_, "tAccounts",
-                    {"fID", "CompCode", "compname", "name", "fBank", "fAcntID", "others", "province",
-                     "cityname", "postcode", "telphone", "fax", "fType0", "detail"});
+                    {"fID", "CompCode", "compname", "name", "fBank", "fAcntID", "others",
+                     "province", "cityname", "postcode", "telphone", "fax", "fType0", "detail"});
     for (int32_t i = 0; i < options_.accounts; ++i) {
       const auto& account = kAccounts[static_cast<size_t>(i) % std::size(kAccounts)];
       const auto round = i / static_cast<int32_t>(std::size(kAccounts));
@@ -112,8 +112,8 @@ class DemoMaker {
 
   void WriteCustomers() {
     RowWriter table(session_, "cards",
-                    {"fID", "CompCode", "compname", "name", "fBank", "fAcntID", "others", "province",
-                     "cityname", "postcode", "telphone", "fax", "fType0", "detail"});
+                    {"fID", "CompCode", "compname", "name", "fBank", "fAcntID", "others",
+                     "province", "cityname", "postcode", "telphone", "fax", "fType0", "detail"});
     const int width = std::max(4, static_cast<int>(std::to_string(options_.customers).size()));
     registers_.customers.reserve(static_cast<size_t>(options_.customers));
     for (int32_t i = 1; i <= options_.customers; ++i) {
@@ -136,17 +136,18 @@ class DemoMaker {
   }
 
   void WriteVisitsAndOrders() {
-    RowWriter visits(session_, "tTaskList", {"taskID", "fType"});
+    RowWriter visits(session_, "tTaskList", {"taskID", "fType", "fDate", "fUser", "fBrief"});
     RowWriter orders(session_, "tJXC_CkHt01", {"fKhID"});
     const int32_t few = std::min(options_.customers, 2000);
-    for (int32_t id = 1; id <= few; id += 10) visits.Add({int64_t{id}, int64_t{1}});
+    for (int32_t id = 1; id <= few; id += 10) WriteVisit(visits, id);
     for (int32_t id = 2; id <= few; id += 20) orders.Add({int64_t{id}});
   }
 
-  static std::string Numbered(const char* prefix, int32_t number, int width) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%s%0*d", prefix, width, number);
-    return text;
+  void WriteVisit(RowWriter& visits, int32_t customer) {
+    static constexpr const char* kSubjects[] = {"上门拜访", "电话回访", "催收货款", "洽谈新订单"};
+    const basic::Date day{options_.until.serial - dice_.Between(1, 180)};
+    visits.Add({int64_t{customer}, int64_t{1}, day,
+                dice_.Pick(std::span<const std::string>(registers_.staff)), dice_.Pick(kSubjects)});
   }
 
   SqliteSession& session_;
@@ -171,7 +172,8 @@ void MakeDemoData(SqliteSession& session, const DemoOptions& options, const Prog
   CheckRange("years", options.years, 1, 50);
   for (const char* table : {"cards", "tAccounts", "tAccountDetail"}) {
     if (CountOf(session, table) > 0) {
-      throw Error(std::string("The table ") + table + " holds rows already; demo data goes only "
+      throw Error(std::string("The table ") + table +
+                  " holds rows already; demo data goes only "
                   "into an empty database");
     }
   }

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <string_view>
 
 #include "adapters/icu/ansi_codec.h"
 #include "suite/counter_brief.h"
+#include "suite/demo_names.h"
 #include "suite/row_writer.h"
 
 namespace qvzj {
@@ -17,8 +17,9 @@ constexpr int32_t kMaxDocuments = 500;
 constexpr int32_t kRecentDays = 60;
 
 constexpr std::string_view kIncome[] = {"利息收入", "废料收入", "其他收入", "退回押金"};
-constexpr std::string_view kExpense[] = {"支付房租", "水电费",     "发放工资", "差旅费报销", "办公用品",
-                                         "运输费",   "银行手续费", "缴纳税款", "业务招待费"};
+constexpr std::string_view kExpense[] = {"支付房租",   "水电费",   "发放工资",
+                                         "差旅费报销", "办公用品", "运输费",
+                                         "银行手续费", "缴纳税款", "业务招待费"};
 
 /// One row of the ledger; names are those of the columns.
 struct Entry {
@@ -95,17 +96,15 @@ class LedgerMaker {
 
   /// The next voucher number of the month: customers "PZ", accounts "ZJ".
   std::string NextVoucher(int kind) {
-    char text[48];
-    std::snprintf(text, sizeof text, "%04d%02d%s%0*d", day_.Year(), day_.Month(),
-                  kind == 0 ? "PZ" : "ZJ", width_, ++counters_[static_cast<size_t>(kind)]);
-    return text;
+    const std::string month = Numbered("", day_.Year() * 100 + day_.Month(), 6);
+    return Numbered(month + (kind == 0 ? "PZ" : "ZJ"), ++counters_[static_cast<size_t>(kind)],
+                    width_);
   }
 
   std::string NextDocument(int direction) {
-    char text[48];
-    std::snprintf(text, sizeof text, "%s%04d%02d%02d-%04d", direction == 1 ? "XS" : "CG",
-                  day_.Year(), day_.Month(), day_.Day(), ++documents_today_);
-    return text;
+    const std::string day = Numbered(direction == 1 ? "XS" : "CG",
+                                     (day_.Year() * 100 + day_.Month()) * 100 + day_.Day(), 8);
+    return Numbered(day + "-", ++documents_today_, 4);
   }
 
   /// An amount of 3 to 6 digits before the point; every third is a round one.
@@ -135,10 +134,10 @@ class LedgerMaker {
 
   int32_t Write(const Entry& e) {
     const int32_t id = ++written_;
-    ledger_.Add({int64_t{id}, e.date, int64_t{e.company}, int64_t{e.kind},
-                 int64_t{e.direction}, e.number, int64_t{e.opening}, e.money_a, e.money_b, e.brief,
-                 e.document, e.order, e.user, e.handler, e.checker, int64_t{e.link},
-                 kDemoCurrencies[e.currency].code, kDemoCurrencies[e.currency].rate});
+    ledger_.Add({int64_t{id}, e.date, int64_t{e.company}, int64_t{e.kind}, int64_t{e.direction},
+                 e.number, int64_t{e.opening}, e.money_a, e.money_b, e.brief, e.document, e.order,
+                 e.user, e.handler, e.checker, int64_t{e.link}, kDemoCurrencies[e.currency].code,
+                 kDemoCurrencies[e.currency].rate});
     if (progress_ && written_ % 1000 == 0) progress_(written_, options_.entries);
     return id;
   }
@@ -206,8 +205,9 @@ class LedgerMaker {
     const double amount = Amount();
     if (sort < 65) entry.money_a = amount;
     if (sort >= 45) entry.money_b = amount;
-    entry.brief = sort < 65 ? entry.direction == 1 ? "销售货物" : "采购货物"
-                            : entry.direction == 1 ? "收回货款" : "支付货款";
+    entry.brief = sort < 65              ? entry.direction == 1 ? "销售货物" : "采购货物"
+                  : entry.direction == 1 ? "收回货款"
+                                         : "支付货款";
     if (entry.money_a != 0) {
       entry.document = NextDocument(entry.direction);
       if (dice_.Chance(30)) entry.order = "DD" + entry.document.substr(2);

@@ -1,5 +1,7 @@
 #include "suite/demo_names.h"
 
+#include <algorithm>
+
 namespace qvzj {
 namespace {
 
@@ -43,13 +45,13 @@ constexpr std::string_view kSecond[] = {
 };
 
 constexpr std::string_view kTrades[] = {
-    "电子", "五金", "贸易", "科技", "塑胶", "包装", "纺织", "服饰", "机电", "建材",
+    "电子", "五金", "贸易", "科技", "塑胶", "包装", "纺织", "服饰",     "机电", "建材",
     "食品", "化工", "家具", "灯饰", "玩具", "印刷", "物流", "医疗器械", "实业", "进出口",
 };
 
-constexpr std::string_view kBanks[] = {"工商银行", "建设银行", "农业银行", "中国银行",
-                                       "交通银行", "招商银行"};
-constexpr std::string_view kBranches[] = {"中山路支行", "人民路支行", "高新支行", "城东支行",
+constexpr std::string_view kBanks[] = {"工商银行", "建设银行", "农业银行",
+                                       "中国银行", "交通银行", "招商银行"};
+constexpr std::string_view kBranches[] = {"中山路支行", "人民路支行", "高新支行",  "城东支行",
                                           "滨江支行",   "解放路支行", "开发区支行"};
 
 constexpr std::string_view kGoods[] = {
@@ -63,6 +65,13 @@ constexpr std::string_view kRemarks[] = {
 };
 
 }  // namespace
+
+std::string Numbered(std::string_view prefix, int64_t number, int width) {
+  const std::string digits = std::to_string(number);
+  const size_t zeros =
+      static_cast<size_t>(width) - std::min(static_cast<size_t>(width), digits.size());
+  return std::string(prefix) + std::string(zeros, '0') + digits;
+}
 
 std::string DemoNames::Person() {
   std::string name{dice_.Pick(kFamilies)};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -7,6 +8,9 @@
 #include "suite/dice.h"
 
 namespace qvzj {
+
+/// `number` with zeros before it up to `width` digits, after `prefix`.
+std::string Numbered(std::string_view prefix, int64_t number, int width);
 
 /// A place with what an address needs.
 struct DemoPlace {

@@ -87,7 +87,8 @@ std::optional<basic::Date> AnyYear(std::string_view text, DateOrder order, std::
   }
   std::array<std::string, 3> marks;
   const auto numbers = Numbers(text, marks);
-  const bool chinese = marks[0] == "年" && marks[1] == "月" && (marks[2] == "日" || marks[2].empty());
+  const bool chinese =
+      marks[0] == "年" && marks[1] == "月" && (marks[2] == "日" || marks[2].empty());
   const bool plain = marks[0] == marks[1] && marks[2].empty() &&
                      (marks[0] == "-" || marks[0] == "/" || marks[0] == ".");
   if (!chinese && !plain) return std::nullopt;

@@ -22,9 +22,9 @@ std::optional<double> ReadNumber(std::string_view text);
 /// A whole number of 32 bits; empty for everything else.
 std::optional<int32_t> ReadWholeNumber(std::string_view text);
 
-/// A day between 1900 and 2999: "2024-03-05", "2024/3/5", "2024.3.5", "20240305", "2024年3月5日", each
-/// with a time of day after a blank or not; "3/5/2024" in the `order` given, or when just one order
-/// makes it a day ("3/15/2024"). Empty for everything else; `why` then says the reason.
+/// A day between 1900 and 2999: "2024-03-05", "2024/3/5", "2024.3.5", "20240305", "2024年3月5日",
+/// each with a time of day after a blank or not; "3/5/2024" in the `order` given, or when just one
+/// order makes it a day ("3/15/2024"). Empty for everything else; `why` then says the reason.
 std::optional<basic::Date> ReadDate(std::string_view text, DateOrder order, std::string& why);
 
 }  // namespace qvzj

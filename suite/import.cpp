@@ -6,7 +6,6 @@
 #include "suite/csv.h"
 #include "suite/import_rows.h"
 
-
 namespace qvzj {
 namespace {
 
@@ -19,7 +18,8 @@ class Import {
          const std::function<void(const Refusal&)>& refused, ImportReport& report)
       : options_(options), refused_(refused), report_(report), reader_(text, options.separator) {
     CsvRecord header;
-    if (!reader_.Next(header)) throw Error("The file is empty; its first row must name the columns");
+    if (!reader_.Next(header))
+      throw Error("The file is empty; its first row must name the columns");
     if (!header.fault.empty()) throw Error("The first row cannot be read: " + header.fault);
     mapping_.emplace(options.kind, header.fields, options.map, options.set, options.presets);
     rows_ = MakeImportRows(session, options, *mapping_, report);

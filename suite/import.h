@@ -35,13 +35,13 @@ struct Refusal {
 };
 
 struct ImportReport {
-  std::string encoding;             ///< what the file was written in
-  int64_t rows = 0;                 ///< records after the header
+  std::string encoding;  ///< what the file was written in
+  int64_t rows = 0;      ///< records after the header
   int64_t written = 0;
-  int64_t passed_over = 0;          ///< with `once`: rows whose code was there
+  int64_t passed_over = 0;  ///< with `once`: rows whose code was there
   int64_t refused = 0;
-  int64_t quoted_texts = 0;         ///< texts in which ' became ’
-  int64_t joined_texts = 0;         ///< texts in which line breaks or tabs became blanks
+  int64_t quoted_texts = 0;             ///< texts in which ' became ’
+  int64_t joined_texts = 0;             ///< texts in which line breaks or tabs became blanks
   std::vector<std::string> currencies;  ///< added
 };
 

@@ -11,19 +11,19 @@ enum class ImportKind { Customers, Accounts, Entries };
 
 /// How the text of a field becomes a value.
 enum class FieldKind {
-  Text,     ///< one line; quotes and line breaks are replaced
-  Memo,     ///< several lines
-  Number,   ///< ReadNumber
-  Whole,    ///< ReadWholeNumber
-  Date,     ///< ReadDate
-  Type,     ///< customer type 0 to 3, or its name
-  Side,     ///< direction 1 or 2, or its name
-  Flag,     ///< 0 or 1
+  Text,    ///< one line; quotes and line breaks are replaced
+  Memo,    ///< several lines
+  Number,  ///< ReadNumber
+  Whole,   ///< ReadWholeNumber
+  Date,    ///< ReadDate
+  Type,    ///< customer type 0 to 3, or its name
+  Side,    ///< direction 1 or 2, or its name
+  Flag,    ///< 0 or 1
 };
 
 /// One column that an import fills.
 struct ImportColumn {
-  std::string_view name;     ///< as in the table
+  std::string_view name;  ///< as in the table
   FieldKind kind;
   int limit;                 ///< bytes of the Chinese code page, 0 = none
   bool required;             ///< an empty value refuses the row

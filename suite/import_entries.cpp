@@ -1,5 +1,4 @@
 #include <array>
-#include <optional>
 #include <unordered_map>
 
 #include "platform/basic/errors.h"
@@ -13,8 +12,24 @@ namespace {
 
 /// Places of the columns in ColumnsOf(ImportKind::Entries).
 enum Place : size_t {
-  kId, kCode, kName, kDate, kSide, kNumber, kInit, kMoneyA, kMoneyB, kBrief, kDocument, kOrder,
-  kUser, kHandler, kChecker, kCurrency, kRate, kPlaces
+  kId,
+  kCode,
+  kName,
+  kDate,
+  kSide,
+  kNumber,
+  kInit,
+  kMoneyA,
+  kMoneyB,
+  kBrief,
+  kDocument,
+  kOrder,
+  kUser,
+  kHandler,
+  kChecker,
+  kCurrency,
+  kRate,
+  kPlaces
 };
 
 /// Why a row is refused, thrown inside the check of one row.
@@ -62,6 +77,11 @@ class Records {
   Index names_;
 };
 
+struct Currency {
+  std::string code;
+  double rate = 1;
+};
+
 /// The currency table.
 class Currencies {
  public:
@@ -72,26 +92,27 @@ class Currencies {
     for (size_t row = 0; row < static_cast<size_t>(rows.RecordCount()); ++row) {
       const std::string code = rows.ColumnAt(0).Text(row);
       if (row == 0) local_ = code;
-      rates_.emplace(code, rows.ColumnAt(1).Number(row));
+      known_.emplace(basic::Lower(code), Currency{code, rows.ColumnAt(1).Number(row)});
       lowest_type_ = std::min<int64_t>(lowest_type_, rows.ColumnAt(2).Integer(row));
     }
   }
 
   /// The currency that entries without one are in; "" when the table is empty.
   const std::string& Local() const { return local_; }
-  std::optional<double> Rate(const std::string& code) const {
-    const auto found = rates_.find(code);
-    return found == rates_.end() ? std::nullopt : std::optional(found->second);
+  /// The currency of that code, ASCII case ignored; null when the table has none.
+  const Currency* Find(const std::string& code) const {
+    const auto found = known_.find(basic::Lower(code));
+    return found == known_.end() ? nullptr : &found->second;
   }
   void Add(const std::string& code, double rate) {
     writer_.Add({code, rate, --lowest_type_});
-    rates_.emplace(code, rate);
+    known_.emplace(basic::Lower(code), Currency{code, rate});
     if (local_.empty()) local_ = code;
   }
 
  private:
   RowWriter writer_;
-  std::unordered_map<std::string, double> rates_;
+  std::unordered_map<std::string, Currency> known_;  // by code in lower case
   std::string local_;
   int64_t lowest_type_ = 1;
 };
@@ -195,8 +216,8 @@ class EntryRows : public ImportRows {
   }
 
   void FitTexts() {
-    for (const size_t place : {kNumber, kBrief, kDocument, kOrder, kUser, kHandler, kChecker,
-                               kCurrency}) {
+    for (const size_t place :
+         {kNumber, kBrief, kDocument, kOrder, kUser, kHandler, kChecker, kCurrency}) {
       const std::string reason = texts_.Fit(columns_[place], values_[place]);
       if (!reason.empty()) throw Refused{reason};
     }
@@ -207,11 +228,15 @@ class EntryRows : public ImportRows {
     std::string& code = values_[kCurrency];
     if (code.empty()) code = currencies_.Local();
     if (code.empty()) Refuse(kCurrency, "is empty, and there is no currency to fall back on");
-    const std::optional<double> known = currencies_.Rate(code);
+    const Currency* known = currencies_.Find(code);
     if (!known && !options_.add_currencies) {
       Refuse(kCurrency, "is not in the currency table: " + code);
     }
-    double rate = known.value_or(1);
+    double rate = 1;
+    if (known) {
+      code = known->code;
+      rate = known->rate;
+    }
     if (!values_[kRate].empty()) rate = Amount(kRate);
     if (rate <= 0) Refuse(kRate, "must be above zero: " + values_[kRate]);
     if (!known) {

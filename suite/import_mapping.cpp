@@ -32,8 +32,9 @@ ImportMapping::ImportMapping(ImportKind kind, const std::vector<std::string>& he
     values_[static_cast<size_t>(column)] = {Part{static_cast<int>(i), {}}};
   }
   if (kind == ImportKind::Entries && !Fills(0) && !Fills(1) && !Fills(2)) {
-    throw Error("Nothing says whose entries these are: one of fCompID, CompCode and compname must "
-                "be filled; map one with --map CompCode=HEADER");
+    throw Error(
+        "Nothing says whose entries these are: one of fCompID, CompCode and compname must "
+        "be filled; map one with --map CompCode=HEADER");
   }
   for (size_t i = 0; i < columns_.size(); ++i) {
     if (columns_[i].required && !Fills(i)) {

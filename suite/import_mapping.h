@@ -26,9 +26,7 @@ class ImportMapping {
 
   size_t FieldCount() const { return header_.size(); }
   /// True when anything fills the column.
-  bool Fills(size_t column) const {
-    return !values_[column].empty() || !presets_[column].empty();
-  }
+  bool Fills(size_t column) const { return !values_[column].empty() || !presets_[column].empty(); }
   /// The column's text for one record's `fields`, without blanks around it.
   std::string Value(size_t column, const std::vector<std::string>& fields) const;
 

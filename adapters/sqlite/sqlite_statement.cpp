@@ -119,7 +119,9 @@ void SqliteStatement::Bind(int parameter, double value) {
 }
 
 void SqliteStatement::Bind(int parameter, std::string_view value) {
-  Check(sqlite3_bind_text(statement_.get(), parameter, value.data(), static_cast<int>(value.size()),
+  // The engine takes a null pointer for null, and that is what an empty view may hold.
+  const char* const bytes = value.data() ? value.data() : "";
+  Check(sqlite3_bind_text(statement_.get(), parameter, bytes, static_cast<int>(value.size()),
                           SQLITE_TRANSIENT));
 }
 

@@ -31,9 +31,7 @@ TEST(Csv, TakesADoubledQuoteForOne) {
   EXPECT_EQ(First("\"他说\"\"好\"\"\",b\n").fields, (Fields{"他说\"好\"", "b"}));
 }
 
-TEST(Csv, KeepsBlanksAroundAField) {
-  EXPECT_EQ(First(" a , b \n").fields, (Fields{" a ", " b "}));
-}
+TEST(Csv, KeepsBlanksAroundAField) { EXPECT_EQ(First(" a , b \n").fields, (Fields{" a ", " b "})); }
 
 TEST(Csv, EndsLinesAtLfAndAtCrLf) {
   CsvReader reader("a\r\nb\nc\r\n");
@@ -62,9 +60,7 @@ TEST(Csv, NamesTheLineOnWhichARecordOfSeveralLinesBegins) {
   EXPECT_EQ(record.line, 4);
 }
 
-TEST(Csv, TakesAnotherSeparator) {
-  EXPECT_EQ(First("a,b;c\n", ';').fields, (Fields{"a,b", "c"}));
-}
+TEST(Csv, TakesAnotherSeparator) { EXPECT_EQ(First("a,b;c\n", ';').fields, (Fields{"a,b", "c"})); }
 
 TEST(Csv, RefusesAQuoteInsideAPlainFieldAndReadsOnAfterTheLine) {
   CsvReader reader("a,5\" pipe,b\nc,d\n");

@@ -77,8 +77,9 @@ TEST(FieldValues, ReadsADateWithTheYearLastInTheOrderGiven) {
 }
 
 TEST(FieldValues, RefusesWhatIsNoDay) {
-  for (const char* text : {"", "2024-02-30", "2023-02-29", "2024-13-01", "2024-00-10", "20240230",
-                           "2024-3", "2024-03-05-06", "2024/03-05", "tomorrow", "45000", "3月5日"}) {
+  for (const char* text :
+       {"", "2024-02-30", "2023-02-29", "2024-13-01", "2024-00-10", "20240230", "2024-3",
+        "2024-03-05-06", "2024/03-05", "tomorrow", "45000", "3月5日"}) {
     EXPECT_EQ(Iso(text), "it is no day of the calendar") << text;
   }
   EXPECT_EQ(Iso("5/3/24"), "its year has two digits");

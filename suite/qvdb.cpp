@@ -1,0 +1,269 @@
+#include "suite/qvdb.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <ostream>
+
+#include "suite/arguments.h"
+#include "suite/check_data.h"
+#include "suite/demo.h"
+#include "suite/import.h"
+#include "suite/row_writer.h"
+#include "suite/schema.h"
+
+namespace qvzj {
+namespace {
+
+namespace fs = std::filesystem;
+using Words = std::vector<std::string>;
+
+constexpr const char* kUsage = R"(qvdb - makes, fills and checks the data files of the ledger
+
+  qvdb init [--currency CODE]...
+      Makes the data folder, the data file and the tables that are missing. The currencies are
+      put into an empty currency table, the first as the local one.
+
+  qvdb demo [--seed N] [--customers N] [--accounts N] [--entries N] [--years N]
+            [--until YYYY-MM-DD]
+      Fills an empty data file with made-up data; the same options make the same data.
+
+  qvdb import customers|accounts|entries FILE [options]
+      Reads a CSV file (UTF-8 or GB18030; "-" is the standard input) whose first row names the
+      columns. A header that is called like a column fills it.
+      --map COLUMN=HEADER     fills a column from a header of another name
+      --set COLUMN=TEXT       gives a column a text; {HEADER} in it stands for that field
+      --default COLUMN=TEXT   gives it only to rows in which the column is empty
+      --ledger customers|accounts   whose entries they are (entries; default customers)
+      --dates mdy|dmy         order of dates such as 03/04/2024, which are else refused
+      --separator C           what parts the fields: a character, or "tab" (default ,)
+      --once                  passes over a code that is there instead of refusing the row
+      --add-currencies        adds currencies that the table lacks instead of refusing the row
+      --dry-run               tries everything and keeps nothing
+
+  qvdb check
+      Looks for orphans, missing amounts, counter-entries out of step with their customer
+      entries, and voucher numbers borne twice.
+
+Every command takes --data FOLDER (default: %DATA%).
+Exit status: 0 done; 1 done, but rows were refused or faults were found; 2 not done.
+)";
+
+/// Says on a long run how far it is, every two seconds.
+class ProgressLines {
+ public:
+  explicit ProgressLines(std::ostream& err) : err_(err), next_(Clock::now() + kPause) {}
+
+  Progress Hook() {
+    return [this](int64_t done, int64_t all) {
+      if (Clock::now() < next_ || all <= 0) return;
+      next_ = Clock::now() + kPause;
+      err_ << "  " << done * 100 / all << " % done" << std::endl;
+    };
+  }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  static constexpr std::chrono::seconds kPause{2};
+  std::ostream& err_;
+  Clock::time_point next_;
+};
+
+fs::path DataFile(const Arguments& arguments) {
+  return fs::path(arguments.Text("--data", DefaultDataFolder())) / kDataFile;
+}
+
+/// Opens the data file, made with all its tables when it is missing.
+std::unique_ptr<SqliteSession> OpenOrMake(const fs::path& file) {
+  std::error_code failure;
+  fs::create_directories(file.parent_path(), failure);
+  if (failure) {
+    throw Error("The folder " + file.parent_path().string() +
+                " cannot be made: " + failure.message());
+  }
+  SqliteOptions options;
+  options.create = true;
+  auto session = OpenSqlite(file.string(), options);
+  CreateSchema(*session);
+  return session;
+}
+
+void RefuseWords(const Arguments& arguments) {
+  if (!arguments.Words().empty()) throw UsageError("unexpected " + arguments.Words().front());
+}
+
+int Init(const Words& words, const QvdbStreams& streams) {
+  const Arguments arguments(words, {"--data", "--currency"});
+  RefuseWords(arguments);
+  const fs::path file = DataFile(arguments);
+  const auto session = OpenOrMake(file);
+  const std::vector<std::string> currencies = arguments.Texts("--currency");
+  if (!currencies.empty()) {
+    if (CountOf(*session, "Moneys") > 0) throw Error("The currency table is not empty");
+    RowWriter table(*session, "Moneys", {"MoneyCode", "MoneyRate", "MoneyType"});
+    auto type = static_cast<int64_t>(currencies.size());
+    for (const std::string& code : currencies) table.Add({code, 1.0, type--});
+  }
+  streams.out << "ready: " << file.string() << "\n";
+  return 0;
+}
+
+int Demo(const Words& words, const QvdbStreams& streams) {
+  const Arguments arguments(
+      words, {"--data", "--seed", "--customers", "--accounts", "--entries", "--years", "--until"});
+  RefuseWords(arguments);
+  DemoOptions options;
+  options.seed = static_cast<uint64_t>(arguments.Number("--seed", 1));
+  options.customers = arguments.Number("--customers", options.customers);
+  options.accounts = arguments.Number("--accounts", options.accounts);
+  options.entries = arguments.Number("--entries", options.entries);
+  options.years = arguments.Number("--years", options.years);
+  if (arguments.Has("--until")) {
+    const auto until = basic::ParseIso(arguments.Text("--until"));
+    if (!until) throw UsageError("--until needs a day as YYYY-MM-DD");
+    options.until = *until;
+  }
+  const fs::path file = DataFile(arguments);
+  ProgressLines progress(streams.err);
+  MakeDemoData(*OpenOrMake(file), options, progress.Hook());
+  streams.out << options.customers << " customers, " << options.accounts << " accounts, "
+              << options.entries << " entries: " << file.string() << "\n";
+  return 0;
+}
+
+std::string ReadAll(const std::string& name, std::istream& standard_input) {
+  if (name == "-") return {std::istreambuf_iterator<char>(standard_input), {}};
+  std::ifstream file(name, std::ios::binary);
+  if (!file || fs::is_directory(name)) throw Error("The file " + name + " cannot be read");
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+ImportKind KindOf(const std::string& word) {
+  if (word == "customers") return ImportKind::Customers;
+  if (word == "accounts") return ImportKind::Accounts;
+  if (word == "entries") return ImportKind::Entries;
+  throw UsageError("import takes customers, accounts or entries, not " + word);
+}
+
+char SeparatorOf(const std::string& text) {
+  if (text == "tab") return '\t';
+  if (text.size() != 1 || text == "\"") throw UsageError("--separator needs one character or tab");
+  return text[0];
+}
+
+ImportOptions ImportOptionsOf(const Arguments& arguments) {
+  ImportOptions options;
+  options.kind = KindOf(arguments.Words().at(0));
+  const std::string ledger = arguments.Text("--ledger", "customers");
+  if (ledger != "customers" && ledger != "accounts") {
+    throw UsageError("--ledger needs customers or accounts");
+  }
+  options.ledger = ledger == "accounts" ? 1 : 0;
+  const std::string dates = arguments.Text("--dates");
+  if (dates == "mdy") {
+    options.dates = DateOrder::MonthFirst;
+  } else if (dates == "dmy") {
+    options.dates = DateOrder::DayFirst;
+  } else if (!dates.empty()) {
+    throw UsageError("--dates needs mdy or dmy");
+  }
+  options.separator = SeparatorOf(arguments.Text("--separator", ","));
+  options.map = arguments.Pairs("--map");
+  options.set = arguments.Pairs("--set");
+  options.presets = arguments.Pairs("--default");
+  options.once = arguments.Has("--once");
+  options.add_currencies = arguments.Has("--add-currencies");
+  options.dry_run = arguments.Has("--dry-run");
+  return options;
+}
+
+void PrintReport(const ImportReport& report, bool dry_run, std::ostream& out) {
+  out << report.rows << " rows (" << report.encoding << "): " << report.written << " imported, "
+      << report.refused << " refused";
+  if (report.passed_over > 0) out << ", " << report.passed_over << " passed over";
+  out << "\n";
+  if (report.quoted_texts > 0) out << report.quoted_texts << " texts with ' got ’ instead\n";
+  if (report.joined_texts > 0) {
+    out << report.joined_texts << " texts with line breaks or tabs got blanks instead\n";
+  }
+  for (const std::string& currency : report.currencies) {
+    out << "currency " << currency << " added\n";
+  }
+  if (dry_run) out << "nothing was kept\n";
+}
+
+int Import(const Words& words, const QvdbStreams& streams) {
+  const Arguments arguments(
+      words, {"--data", "--map", "--set", "--default", "--ledger", "--dates", "--separator"},
+      {"--once", "--add-currencies", "--dry-run"});
+  if (arguments.Words().size() != 2) throw UsageError("import takes what to import and a file");
+  const ImportOptions options = ImportOptionsOf(arguments);
+  const std::string bytes = ReadAll(arguments.Words()[1], streams.in);
+  ProgressLines progress(streams.err);
+  const auto session = OpenOrMake(DataFile(arguments));
+  const ImportReport report = ImportCsv(
+      *session, bytes, options,
+      [&](const Refusal& refusal) {
+        streams.err << "line " << refusal.line << ": " << refusal.reason << "\n";
+      },
+      progress.Hook());
+  PrintReport(report, options.dry_run, streams.out);
+  return report.refused > 0 ? 1 : 0;
+}
+
+int Check(const Words& words, const QvdbStreams& streams) {
+  const Arguments arguments(words, {"--data"});
+  RefuseWords(arguments);
+  const auto session = OpenSqlite(DataFile(arguments).string(), {});
+  const int64_t faults = CheckData(*session, [&](const Fault& fault) {
+    streams.out << NameOf(fault.kind) << ": " << fault.text << "\n";
+  });
+  streams.out << (faults == 0 ? "no faults" : std::to_string(faults) + " faults") << "\n";
+  return faults > 0 ? 1 : 0;
+}
+
+void PrintUsage(std::ostream& to) {
+  std::string text = kUsage;
+  const size_t place = text.find("%DATA%");
+  to << text.replace(place, 6, DefaultDataFolder());
+}
+
+int Run(const Words& words, const QvdbStreams& streams) {
+  if (words.empty()) throw UsageError("no command");
+  const Words rest(words.begin() + 1, words.end());
+  const std::string& command = words.front();
+  if (command == "--help" || command == "-h" || command == "help") {
+    PrintUsage(streams.out);
+    return 0;
+  }
+  if (command == "init") return Init(rest, streams);
+  if (command == "demo") return Demo(rest, streams);
+  if (command == "import") return Import(rest, streams);
+  if (command == "check") return Check(rest, streams);
+  throw UsageError("unknown command " + command);
+}
+
+}  // namespace
+
+std::string DefaultDataFolder() {
+  const char* data_home = std::getenv("XDG_DATA_HOME");
+  if (data_home && *data_home) return (fs::path(data_home) / "qvzj").string();
+  const char* home = std::getenv("HOME");
+  return (fs::path(home ? home : ".") / ".local/share/qvzj").string();
+}
+
+int RunQvdb(const Words& words, const QvdbStreams& streams) {
+  try {
+    return Run(words, streams);
+  } catch (const UsageError& error) {
+    streams.err << "qvdb: " << error.what() << "\n\n";
+    PrintUsage(streams.err);
+  } catch (const std::exception& error) {
+    streams.err << "qvdb: " << error.what() << "\n";
+  }
+  return 2;
+}
+
+}  // namespace qvzj
