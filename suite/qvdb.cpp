@@ -47,7 +47,13 @@ constexpr const char* kUsage = R"(qvdb - makes, fills and checks the data files 
       Looks for orphans, missing amounts, counter-entries out of step with their customer
       entries, and voucher numbers borne twice.
 
-Every command takes --data FOLDER (default: %DATA%).
+  qvdb user add|passwd|rights|disable|enable|remove|unit|exempt|list|log FILE ...
+      Keeps the users of the rights database FILE, or of the one in the folder FILE.
+      add FILE NAME [RIGHTS]   passwd FILE NAME   rights FILE NAME RIGHTS   list FILE
+      disable FILE NAME   enable FILE NAME   remove FILE NAME   log FILE
+      unit FILE [TEXT]   exempt FILE [NAME]
+
+Every command but user takes --data FOLDER (default: %DATA%).
 Exit status: 0 done; 1 done, but rows were refused or faults were found; 2 not done.
 )";
 
@@ -242,6 +248,9 @@ int Run(const Words& words, const QvdbStreams& streams) {
   if (command == "demo") return Demo(rest, streams);
   if (command == "import") return Import(rest, streams);
   if (command == "check") return Check(rest, streams);
+  if (command == "user") {
+    return RunUserCommand(rest, streams.ask_password, streams.out, streams.err);
+  }
   throw UsageError("unknown command " + command);
 }
 

@@ -4,13 +4,16 @@
 #include <string>
 #include <vector>
 
+#include "suite/user_admin.h"
+
 namespace qvzj {
 
 /// Where a command reads and writes.
 struct QvdbStreams {
   std::istream& in;
-  std::ostream& out;  ///< results
-  std::ostream& err;  ///< refused rows, progress, failures
+  std::ostream& out;         ///< results
+  std::ostream& err;         ///< refused rows, progress, failures
+  AskPassword ask_password;  ///< for the passwords of users
 };
 
 /// Runs one command of the tool that maintains data files; `words` is its command line without the

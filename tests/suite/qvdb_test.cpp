@@ -30,8 +30,9 @@ class QvdbTest : public ::testing::Test {
   int Run(std::vector<std::string> words, const std::string& input = {}) {
     std::istringstream in(input);
     std::ostringstream out, err;
-    words.insert(words.end(), {"--data", Data()});
-    const int status = RunQvdb(words, {in, out, err});
+    if (words.front() != "user") words.insert(words.end(), {"--data", Data()});
+    const int status =
+        RunQvdb(words, {in, out, err, [](const std::string&) { return "secret pass"; }});
     out_ = out.str();
     err_ = err.str();
     return status;
@@ -132,6 +133,12 @@ TEST_F(QvdbTest, CheckExitsWithOneWhereItFindsFaults) {
 TEST_F(QvdbTest, CheckMakesNoDataFile) {
   EXPECT_EQ(Run({"check"}), 2);
   EXPECT_FALSE(fs::exists(Data()));
+}
+
+TEST_F(QvdbTest, UserKeepsTheRightsDatabase) {
+  EXPECT_EQ(Run({"user", "add", folder_.string(), "王五"}), 0) << err_;
+  EXPECT_EQ(Run({"user", "list", folder_.string()}), 0);
+  EXPECT_TRUE(out_.starts_with("王五")) << out_;
 }
 
 TEST_F(QvdbTest, AFileThatIsNoDatabaseIsRefused) {
