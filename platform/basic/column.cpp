@@ -18,20 +18,34 @@ constexpr int64_t kExactReal = int64_t{1} << 53;
 void Column::Reserve(size_t rows) {
   switch (kind_) {
     case Kind::Integer:
-    case Kind::Date: integers_.Reserve(rows); break;
-    case Kind::Real: reals_.Reserve(rows); break;
-    case Kind::Text: offsets_.Reserve(rows); break;
-    case Kind::Empty: break;
+    case Kind::Date:
+      integers_.Reserve(rows);
+      break;
+    case Kind::Real:
+      reals_.Reserve(rows);
+      break;
+    case Kind::Text:
+      offsets_.Reserve(rows);
+      break;
+    case Kind::Empty:
+      break;
   }
 }
 
 void Column::Resize(size_t rows) {
   switch (kind_) {
     case Kind::Integer:
-    case Kind::Date: integers_.Resize(rows, kNullInteger); break;
-    case Kind::Real: reals_.Resize(rows, kNullReal); break;
-    case Kind::Text: offsets_.Resize(rows, kNullText); break;
-    case Kind::Empty: break;
+    case Kind::Date:
+      integers_.Resize(rows, kNullInteger);
+      break;
+    case Kind::Real:
+      reals_.Resize(rows, kNullReal);
+      break;
+    case Kind::Text:
+      offsets_.Resize(rows, kNullText);
+      break;
+    case Kind::Empty:
+      break;
   }
   size_ = rows;
 }
@@ -69,6 +83,7 @@ void Column::AppendInteger(int64_t value) {
 }
 
 void Column::AppendReal(double value) {
+  if (std::isnan(value)) return AppendNull();
   if (kind_ == Kind::Empty || kind_ == Kind::Integer) WidenTo(Kind::Real);
   if (kind_ != Kind::Real) return AppendText(NumberText(value));
   reals_.Append(value);
@@ -95,14 +110,22 @@ void Column::AppendText(std::string_view value) {
 void Column::SetNull(size_t row) {
   switch (kind_) {
     case Kind::Integer:
-    case Kind::Date: integers_[row] = kNullInteger; break;
-    case Kind::Real: reals_[row] = kNullReal; break;
-    case Kind::Text: offsets_[row] = kNullText; break;
-    case Kind::Empty: break;
+    case Kind::Date:
+      integers_[row] = kNullInteger;
+      break;
+    case Kind::Real:
+      reals_[row] = kNullReal;
+      break;
+    case Kind::Text:
+      offsets_[row] = kNullText;
+      break;
+    case Kind::Empty:
+      break;
   }
 }
 
 void Column::SetReal(size_t row, double value) {
+  if (std::isnan(value)) return SetNull(row);
   if (kind_ == Kind::Empty || kind_ == Kind::Integer) WidenTo(Kind::Real);
   if (kind_ != Kind::Real) return SetText(row, NumberText(value));
   reals_[row] = value;
@@ -120,10 +143,14 @@ void Column::MakeReal() {
 bool Column::IsNull(size_t row) const {
   switch (kind_) {
     case Kind::Integer:
-    case Kind::Date: return integers_[row] == kNullInteger;
-    case Kind::Real: return std::isnan(reals_[row]);
-    case Kind::Text: return offsets_[row] == kNullText;
-    case Kind::Empty: break;
+    case Kind::Date:
+      return integers_[row] == kNullInteger;
+    case Kind::Real:
+      return std::isnan(reals_[row]);
+    case Kind::Text:
+      return offsets_[row] == kNullText;
+    case Kind::Empty:
+      break;
   }
   return true;
 }
@@ -131,10 +158,14 @@ bool Column::IsNull(size_t row) const {
 std::string Column::Text(size_t row) const {
   if (IsNull(row)) return {};
   switch (kind_) {
-    case Kind::Integer: return std::to_string(integers_[row]);
-    case Kind::Date: return FormatIso(Date{integers_[row]});
-    case Kind::Real: return NumberText(reals_[row]);
-    default: return std::string(TextView(row));
+    case Kind::Integer:
+      return std::to_string(integers_[row]);
+    case Kind::Date:
+      return FormatIso(Date{integers_[row]});
+    case Kind::Real:
+      return NumberText(reals_[row]);
+    default:
+      return std::string(TextView(row));
   }
 }
 
@@ -155,9 +186,12 @@ double Column::Number(size_t row) const {
   if (IsNull(row)) return 0;
   switch (kind_) {
     case Kind::Integer:
-    case Kind::Date: return integers_[row];
-    case Kind::Real: return reals_[row];
-    default: return Val(TextView(row));
+    case Kind::Date:
+      return integers_[row];
+    case Kind::Real:
+      return reals_[row];
+    default:
+      return Val(TextView(row));
   }
 }
 
@@ -169,13 +203,15 @@ int32_t Column::Integer(size_t row) const {
 bool Column::SameValue(size_t row, size_t other) const {
   switch (kind_) {
     case Kind::Integer:
-    case Kind::Date: return integers_[row] == integers_[other];
+    case Kind::Date:
+      return integers_[row] == integers_[other];
     case Kind::Real:
       return std::bit_cast<uint64_t>(reals_[row]) == std::bit_cast<uint64_t>(reals_[other]);
     case Kind::Text:
       return offsets_[row] == offsets_[other] ||
              (!IsNull(row) && !IsNull(other) && TextView(row) == TextView(other));
-    case Kind::Empty: break;
+    case Kind::Empty:
+      break;
   }
   return true;
 }

@@ -31,6 +31,7 @@ class Column {
   void AppendNull();
   /// An integer; one outside 32 bits is kept as a real, one a real cannot hold exactly as text.
   void AppendInteger(int64_t value);
+  /// A real; what is not a number is kept as null.
   void AppendReal(double value);
   void AppendDate(Date value);
   /// Throws OverflowError when the arena passes 4 GiB.

@@ -49,8 +49,8 @@ std::optional<std::array<int, 3>> ThreeNumbers(std::string_view text) {
 }  // namespace
 
 Date Date::FromYmd(int y, int m, int d) {
-  const sys_days days{year_month_day{year{y}, month{static_cast<unsigned>(m)},
-                                     day{static_cast<unsigned>(d)}}};
+  const sys_days days{
+      year_month_day{year{y}, month{static_cast<unsigned>(m)}, day{static_cast<unsigned>(d)}}};
   return Date{static_cast<int32_t>((days - kDayZero).count())};
 }
 

@@ -157,6 +157,8 @@ std::string FormatFixed(double value, int decimals) {
 
 std::string NumberText(double value) {
   if (value == 0) return "0";
+  if (std::isnan(value)) return "1.#QNAN";
+  if (std::isinf(value)) return value < 0 ? "-1.#INF" : "1.#INF";
   const Decimal decimal = FifteenDigits(value);
   std::string digits = decimal.digits;
   digits.erase(digits.find_last_not_of('0') + 1);

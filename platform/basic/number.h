@@ -35,7 +35,8 @@ int16_t MultiplyInt16(int16_t a, int16_t b);
 std::string FormatFixed(double value, int decimals);
 
 /// Shortest plain text of `value` with up to 15 significant digits, as the host's language joins
-/// a number to a text: "100", "12.5", "-0.25". Values from 1E+15 on use an exponent.
+/// a number to a text: "100", "12.5", "-0.25". Values from 1E+15 on use an exponent; what is no
+/// finite number reads "1.#INF", "-1.#INF" or "1.#QNAN".
 std::string NumberText(double value);
 
 /// A running sum that keeps the lost low bits (Neumaier), so that a million amounts add up to

@@ -7,18 +7,25 @@ namespace {
 
 constexpr int32_t kToTheEnd = std::numeric_limits<int32_t>::max();
 
+bool Continues(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
+
+/// True when a second byte makes a character of three or four bytes too long a spelling of it, a
+/// surrogate, or a code past the last one.
+bool OutOfRange(unsigned char lead, unsigned char second) {
+  return (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
+         (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);
+}
+
 /// Bytes of the character that begins at `at`; a malformed byte is a character of its own.
 size_t CharacterBytes(std::string_view text, size_t at) {
   const auto lead = static_cast<unsigned char>(text[at]);
-  size_t length = 1;
-  if (lead >= 0xC2 && lead < 0xE0) length = 2;
-  if (lead >= 0xE0 && lead < 0xF0) length = 3;
-  if (lead >= 0xF0 && lead < 0xF5) length = 4;
+  if (lead < 0xC2 || lead > 0xF4) return 1;
+  const size_t length = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
   if (at + length > text.size()) return 1;
   for (size_t i = 1; i < length; ++i) {
-    if ((static_cast<unsigned char>(text[at + i]) & 0xC0) != 0x80) return 1;
+    if (!Continues(text[at + i])) return 1;
   }
-  return length;
+  return OutOfRange(lead, static_cast<unsigned char>(text[at + 1])) ? 1 : length;
 }
 
 /// Byte position after `count` characters from byte `at`.
@@ -121,6 +128,7 @@ std::u32string CodePoints(std::string_view text) {
 
 std::string FromCodePoint(char32_t code) {
   const auto byte = [](char32_t bits) { return static_cast<char>(bits); };
+  if (code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF)) code = U'\uFFFD';
   if (code < 0x80) return {byte(code)};
   if (code < 0x800) return {byte(0xC0 | (code >> 6)), byte(0x80 | (code & 0x3F))};
   if (code < 0x10000) {
@@ -135,14 +143,6 @@ bool IsUtf8(std::string_view bytes) {
   for (size_t at = 0; at < bytes.size();) {
     const size_t length = CharacterBytes(bytes, at);
     if (length == 1 && static_cast<unsigned char>(bytes[at]) >= 0x80) return false;
-    if (length == 3) {
-      const char32_t code = Decode(bytes, at, length);
-      if (code < 0x800 || (code >= 0xD800 && code <= 0xDFFF)) return false;
-    }
-    if (length == 4) {
-      const char32_t code = Decode(bytes, at, length);
-      if (code < 0x10000 || code > 0x10FFFF) return false;
-    }
     at += length;
   }
   return true;

@@ -33,7 +33,7 @@ std::string Pad(std::string_view text, int32_t width);
 std::string Replace(std::string_view text, std::string_view what, std::string_view with);
 /// The code points of `text`; a malformed byte becomes U+FFFD.
 std::u32string CodePoints(std::string_view text);
-/// UTF-8 of one code point.
+/// UTF-8 of one code point; U+FFFD for a number that is none.
 std::string FromCodePoint(char32_t code);
 /// True when the bytes are well-formed UTF-8.
 bool IsUtf8(std::string_view bytes);

@@ -19,6 +19,7 @@ struct Screen : Form, FormObserver {
     button.SetCaption("存盘(&S)");
     inner_button.SetCaption("保存(&S)");
     label.SetCaption("票号(&N)");
+    changes.clear();
   }
 
   void ControlChanged(Control& control, Aspect aspect) override {
