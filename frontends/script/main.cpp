@@ -12,6 +12,8 @@
 #include "services/context.h"
 #include "suite/connections.h"
 #include "suite/schema.h"
+#include "suite/task.h"
+#include "suite/user.h"
 
 namespace qvzj::script {
 namespace {
@@ -59,6 +61,12 @@ int Play(const Options& options, std::istream& in) {
   Headless headless;
   SuiteConnections connections({.language = [] { return static_cast<int>(Shared().Language); }});
   headless.Install(connections);
+  BoxLogin dialogue;
+  const SystemTryClock clock;
+  SuiteUser user(dialogue, clock);
+  BoxTask task;
+  headless.user.inner = &user;
+  headless.task.inner = &task;
   if (options.today) headless.clock.Set(*options.today);
   if (!options.settings.empty()) LoadSettings(options.settings, headless.settings);
   OwnConnection own;
