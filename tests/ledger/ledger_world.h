@@ -9,6 +9,7 @@
 #include "ledger/filter.h"
 #include "ledger/query.h"
 #include "platform/basic/number.h"
+#include "platform/basic/text.h"
 #include "services/context.h"
 #include "tests/support/world.h"
 
