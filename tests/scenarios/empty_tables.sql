@@ -1,0 +1,3 @@
+DELETE FROM cards;
+DELETE FROM tAccounts;
+DELETE FROM tAccountDetail;

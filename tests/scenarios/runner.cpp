@@ -1,0 +1,143 @@
+// Plays one scenario and compares what it prints with what it should print.
+//
+//   scenario_runner [--update] PROGRAM SCENARIO.qvs
+//
+// The scenario runs in a folder of its own, with the data folder "data" in it: the schema, the
+// rows of fixture.sql and those of SCENARIO.sql, if there is one. SCENARIO.sh, if there is one,
+// runs in the folder before the program does. The output must equal SCENARIO.out line by line and
+// the program must end with 0. --update writes SCENARIO.out instead of comparing.
+
+#include <fcntl.h>
+#include <stdlib.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "adapters/sqlite/sqlite_session.h"
+#include "suite/schema.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The day on which every scenario plays.
+constexpr const char* kToday = "2024-03-15";
+/// Number of the capability that lets root write where the permissions forbid it.
+constexpr int kDacOverride = 1;
+
+std::string Content(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::ostringstream text;
+  text << in.rdbuf();
+  return text.str();
+}
+
+fs::path Beside(fs::path scenario, const char* extension) {
+  return scenario.replace_extension(extension);
+}
+
+/// Runs a program in `folder` and waits; its output goes to `output` where that is not empty. The
+/// permissions of files hold for root as well. Answers the exit status, 128 and more for a signal.
+int RunIn(const fs::path& folder, std::vector<std::string> command, const fs::path& output) {
+  std::vector<char*> arguments;
+  for (std::string& word : command) arguments.push_back(word.data());
+  arguments.push_back(nullptr);
+  const pid_t child = fork();
+  if (child < 0) throw std::runtime_error("cannot start " + command[0]);
+  if (child == 0) {
+    prctl(PR_CAPBSET_DROP, kDacOverride, 0, 0, 0);
+    if (chdir(folder.c_str()) != 0) _exit(126);
+    if (!output.empty()) {
+      const int file = open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+      if (file < 0 || dup2(file, STDOUT_FILENO) < 0) _exit(126);
+    }
+    execvp(arguments[0], arguments.data());
+    _exit(127);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+void PrepareData(const fs::path& folder, const fs::path& scenario) {
+  fs::create_directory(folder);
+  qvzj::SqliteOptions options;
+  options.create = true;
+  const auto session = qvzj::OpenSqlite((folder / qvzj::kDataFile).string(), options);
+  qvzj::CreateSchema(*session);
+  session->NativeScript(Content(scenario.parent_path() / "fixture.sql"));
+  const fs::path own = Beside(scenario, ".sql");
+  if (fs::exists(own)) session->NativeScript(Content(own));
+}
+
+/// Plays the scenario in the fresh folder `folder`; its output goes to `printed`.
+int Play(const fs::path& program, const fs::path& scenario, const fs::path& folder,
+         const fs::path& printed) {
+  PrepareData(folder / "data", scenario);
+  const fs::path script = Beside(scenario, ".sh");
+  if (fs::exists(script) && RunIn(folder, {"sh", "-eu", script.string()}, {}) != 0) {
+    throw std::runtime_error(script.string() + " failed");
+  }
+  return RunIn(folder, {program.string(), "--data", "data", "--today", kToday, scenario.string()},
+               printed);
+}
+
+int Compare(const fs::path& expected, const fs::path& printed, int status) {
+  if (Content(expected) != Content(printed) || !fs::exists(expected)) {
+    std::printf("%s differs from what was printed:\n", expected.c_str());
+    std::fflush(stdout);
+    RunIn(expected.parent_path(),
+          {"diff", "-u", "--label", "expected", "--label", "printed", expected.string(),
+           printed.string()},
+          {});
+    return 1;
+  }
+  if (status != 0) std::printf("the program ended with %d\n", status);
+  return status == 0 ? 0 : 1;
+}
+
+int Main(std::vector<std::string> arguments) {
+  const bool update = !arguments.empty() && arguments[0] == "--update";
+  if (update) arguments.erase(arguments.begin());
+  if (arguments.size() != 2) {
+    std::fputs("usage: scenario_runner [--update] PROGRAM SCENARIO.qvs\n", stderr);
+    return 2;
+  }
+  const fs::path program = fs::absolute(arguments[0]);
+  const fs::path scenario = fs::absolute(arguments[1]);
+  std::string pattern = (fs::temp_directory_path() / "qvzj-scenario-XXXXXX").string();
+  if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot make a temporary folder");
+  const fs::path folder = pattern;
+  const fs::path printed = folder / "printed.out";
+  const int status = Play(program, scenario, folder, printed);
+  int result = 0;
+  if (update) {
+    fs::copy_file(printed, Beside(scenario, ".out"), fs::copy_options::overwrite_existing);
+    std::printf("wrote %s; the program ended with %d\n", Beside(scenario, ".out").c_str(), status);
+    result = status;
+  } else {
+    result = Compare(Beside(scenario, ".out"), printed, status);
+  }
+  fs::permissions(folder / "data", fs::perms::owner_all, fs::perm_options::add);
+  fs::remove_all(folder);
+  return result;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return Main(std::vector<std::string>(argv + 1, argv + argc));
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "scenario_runner: %s\n", error.what());
+    return 1;
+  }
+}
