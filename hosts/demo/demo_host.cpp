@@ -1,15 +1,11 @@
 #include "hosts/demo/demo_host.h"
 
 #include "frontends/qt/text.h"
-#include "platform/surroundings.h"
 
 namespace qvzj::demo {
 
 DemoHost::DemoHost(const QString& data, const QString& settings_file)
-    : surroundings_(settings_file) {
-  surroundings_.Install();
-  Around().connections = &connections_;
-
+    : component_(settings_file) {
   control_.InitProperties();
   control_.setUserPath(qt::ToUtf8(data));
   control_.setSQLData(0);

@@ -4,13 +4,11 @@
 #include <functional>
 
 #include "control/qvJxc_Zj.h"
-#include "frontends/qt/surroundings.h"
-#include "suite/connections.h"
+#include "hosts/component/component.h"
 
 namespace qvzj::demo {
 
-/// The host's side of the embedding: the surroundings, the suite's components and the control, set
-/// up as a host does it.
+/// The host's side of the embedding: the component and one control, set up as a host does it.
 class DemoHost {
  public:
   /// `data` is the folder of the data file.
@@ -24,11 +22,10 @@ class DemoHost {
   int16_t Language() const { return language_; }
 
   qvJxc_Zj& Control() { return control_; }
-  qt::QtPresenter& Windows() { return surroundings_.Windows(); }
+  qt::QtPresenter& Windows() { return component_.Windows(); }
 
  private:
-  qt::QtSurroundings surroundings_;
-  SuiteConnections connections_;
+  Component component_;
   qvJxc_Zj control_;
   int16_t language_ = 0;
   int16_t open_mode_ = -1;  // run mode of the open screen

@@ -8,8 +8,8 @@
 
 namespace qvzj::qt {
 
-QtPageOutput::QtPageOutput(const QFont& font, bool traditional)
-    : font_(font), metrics_(font), traditional_(traditional) {}
+QtPageOutput::QtPageOutput(const QFont& font, std::function<bool()> traditional)
+    : font_(font), metrics_(font), traditional_(std::move(traditional)) {}
 
 QtPageOutput::~QtPageOutput() = default;
 
@@ -30,7 +30,7 @@ void QtPageOutput::Output(const PageSource& pages, const std::string& title) {
     WritePdf(pages, pdf_path_, FromUtf8(title), font_, {});
     return;
   }
-  PreviewWindow preview(pages, FromUtf8(title), font_, traditional_, QApplication::activeWindow());
+  PreviewWindow preview(pages, FromUtf8(title), font_, traditional_(), QApplication::activeWindow());
   preview.exec();
 }
 

@@ -1,0 +1,18 @@
+#include "hosts/component/component.h"
+
+#include "frontends/qt/theme.h"
+#include "services/context.h"
+
+namespace qvzj {
+
+Component::Component(const QString& settings_file)
+    : surroundings_(settings_file),
+      pages_(qt::ThemeFont(false), [] { return Shared().Language == 1; }) {
+  surroundings_.Install();
+  Surroundings& around = Around();
+  around.connections = &connections_;
+  around.print = &print_;
+  around.exporter = &exporter_;
+}
+
+}  // namespace qvzj

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include "frontends/qt/print/page_output.h"
+#include "frontends/qt/surroundings.h"
+#include "suite/connections.h"
+#include "suite/export/suite_exporter.h"
+#include "suite/print/suite_print.h"
+
+namespace qvzj {
+
+/// The component as a Qt program loads it: the window's surroundings and the suite's stand-ins,
+/// wired together and in force. A program makes one after its QApplication; a host with components
+/// of its own puts them into Around() afterwards.
+class Component {
+ public:
+  /// `settings_file` replaces the user's own settings store, for tests; empty: the user's own.
+  explicit Component(const QString& settings_file = {});
+
+  qt::QtPresenter& Windows() { return surroundings_.Windows(); }
+  qt::QtPageOutput& Pages() { return pages_; }
+
+ private:
+  qt::QtSurroundings surroundings_;
+  SuiteConnections connections_;
+  qt::QtPageOutput pages_;
+  SystemClock clock_;
+  SuitePrint print_{pages_, clock_};
+  SuiteExporter exporter_;
+};
+
+}  // namespace qvzj

@@ -1,0 +1,104 @@
+#include "hosts/plugin/control_widget.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPainter>
+#include <exception>
+
+#include "frontends/qt/text.h"
+#include "frontends/qt/theme.h"
+#include "hosts/plugin/variant_bag.h"
+#include "platform/basic/number.h"
+
+namespace qvzj {
+
+using qt::FromUtf8;
+using qt::ToUtf8;
+
+namespace {
+
+/// Runs what may refuse a value. Qt's property system carries no exceptions, so a refusal goes to
+/// the log.
+template <class Act>
+void OrWarn(const char* what, Act act) {
+  try {
+    act();
+  } catch (const std::exception& error) {
+    qWarning("qvJxc_Zj.%s: %s", what, error.what());
+  }
+}
+
+/// The platform's date value: days since 30 December 1899 with the time as a fraction.
+double DaysOf(const QDateTime& moment) {
+  const QDateTime zero(QDate(1899, 12, 30), QTime(0, 0));
+  constexpr double kMillisecondsADay = 86'400'000;
+  return static_cast<double>(zero.daysTo(moment)) +
+         moment.time().msecsSinceStartOfDay() / kMillisecondsADay;
+}
+
+}  // namespace
+
+ControlWidget::ControlWidget(QWidget* parent) : QWidget(parent) { control_.InitProperties(); }
+
+QVariantMap ControlWidget::SaveProperties() const {
+  VariantBag bag;
+  control_.WriteProperties(bag);
+  return bag.Values();
+}
+
+void ControlWidget::RestoreProperties(const QVariantMap& store) {
+  OrWarn("RestoreProperties", [&] { control_.ReadProperties(VariantBag(store)); });
+}
+
+QString ControlWidget::PropertyBagText() const {
+  const QJsonObject object = QJsonObject::fromVariantMap(SaveProperties());
+  return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+void ControlWidget::setPropertyBagText(const QString& json) {
+  RestoreProperties(QJsonDocument::fromJson(json.toUtf8()).object().toVariantMap());
+}
+
+QString ControlWidget::myName() const { return FromUtf8(control_.myName()); }
+QString ControlWidget::UserID() const { return FromUtf8(control_.UserID()); }
+QString ControlWidget::Default() const { return FromUtf8(control_.Default()); }
+
+void ControlWidget::setUserPath(const QString& value) { control_.setUserPath(ToUtf8(value)); }
+void ControlWidget::setMyName(const QString& value) { control_.setMyName(ToUtf8(value)); }
+void ControlWidget::setMyDate(const QDateTime& value) { control_.setMyDate(DaysOf(value)); }
+void ControlWidget::setPassword(const QString& value) { control_.setPassword(ToUtf8(value)); }
+void ControlWidget::setSQLData(int value) {
+  OrWarn("SQLData", [&] { control_.setSQLData(basic::ToInt16(value)); });
+}
+void ControlWidget::setLanguage(int value) {
+  OrWarn("Language", [&] { control_.setLanguage(basic::ToInt16(value)); });
+}
+void ControlWidget::setPowerPath(const QString& value) { control_.setPowerPath(ToUtf8(value)); }
+void ControlWidget::setUserName(const QString& value) { control_.setUserName(ToUtf8(value)); }
+void ControlWidget::setZgName(const QString& value) { control_.setZgName(ToUtf8(value)); }
+void ControlWidget::setCompName(const QString& value) { control_.setCompName(ToUtf8(value)); }
+void ControlWidget::setMyPower(const QString& value) { control_.setMyPower(ToUtf8(value)); }
+void ControlWidget::setMyModel(const QString& value) { control_.setMyModel(ToUtf8(value)); }
+void ControlWidget::setUserID(const QString& value) { control_.setUserID(ToUtf8(value)); }
+void ControlWidget::setDefault(const QString& value) { control_.setDefault(ToUtf8(value)); }
+
+void ControlWidget::refresh(int MfRunMode, int myShowMode) {
+  OrWarn("refresh", [&] {
+    control_.refresh(basic::ToInt16(MfRunMode), basic::ToInt16(myShowMode));
+  });
+}
+
+QSize ControlWidget::sizeHint() const { return {220, 64}; }
+
+void ControlWidget::paintEvent(QPaintEvent*) {
+  const qt::Colors& colors = qt::ColorsFor(palette());
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(colors.border);
+  painter.setBrush(colors.card);
+  painter.drawRoundedRect(rect().adjusted(1, 1, -1, -1), 6, 6);
+  painter.setPen(colors.muted);
+  painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("qvJxc_Zj"));
+}
+
+}  // namespace qvzj

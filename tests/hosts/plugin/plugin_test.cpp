@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QBuffer>
+#include <QDir>
+#include <QPluginLoader>
+#include <QUiLoader>
+#include <QVariantMap>
+#include <QWidget>
+#include <memory>
+
+#include "hosts/plugin/qv_zj_factory.h"
+
+namespace {
+
+/// Control, made by a form loader that was not written for it.
+std::unique_ptr<QWidget> LoadForm(const QByteArray& properties) {
+  QByteArray form =
+      "<ui version=\"4.0\"><class>Screen</class><widget class=\"QWidget\" name=\"Screen\">"
+      "<widget class=\"qvJxc_Zj\" name=\"zj\">" +
+      properties + "</widget></widget></ui>";
+  QBuffer device(&form);
+  QUiLoader loader;
+  loader.addPluginPath(QStringLiteral(QV_PLUGIN_DIR));
+  EXPECT_TRUE(loader.availableWidgets().contains(QStringLiteral("qvJxc_Zj")))
+      << qPrintable(loader.errorString());
+  return std::unique_ptr<QWidget>(loader.load(&device));
+}
+
+QWidget* ControlOf(QWidget& form) { return form.findChild<QWidget*>(QStringLiteral("zj")); }
+
+TEST(Plugin, IsFoundByTheFormLoaderAsACustomWidget) {
+  const auto form = LoadForm("");
+  ASSERT_TRUE(form);
+  ASSERT_TRUE(ControlOf(*form));
+  EXPECT_STREQ(ControlOf(*form)->metaObject()->className(), "qvzj::ControlWidget");
+}
+
+TEST(Plugin, TakesItsPropertiesFromAFormFile) {
+  const auto form = LoadForm(
+      "<property name=\"myName\"><string>华源贸易</string></property>"
+      "<property name=\"UserID\"><string>sa</string></property>");
+  QWidget* control = ControlOf(*form);
+  EXPECT_EQ(control->property("myName").toString(), QString::fromUtf8("华源贸易"));
+  EXPECT_EQ(control->property("UserID").toString(), "sa");
+}
+
+TEST(Plugin, RestoresWhatAFormFileSavedOfTheControl) {
+  const auto form = LoadForm(
+      "<property name=\"propertyBag\"><string>"
+      "{&quot;MYNAME&quot;:&quot;甲&quot;,&quot;UserID&quot;:&quot;sa&quot;,&quot;Default&quot;:"
+      "&quot;erp&quot;}</string></property>");
+  QWidget* control = ControlOf(*form);
+  EXPECT_EQ(control->property("myName").toString(), QString::fromUtf8("甲"));
+  EXPECT_EQ(control->property("Default").toString(), "erp");
+}
+
+TEST(Plugin, SavesIntoAStoreOfTheHostAndRestoresFromIt) {
+  const auto form = LoadForm("");
+  QWidget* control = ControlOf(*form);
+  control->setProperty("myName", QString::fromUtf8("乙"));
+  control->setProperty("UserName", QString::fromUtf8("张三"));
+  QVariantMap store;
+  ASSERT_TRUE(QMetaObject::invokeMethod(control, "SaveProperties", Q_RETURN_ARG(QVariantMap, store)));
+  EXPECT_EQ(store.value("myName").toString(), QString::fromUtf8("乙"));
+  EXPECT_EQ(store.value("UserName").toString(), QString::fromUtf8("张三"));
+  control->setProperty("myName", "");
+  ASSERT_TRUE(QMetaObject::invokeMethod(control, "RestoreProperties", Q_ARG(QVariantMap, store)));
+  EXPECT_EQ(control->property("myName").toString(), QString::fromUtf8("乙"));
+}
+
+TEST(Plugin, AnswersNothingForPropertiesThatAHostMayOnlyWrite) {
+  const auto form = LoadForm("");
+  QWidget* control = ControlOf(*form);
+  control->setProperty("Password", "secret");
+  control->setProperty("UserPath", "/data");
+  control->setProperty("AlertType", 5);
+  EXPECT_EQ(control->property("Password").toString(), "");
+  EXPECT_EQ(control->property("UserPath").toString(), "");
+  EXPECT_EQ(control->property("AlertType").toInt(), 0);
+}
+
+TEST(Plugin, MakesControlsForAHostThatLoadsItItself) {
+  QPluginLoader loader(QDir(QStringLiteral(QV_PLUGIN_DIR)).filePath("qv_Zj_Ocx.so"));
+  auto* factory = qobject_cast<QvZjFactory*>(loader.instance());
+  ASSERT_TRUE(factory) << qPrintable(loader.errorString());
+  QWidget screen;
+  QWidget* control = factory->CreateControl(&screen);
+  EXPECT_EQ(control->parent(), &screen);
+  EXPECT_TRUE(control->setProperty("Default", "erp"));
+  EXPECT_EQ(control->property("Default").toString(), "erp");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
