@@ -20,6 +20,8 @@ all   nlohmann-json3-dev   JSON texts and files of the script front end
 all   libxlsxwriter-dev    export of lists to Excel
 all   unixodbc-dev         database servers
 all   qt6-base-dev         the window, printing and PDF
+all   qt6-tools-dev        the plug-in for Qt Designer, and the form loader that tests it
+all   libqt6opengl6-dev    what the form loader's build files ask for
 run   fonts-noto-cjk       Chinese letters on a machine that has none
 test  libgtest-dev         the test framework
 test  fonts-noto-cjk       the window's tests measure Chinese text

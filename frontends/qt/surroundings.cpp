@@ -27,7 +27,10 @@ QtSurroundings::QtSurroundings(const QString& settings_file)
       pinyin_(IcuTextOrder::Pinyin()),
       stroke_(IcuTextOrder::Stroke()) {}
 
-QtSurroundings::~QtSurroundings() { QCoreApplication::removeTranslator(&translator_); }
+QtSurroundings::~QtSurroundings() {
+  // A plug-in is unloaded after the application object has gone.
+  if (QCoreApplication::instance()) QCoreApplication::removeTranslator(&translator_);
+}
 
 void QtSurroundings::Install() {
   QCoreApplication::installTranslator(&translator_);
