@@ -193,7 +193,7 @@ void PressAction(frmZj& form, int action) {
   LockEntry(form, action);
   if (!form.picAcnt.Visible()) {
     form.picAcnt.SetVisible(true);
-    LayoutForm(form);
+    LayoutEditor(form);
     form.SetFocus(form.txtAcnt2(1));
   }
   FocusForAction(form, action);

@@ -98,7 +98,7 @@ void Report(const frmZj& form, const Commit& commit) {
 
 void CancelEntry(frmZj& form) {
   form.picAcnt.SetVisible(false);
-  LayoutForm(form);
+  LayoutEditor(form);
   form.currentAction = kActionView;
   form.cmdAcntSave.SetTag(std::to_string(kActionView));
   // What was keyed and not saved must not come back with the next look at the entry.

@@ -1,6 +1,7 @@
 #include "screen/panels.h"
 
 #include <algorithm>
+#include <array>
 
 #include "screen/frmZj.h"
 
@@ -27,8 +28,6 @@ struct Split {
   Split(int32_t panel_width, int32_t count, int32_t widest)
       : width(std::min((panel_width - 2 * kPad - (count - 1) * kPad) / count, widest)) {}
   int32_t Left(int32_t column) const { return kPad + column * (width + kPad); }
-  /// Width of `columns` neighbouring ones.
-  int32_t Span(int32_t columns) const { return columns * width + (columns - 1) * kPad; }
   int32_t width;
 };
 
@@ -88,47 +87,81 @@ void ArrangeSearchPage(frmZj& form) {
   Place(form.txtSeekMsg, kGap, kTabStrip + kGap + top + kGap, width, 900);
 }
 
+namespace {
+
+constexpr int32_t kEntryLabel = 840;
+constexpr int32_t kEntryTop = 540;  // of the first line of fields, below the head line
+
+// The entry's three columns; the first one is never too narrow for both directions and the opening
+// mark side by side.
+struct EntryColumns {
+  explicit EntryColumns(int32_t panel_width) {
+    constexpr int32_t kDirections = 2640;
+    const int32_t inner = panel_width - 4 * kPad;
+    const int32_t first = std::clamp(inner / 3, kDirections, 4200);
+    const int32_t other = std::min((inner - first) / 2, 4200);
+    width = {first, other, other};
+    left = {kPad, 2 * kPad + first, 3 * kPad + first + other};
+  }
+  int32_t Right() const { return left[2] + width[2]; }
+  std::array<int32_t, 3> left;
+  std::array<int32_t, 3> width;
+};
+
+// What is being done and to which balance, who checked the entry, save and cancel.
+void ArrangeEntryHead(frmZj& form, const EntryColumns& column) {
+  constexpr int32_t kTop = 75;
+  constexpr int32_t kTitle = 840;
+  Place(form.lblAcntTitle, column.left[0], kTop, kTitle, kButton);
+  PlacePair(form.lblAcnt2(5), form.txtAcnt2(5), column.left[0] + kTitle, kTop + 30,
+            column.width[0] - kTitle, 480);
+  constexpr int32_t kName = 660;
+  Place(form.lblAcnt2(11), column.left[1], kTop, kName, kButton);
+  const int32_t checker = column.width[1] - kName - 100;
+  Place(form.lblSHR, column.left[1] + kName + 50, kTop + 45, checker, 300);
+  Place(form.fraSHR, column.left[1] + kName, kTop, checker + 100, kButton);
+  constexpr int32_t kWide = 1125;
+  Place(form.cmdAcntSave, column.Right() - 2 * kWide - kGap, kTop, kWide, kButton);
+  Place(form.cmdAcntCancel, column.Right() - kWide, kTop, kWide, kButton);
+}
+
+// The two directions and the opening mark, left of the amounts.
+void ArrangeDirection(frmZj& form, const EntryColumns& column, int32_t top) {
+  constexpr int32_t kOption = 720;
+  constexpr int32_t kFrame = 2 * kOption + kGap;
+  Place(form.fraType2, column.left[0], top, kFrame);
+  for (int i = 1; i <= 2; ++i) Place(form.optType2(i), kGap + (i - 1) * kOption, 0, kOption);
+  Place(form.chkAcntInit, column.left[0] + kFrame + kGap, top, column.width[0] - kFrame - kGap);
+}
+
+// Currency, rate, and the money account in all the room that is left: its names are long.
+void ArrangeMoney(frmZj& form, const EntryColumns& column, int32_t top) {
+  constexpr int32_t kRate = kEntryLabel + 840;
+  constexpr int32_t kAccount = 1110;
+  PlacePair(form.lblHb, form.cboHb, column.left[0], top, column.width[0], kEntryLabel);
+  PlacePair(form.lblHbRate, form.txtHbRate, column.left[1], top, kRate, kEntryLabel);
+  const int32_t left = column.left[1] + kRate + kPad;
+  PlacePair(form.chkAcntName, form.cboAcntName, left, top, column.Right() - left, kAccount);
+}
+
+}  // namespace
+
 void ArrangeEntryPanel(frmZj& form) {
-  const int32_t width = form.picAcnt.GetBounds().width;
-  const Split column(width, 3, 4200);
-  constexpr int32_t kLabel = 840;
-  const auto pair = [&](ui::Control& name, ui::Control& field, int row, int32_t first,
-                        int32_t columns = 1) {
-    PlacePair(name, field, column.Left(first), 540 + row * kRow, column.Span(columns), kLabel);
+  const EntryColumns column(form.picAcnt.GetBounds().width);
+  const auto top = [](int row) { return kEntryTop + row * kRow; };
+  const auto pair = [&](ui::Control& name, ui::Control& field, int row, size_t at) {
+    PlacePair(name, field, column.left[at], top(row), column.width[at], kEntryLabel);
   };
-
-  // Head line: what is being done, who checked the entry, save and cancel.
-  Place(form.lblAcntTitle, kPad, 75, 1500, kButton);
-  Place(form.lblAcnt2(11), column.Left(1), 75, 600, kButton);
-  Place(form.lblSHR, column.Left(1) + 660, 120, 1500, 300);
-  Place(form.fraSHR, column.Left(1) + 610, 75, 1600, kButton);
-  constexpr int32_t kWide = 1140;
-  const int32_t right = column.Left(2) + column.width;
-  Place(form.cmdAcntSave, right - 2 * kWide - kGap, 75, kWide, kButton);
-  Place(form.cmdAcntCancel, right - kWide, 75, kWide, kButton);
-
+  ArrangeEntryHead(form, column);
   pair(form.lblAcnt2(0), form.dtpAcntDate, 0, 0);
   pair(form.lblAcnt2(1), form.txtAcnt2(1), 0, 1);
   pair(form.lblAcnt2(2), form.txtAcnt2(2), 0, 2);
-
-  const int32_t second = 540 + kRow;
-  constexpr int32_t kOption = 660;
-  Place(form.fraType2, column.Left(0), second, 2 * kOption);
-  for (int i = 1; i <= 2; ++i) Place(form.optType2(i), (i - 1) * kOption, 0, kOption);
-  Place(form.chkAcntInit, column.Left(0) + 2 * kOption, second, column.width - 2 * kOption);
+  ArrangeDirection(form, column, top(1));
   pair(form.lblAcnt2(3), form.txtAcnt2(3), 1, 1);
   pair(form.lblAcnt2(4), form.txtAcnt2(4), 1, 2);
-
-  constexpr int32_t kCurrency = kLabel + 900;
-  constexpr int32_t kRate = 480;
-  const int32_t third = 540 + 2 * kRow;
-  PlacePair(form.lblHb, form.cboHb, column.Left(0), third, kCurrency, kLabel);
-  PlacePair(form.lblHbRate, form.txtHbRate, column.Left(0) + kCurrency + kPad, third,
-            column.width - kCurrency - kPad, kRate);
-  pair(form.lblAcnt2(5), form.txtAcnt2(5), 2, 1);
-  PlacePair(form.chkAcntName, form.cboAcntName, column.Left(2), third, column.width, 1080);
-
-  pair(form.lblAcnt2(6), form.txtAcnt2(6), 3, 0, 2);
+  ArrangeMoney(form, column, top(2));
+  PlacePair(form.lblAcnt2(6), form.txtAcnt2(6), column.left[0], top(3),
+            column.left[1] + column.width[1] - column.left[0], kEntryLabel);
   pair(form.lblAcnt2(7), form.txtAcnt2(7), 3, 2);
   pair(form.lblAcnt2(8), form.txtAcnt2(8), 4, 0);
   pair(form.lblAcnt2(9), form.txtAcnt2(9), 4, 1);

@@ -13,16 +13,23 @@ namespace qvzj::qt {
 
 namespace {
 
-/// The framed area under the tabs.
+/// The framed area under the tabs. A strip that has no pages of its own stands alone, without it.
 class TabArea : public QWidget {
  public:
   using QWidget::QWidget;
 
  protected:
   void paintEvent(QPaintEvent*) override {
+    if (!HasPages()) return;
     QPainter painter(this);
     const Colors& colors = ColorsFor(palette());
     DrawRounded(painter, rect(), colors.card, colors.border);
+  }
+
+ private:
+  // Everything in the area besides the bar itself is a page.
+  bool HasPages() const {
+    return findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).size() > 1;
   }
 };
 

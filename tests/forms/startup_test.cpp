@@ -233,6 +233,16 @@ TEST_F(StartUp, OpensAFreshFormAfterAClose) {
   EXPECT_TRUE(world.Open(0).OptSelect(2).Selected());
 }
 
+TEST_F(StartUp, MakesRoomForTheEditorInAWindowTooSmallToBeArranged) {
+  frmZj& form = world.Open(0);
+  form.UserResize(10000, 8000, ui::WindowState::Normal);
+  const int32_t top = form.Grid2.GetBounds().top;
+  ASSERT_TRUE(form.UserClick(form.cmdAction(kActionNew)));
+  EXPECT_EQ(form.Grid2.GetBounds().top, top + form.picAcnt.GetBounds().height + 60);
+  ASSERT_TRUE(form.UserClick(form.cmdAcntCancel));
+  EXPECT_EQ(form.Grid2.GetBounds().top, top);
+}
+
 TEST_F(StartUp, SetsTheDatesToToday) {
   frmZj& form = world.Open(0);
   EXPECT_EQ(form.dtpDate(0).Value(), basic::Date::FromYmd(2024, 3, 15));
