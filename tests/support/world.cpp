@@ -1,9 +1,6 @@
 #include "tests/support/world.h"
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
-
-#include <system_error>
 
 #include "platform/basic/text.h"
 #include "services/context.h"
@@ -11,17 +8,6 @@
 
 namespace qvzj::test {
 namespace fs = std::filesystem;
-
-TemporaryFolder::TemporaryFolder() {
-  std::string pattern = (fs::temp_directory_path() / "qvzj-test-XXXXXX").string();
-  if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot make a temporary folder");
-  path_ = pattern;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  fs::remove_all(path_, ignored);
-}
 
 World::World() {
   ResetShared();
@@ -96,9 +82,10 @@ std::vector<std::string> World::ColumnTexts(const ui::Grid& grid, int32_t column
 bool World::Type(ui::Control& box, std::string_view text) {
   ui::Form& form = box.GetForm();
   if (!form.UserFocus(box) || form.Focused() != &box) return false;
-  form.UserSelect(box, 0, basic::Len(dynamic_cast<ui::TextBox*>(&box)
-                                         ? static_cast<ui::TextBox&>(box).Text()
-                                         : static_cast<ui::ComboBox&>(box).Text()));
+  form.UserSelect(
+      box, 0,
+      basic::Len(dynamic_cast<ui::TextBox*>(&box) ? static_cast<ui::TextBox&>(box).Text()
+                                                  : static_cast<ui::ComboBox&>(box).Text()));
   if (text.empty()) return form.UserKey(ui::Key::Named(ui::Key::Name::Delete));
   for (char32_t code : basic::CodePoints(text)) form.UserKey(ui::Key::Character(code));
   return true;

@@ -10,21 +10,9 @@
 #include "control/qvJxc_Zj.h"
 #include "frontends/script/headless.h"
 #include "suite/connections.h"
+#include "tests/support/temporary_folder.h"
 
 namespace qvzj::test {
-
-/// A folder of its own that is gone with the object.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  const std::filesystem::path& Path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
 
 /// One world for one test: fresh shared values and headless surroundings, an empty database with
 /// the schema in a folder of its own, and a control that is allowed to open (rights, user

@@ -111,13 +111,12 @@ TEST_P(SessionContract, OrdersChineseByPinyinBetweenDigitsAndLatinLetters) {
   for (const char* name : {"张三", "b", "李四", "1", "阿明", "A", "王五"}) {
     AddCustomer(++id, "", name);
   }
-  EXPECT_EQ(Column("select compname from cards Order By compname"),
-            "1|阿明|李四|王五|张三|A|b");
+  EXPECT_EQ(Column("select compname from cards Order By compname"), "1|阿明|李四|王五|张三|A|b");
 }
 
 TEST_P(SessionContract, OrdersNullsBeforeEverythingElse) {
   AddCustomer(1, "a", "甲");
-  Do("Insert Into cards (fID) Values (2)");
+  Do("Insert Into cards (fID,fType0) Values (2,null)");
   EXPECT_EQ(Column("select fID from cards Order By CompCode"), "2|1");
   EXPECT_EQ(Column("select fID from cards Order By CompCode desc"), "1|2");
   EXPECT_EQ(Column("select fID from cards Order By fType0"), "2|1");
@@ -202,11 +201,11 @@ TEST_P(SessionContract, FindsADocumentThatHasAChecker) {
   Do("Insert Into tJXC_CkDj01 (fID,fInvNo,fInvSHR) Values (1,'CK1',null)");
   Do("Insert Into tJXC_CkDj01 (fID,fInvNo,fInvSHR) Values (2,'CK2','')");
   Do("Insert Into tJXC_CkDj01 (fID,fInvNo,fInvSHR) Values (3,'CK3','李四')");
-  const std::string checked = GetParam().desktop ? " And '' & fInvSHR<>''"
-                                                 : " And (not fInvSHR is null) And fInvSHR<>''";
+  const std::string checked =
+      GetParam().desktop ? " And '' & fInvSHR<>''" : " And (not fInvSHR is null) And fInvSHR<>''";
   for (const auto& [number, count] : {std::pair{"CK1", "0"}, {"CK2", "0"}, {"ck3", "1"}}) {
-    EXPECT_EQ(Column(std::string("select count(*) from tJXC_CkDj01 Where fInvNo='") + number +
-                     "'" + checked),
+    EXPECT_EQ(Column(std::string("select count(*) from tJXC_CkDj01 Where fInvNo='") + number + "'" +
+                     checked),
               count);
   }
 }

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 
 #include "platform/data/connection.h"
@@ -24,6 +25,8 @@ struct ContractEngine {
   bool desktop;
   std::function<std::unique_ptr<ContractDatabase>()> make;
 };
+
+inline void PrintTo(const ContractEngine& engine, std::ostream* out) { *out << engine.name; }
 
 class SessionContract : public testing::TestWithParam<ContractEngine> {
  protected:
