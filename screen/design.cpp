@@ -45,6 +45,8 @@ constexpr std::array<int32_t, 18> kLedgerWidths = {1110, 1410, 1800, 1395, 1395,
                                                    800,  600,  600,  800,  800,  800};
 
 void DesignRegister(frmZj& form) {
+  form.lblKhName.SetHeading(true);
+  form.fraSeekKh.SetOutlined(false);
   form.mnuKh.SetCaption("客户");
   form.mnuSep1.SetCaption("-");
   form.lblKhMemo.SetCaption("客户详情：");
@@ -76,6 +78,8 @@ void DesignRegister(frmZj& form) {
 }
 
 void DesignEditor(frmZj& form) {
+  form.lblAcntTitle.SetHeading(true);
+  form.fraType2.SetOutlined(false);
   form.lblAcnt2(5).SetCaption("余额");
   const std::array columns = {"fBrief", "fInvID", "fOrderID", "fUser"};
   const std::array<int16_t, 4> bytes = {50, 20, 20, 20};

@@ -9,7 +9,7 @@ namespace qvzj {
 namespace {
 
 constexpr int32_t kPad = 120;       // inside a frame, left and right
-constexpr int32_t kFrameTop = 120;  // below a frame's line without a caption
+constexpr int32_t kFrameTop = 195;  // below a frame's line without a caption
 
 void Place(ui::Control& control, int32_t left, int32_t top, int32_t width,
            int32_t height = kField) {
@@ -90,7 +90,7 @@ void ArrangeSearchPage(frmZj& form) {
 namespace {
 
 constexpr int32_t kEntryLabel = 840;
-constexpr int32_t kEntryTop = 540;  // of the first line of fields, below the head line
+constexpr int32_t kEntryTop = 600;  // of the first line of fields, below the head line
 
 // The entry's three columns; the first one is never too narrow for both directions and the opening
 // mark side by side.
@@ -110,7 +110,7 @@ struct EntryColumns {
 
 // What is being done and to which balance, who checked the entry, save and cancel.
 void ArrangeEntryHead(frmZj& form, const EntryColumns& column) {
-  constexpr int32_t kTop = 75;
+  constexpr int32_t kTop = 150;
   constexpr int32_t kTitle = 840;
   Place(form.lblAcntTitle, column.left[0], kTop, kTitle, kButton);
   PlacePair(form.lblAcnt2(5), form.txtAcnt2(5), column.left[0] + kTitle, kTop + 30,

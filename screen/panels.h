@@ -16,10 +16,10 @@ inline constexpr int32_t kButton = 390;    ///< height of a button
 inline constexpr int32_t kRow = 390;       ///< from one line of fields to the next
 
 // Heights that the panels need for their contents.
-inline constexpr int32_t kOrderHeight = 960;
-inline constexpr int32_t kEditorHeight = 2520;
-inline constexpr int32_t kTotalHeight = 960;
-inline constexpr int32_t kFilterHeight = 1710;
+inline constexpr int32_t kOrderHeight = 1035;
+inline constexpr int32_t kEditorHeight = 2595;
+inline constexpr int32_t kTotalHeight = 1035;
+inline constexpr int32_t kFilterHeight = 1785;
 
 /// Each arranges a panel's contents within the panel's present size.
 void ArrangeOrder(frmZj& form);

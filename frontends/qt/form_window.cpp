@@ -42,9 +42,10 @@ void FormWindow::Detach() {
 
 bool FormWindow::Resizable() const { return Live() && form_->onResize != nullptr; }
 
+bool FormWindow::Traditional() const { return options_.language && options_.language() == 1; }
+
 void FormWindow::ApplyTheme() {
-  const bool traditional = options_.language && options_.language() == 1;
-  setFont(ThemeFont(traditional));
+  setFont(ThemeFont(Traditional()));
   setPalette(ThemePalette(Appearance::System));
   setStyle(ThemeStyle());
 }

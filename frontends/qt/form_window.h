@@ -50,6 +50,8 @@ class FormWindow : public QWidget, private ui::FormObserver {
   /// The view of a control; null for menu entries.
   ControlView* ViewOf(const ui::Control& control) const;
   const std::vector<std::unique_ptr<ControlView>>& Views() const { return views_; }
+  /// True when the module speaks traditional Chinese.
+  bool Traditional() const;
   /// True for a form that arranges itself to its window; others are dialogs of fixed size.
   bool Resizable() const;
 

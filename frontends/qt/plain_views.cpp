@@ -76,6 +76,12 @@ LabelView::LabelView(FormWindow& window, ui::Label& label, QWidget* parent)
   label_->setFocusPolicy(Qt::NoFocus);
   label_->setTextFormat(Qt::PlainText);
   label_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  if (label.Heading()) {
+    QFont font = ThemeFont(window.Traditional());
+    font.setPointSizeF(font.pointSizeF() + 2);
+    font.setBold(true);
+    label_->setFont(font);
+  }
 }
 
 QWidget* LabelView::Widget() const { return label_; }
@@ -190,14 +196,35 @@ bool OptionView::IsModelKey(const ui::Key& key) const { return IsButtonKey(key);
 
 void Panel::SetTitle(const QString& title) {
   title_ = title;
+  LeaveTop();
   update();
 }
 
+int Panel::LineTop() const {
+  constexpr int kUntitled = 6;
+  if (!title_.isEmpty()) return fontMetrics().height() / 2;
+  // A panel of one line is the outline of something beside it.
+  return outlined_ && height() > 2 * fontMetrics().height() ? kUntitled : 0;
+}
+
+void Panel::LeaveTop() {
+  if (title_.isEmpty() && LineTop() > 0) {
+    setMask(rect().adjusted(0, LineTop(), 0, 0));
+  } else {
+    clearMask();
+  }
+}
+
+void Panel::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  LeaveTop();
+}
+
 void Panel::paintEvent(QPaintEvent*) {
+  if (!outlined_) return;
   QPainter painter(this);
   const Colors& colors = ColorsFor(palette());
-  const int half = title_.isEmpty() ? 0 : fontMetrics().height() / 2;
-  DrawRounded(painter, rect().adjusted(0, half, 0, 0), colors.card, colors.border);
+  DrawRounded(painter, rect().adjusted(0, LineTop(), 0, 0), colors.card, colors.border);
   if (title_.isEmpty()) return;
   const int width = fontMetrics().horizontalAdvance(title_);
   const QRect place(8, 0, width + 8, fontMetrics().height());
@@ -207,7 +234,7 @@ void Panel::paintEvent(QPaintEvent*) {
 }
 
 FrameView::FrameView(FormWindow& window, ui::Frame& frame, QWidget* parent)
-    : ControlView(window, frame), panel_(new Panel(parent)) {
+    : ControlView(window, frame), panel_(new Panel(frame.Outlined(), parent)) {
   Adopt(panel_);
   panel_->setFocusPolicy(Qt::NoFocus);
 }

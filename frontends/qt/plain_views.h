@@ -83,16 +83,23 @@ class OptionView : public ControlView {
   QRadioButton* native_;
 };
 
-/// A panel with a quiet outline; a caption stands in its upper edge.
+/// A panel with a quiet outline; a caption stands in its upper edge. The outline's upper side runs
+/// a little below the panel's own edge, and what lies above it belongs to the neighbour: forms let
+/// panels overlap by that much.
 class Panel : public QWidget {
  public:
-  using QWidget::QWidget;
+  Panel(bool outlined, QWidget* parent) : QWidget(parent), outlined_(outlined) {}
   void SetTitle(const QString& title);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  int LineTop() const;
+  void LeaveTop();
+
+  bool outlined_;
   QString title_;
 };
 

@@ -14,6 +14,8 @@ namespace {
 constexpr int16_t kModes[] = {0, 1};
 constexpr int16_t kLanguages[] = {0, 1};
 
+constexpr QSize kShotSize(1200, 760);
+
 class Camera {
  public:
   Camera(DemoHost& host, const QString& folder) : host_(host), folder_(folder) {}
@@ -23,6 +25,8 @@ class Camera {
     frmZj* form = host_.Control().Form();
     qt::FormWindow* window = form == nullptr ? nullptr : host_.Windows().WindowOf(*form);
     if (window == nullptr) return false;
+    window->resize(kShotSize);
+    QApplication::processEvents();
     const QString file = QDir(folder_).absoluteFilePath(name + ".png");
     // Few colours make a small file, and flat drawing loses nothing by it.
     const bool written = window->grab().toImage().save(file, "PNG", 10);
@@ -48,9 +52,10 @@ bool ShootScreens(DemoHost& host, Camera& camera, int16_t mode, const QString& n
   good = camera.Shoot(name + "-record") && good;
   form->UserClick(form->cmdKhMemo);
   form->UserTab(form->SSTab1, 2);
+  good = camera.Shoot(name + "-search") && good;
   form->UserClick(form->OptSelect(0));
   form->UserClick(form->cmdAcntRefresh);
-  good = camera.Shoot(name + "-search") && good;
+  good = camera.Shoot(name + "-all") && good;
   host.Close();
   return good;
 }

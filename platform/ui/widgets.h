@@ -17,6 +17,13 @@ class Label : public Control {
  public:
   Label(Form& form, std::string name, int index = -1, Control* container = nullptr, int page = -1)
       : Control(form, Kind::Label, std::move(name), index, container, page) {}
+
+  /// Names what a part of the form shows; front ends set it apart from the captions of fields.
+  bool Heading() const { return heading_; }
+  void SetHeading(bool heading) { heading_ = heading; }
+
+ private:
+  bool heading_ = false;
 };
 
 class Button : public Control {
@@ -35,6 +42,13 @@ class Frame : public Control {
  public:
   Frame(Form& form, std::string name, int index = -1, Control* container = nullptr, int page = -1)
       : Control(form, Kind::Frame, std::move(name), index, container, page) {}
+
+  /// False for a frame that only groups what it holds.
+  bool Outlined() const { return outlined_; }
+  void SetOutlined(bool outlined) { outlined_ = outlined; }
+
+ private:
+  bool outlined_ = true;
 };
 
 /// What text boxes and editable combo boxes share: a text with a selection. Positions and lengths
