@@ -17,7 +17,7 @@ inline constexpr int32_t kRow = 390;       ///< from one line of fields to the n
 
 // Heights that the panels need for their contents.
 inline constexpr int32_t kOrderHeight = 1035;
-inline constexpr int32_t kEditorHeight = 2595;
+inline constexpr int32_t kEditorHeight = 2580;
 inline constexpr int32_t kTotalHeight = 1035;
 inline constexpr int32_t kFilterHeight = 1785;
 
