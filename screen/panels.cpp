@@ -226,7 +226,7 @@ void ArrangeDetail(frmZj& form) {
   const ui::Bounds& frame = form.fraKhMemo.GetBounds();
   constexpr int32_t kWide = 1140;
   const int32_t right = frame.width - kPad;
-  constexpr int32_t kTop = 90;
+  constexpr int32_t kTop = 150;
   Place(form.cmdCancel, right - kWide, kTop, kWide, kButton);
   Place(form.cmdSave, right - 2 * kWide - kGap, kTop, kWide, kButton);
   Place(form.lblKhMemo, kPad, kTop, frame.width - 2 * kPad - 2 * (kWide + kGap), kButton);
