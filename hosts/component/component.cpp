@@ -7,6 +7,7 @@ namespace qvzj {
 
 Component::Component(const QString& settings_file)
     : surroundings_(settings_file),
+      connections_({.language = [] { return int{Shared().Language}; }}),
       pages_(qt::ThemeFont(false), [] { return Shared().Language == 1; }) {
   surroundings_.Install();
   Surroundings& around = Around();

@@ -9,6 +9,7 @@
 #include "adapters/sqlite/sqlite_session.h"
 #include "control/qvJxc_Zj.h"
 #include "frontends/script/headless.h"
+#include "services/context.h"
 #include "suite/connections.h"
 #include "tests/support/temporary_folder.h"
 
@@ -54,7 +55,7 @@ class World {
 
   TemporaryFolder folder;
   Headless headless;
-  SuiteConnections connections;
+  SuiteConnections connections{{.language = [] { return int{Shared().Language}; }}};
   qvJxc_Zj control;
 
  private:
