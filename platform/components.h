@@ -62,10 +62,10 @@ struct UserCall {
   std::string user_name;    ///< in and out; still empty after a login that failed
   int16_t flag = 0;
   std::string function;     ///< record access: what was opened
-  std::string my_power;     ///< out
-  std::string zg_name;      ///< out
-  std::string login_model;  ///< out
-  std::string login_info;   ///< out
+  std::string my_power;     ///< login: in and out, as are the rest
+  std::string zg_name;
+  std::string login_model;
+  std::string login_info;
 };
 
 class UserComponent {

@@ -38,6 +38,12 @@ bool LoggedIn() {
   call.rights_file = StripSlash(shared.PowerPath) + "\\qvSet.mdb";
   call.comp_name = shared.CompName;
   call.flag = 1;
+  // A login that is given up hands these back as they were: were the exempt user's name emptied,
+  // it would equal the missing user's, and the next opening would ask no gate at all.
+  call.my_power = shared.myPower;
+  call.zg_name = shared.ZgName;
+  call.login_model = shared.LoginModel;
+  call.login_info = shared.LoginInfo;
   User().Run(call);
   shared.UserPath = shared.SQLData == 0 ? call.access.user_path : "SQL Server";
   shared.LoginModel = call.login_model;

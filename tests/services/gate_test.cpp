@@ -197,6 +197,17 @@ TEST(ModuleGate, PutsAFixedTextIntoThePathAfterALoginInServerMode) {
   EXPECT_EQ(Shared().UserPath, "SQL Server");
 }
 
+TEST(ModuleGate, LeavesTheExemptUserAndTheRightsWhenTheLoginIsCancelled) {
+  GateWorld world;
+  Shared().UserName = "";
+  Shared().ZgName = "boss";
+  Shared().myPower = "011";
+  world.user.cancelled = true;
+  ModuleGate("mnuCard", 0, false);
+  EXPECT_EQ(Shared().ZgName, "boss");
+  EXPECT_EQ(Shared().myPower, "011");
+}
+
 TEST(ModuleGate, AnswersMinusThousandWhenTheLoginIsCancelled) {
   GateWorld world;
   world.user.cancelled = true;
