@@ -35,6 +35,12 @@ frmList::frmList() : ui::Form("frmList") {
     Unload();
   };
   List1.onDblClick = cmdLogOK.onClick;
+  List1.onKeyPress = [this](int& key) {
+    const bool accepts = key == ui::kKeyEnter;
+    if (!accepts && key != ui::kKeyEscape) return;
+    key = 0;
+    (accepts ? cmdLogOK : cmdCancel).onClick();
+  };
   cmdCancel.onClick = [this] {
     // These callers read the result even after a cancel.
     if (kind_ > 3) Shared().myName.clear();
@@ -58,6 +64,7 @@ void frmList::Load() {
   List1.SetItems(std::move(items));
   List1.SetAccessibleName(ui::ShownCaption(lblList.Caption()));
   SetLoaded(true);
+  SetFocus(List1);
 }
 
 }  // namespace qvzj

@@ -51,6 +51,27 @@ TEST_F(PickList, AnswersTheItemThatIsDoubleClicked) {
   EXPECT_EQ(Shared().myName, "李四");
 }
 
+TEST_F(PickList, IsWorkedByTheKeyboardAlone) {
+  frmList list;
+  list.Load();
+  EXPECT_EQ(list.Focused(), &list.List1);
+  list.UserKey(ui::Key::Named(ui::Key::Name::Down));
+  list.UserKey(ui::Key::Named(ui::Key::Name::Down));
+  list.UserKey(ui::Key::Named(ui::Key::Name::Enter));
+  EXPECT_EQ(Shared().myName, "李四");
+  EXPECT_FALSE(list.Loaded());
+}
+
+TEST_F(PickList, IsLeftWithEscapeAsWithCancel) {
+  Shared().myName = "earlier";
+  frmList list;
+  list.Kind(4);
+  list.Load();
+  list.UserKey(ui::Key::Named(ui::Key::Name::Escape));
+  EXPECT_EQ(Shared().myName, "");
+  EXPECT_FALSE(list.Loaded());
+}
+
 TEST_F(PickList, AnswersNothingWhenNothingIsSelected) {
   Shared().myName = "earlier";
   frmList list;

@@ -169,6 +169,17 @@ TEST_F(StartUp, GatesTheAccountRegisterByItsOwnFunctionAndNotItsAdding) {
   EXPECT_TRUE(form.mnuKhManage(1).Enabled());
 }
 
+TEST_F(StartUp, AsksForTheLoginOnceWhenItIsBrokenOff) {
+  world.control.setUserName("");
+  AddFunctions({"mnuZjComp", "mnuCard", "mnuCardPlan", "mnuCardPrint"});
+  frmZj& form = world.Open(0);
+  EXPECT_EQ(world.headless.user.calls.size(), 1u);
+  EXPECT_FALSE(form.cmdManage.Enabled());
+  EXPECT_FALSE(form.mnuKhManage(1).Enabled());
+  EXPECT_FALSE(form.mnuKhContact.Enabled());
+  EXPECT_FALSE(form.cmdKhPrint.Enabled());
+}
+
 TEST_F(StartUp, OpensOnTheCustomerThatTheHostNamed) {
   world.control.setMyTaskID(2);
   world.control.setMyName("华东");

@@ -56,6 +56,24 @@ TEST_F(RegisterList, LimitsTheRegisterToRecordsWithLedgerEntries) {
   EXPECT_EQ(Names(), (Texts{"华东电子"}));
 }
 
+TEST_F(RegisterList, ListsARecordOnceHoweverManyEntriesItHas) {
+  AddEntries(kCustomers, 1, 5);
+  AddEntries(kCustomers, 3, 2);
+  frmZj& form = Customers();
+  form.chkSeek2.SetValue(1);
+  LoadRegister(form, "");
+  EXPECT_EQ(Names(), (Texts{"大地五金", "北方贸易"}));
+}
+
+TEST_F(RegisterList, ListsOneEmptyRowForEntriesWhoseRecordIsGone) {
+  AddEntries(kCustomers, 99, 2);
+  frmZj& form = Customers();
+  form.chkSeek2.SetValue(1);
+  LoadRegister(form, "");
+  EXPECT_EQ(Names(), (Texts{""}));
+  EXPECT_EQ(form.lblKhName.Tag(), "0");
+}
+
 TEST_F(RegisterList, JoinsTheRegisterConditionToTheLedgerFilter) {
   AddEntries(kCustomers, 2, 1);
   frmZj& form = Customers();
