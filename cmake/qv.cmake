@@ -16,7 +16,14 @@ endif()
 
 add_library(qv_flags INTERFACE)
 target_include_directories(qv_flags INTERFACE ${PROJECT_SOURCE_DIR})
-target_compile_options(qv_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+target_compile_options(qv_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+if(QV_WERROR)
+  target_compile_options(qv_flags INTERFACE -Werror)
+endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # Up to version 12, joining a literal and a text warns falsely when it is optimised (GCC 105651).
+  target_compile_options(qv_flags INTERFACE -Wno-restrict)
+endif()
 if(QV_SANITIZE)
   target_compile_options(qv_flags INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
                                             -fno-sanitize-recover=all)
