@@ -16,19 +16,11 @@ std::string CardAddingFunction() {
   return basic::Val(count) > 0 ? "mnuCardAdd" : "mnuCard";
 }
 
-/// Asks one function after another. A user who breaks the login off has said no once and is not
-/// asked again by the next function: nothing is granted to nobody.
-class Gates {
- public:
-  void Ask(ui::Control& control, const std::string& function) {
-    const bool granted = !refused_ && ModuleGate(function, 0, false) > 0;
-    control.SetEnabled(granted);
-    refused_ = Shared().UserName.empty();
-  }
-
- private:
-  bool refused_ = false;
-};
+// Where nobody is logged in yet, the gate lets the user log in first; each function asks for
+// itself.
+void Ask(ui::Control& control, const std::string& function) {
+  control.SetEnabled(ModuleGate(function, 0, false) > 0);
+}
 
 void EnableAll(frmZj& form) {
   form.cmdManage.SetEnabled(true);
@@ -42,11 +34,10 @@ void EnableAll(frmZj& form) {
 void ApplyGates(frmZj& form) {
   EnableAll(form);
   if (Shared().UserName == Shared().ZgName) return;
-  Gates gates;
-  gates.Ask(form.cmdManage, form.mode == kCustomers ? "mnuZjComp" : "mnuZjAcnt");
-  if (form.mode == kCustomers) gates.Ask(form.mnuKhManage(1), CardAddingFunction());
-  gates.Ask(form.mnuKhContact, "mnuCardPlan");
-  gates.Ask(form.cmdKhPrint, "mnuCardPrint");
+  Ask(form.cmdManage, form.mode == kCustomers ? "mnuZjComp" : "mnuZjAcnt");
+  if (form.mode == kCustomers) Ask(form.mnuKhManage(1), CardAddingFunction());
+  Ask(form.mnuKhContact, "mnuCardPlan");
+  Ask(form.cmdKhPrint, "mnuCardPrint");
 }
 
 }  // namespace qvzj
