@@ -58,9 +58,9 @@ void frmLogin::WriteCaptions(int16_t language) {
 
 void frmLogin::Place() {
   SetSize(4800, 2250);
-  lblUser.SetBounds({300, 345, 1050, 300});
+  lblUser.SetBounds({300, 322, 1050, 300});
   txtUser.SetBounds({1410, 300, 3090, 345});
-  lblPassword.SetBounds({300, 900, 1050, 300});
+  lblPassword.SetBounds({300, 877, 1050, 300});
   txtPassword.SetBounds({1410, 855, 3090, 345});
   txtPassword.SetMasked(true);
   cmdOK.SetBounds({1410, 1575, 1470, 420});

@@ -45,9 +45,9 @@ void frmTask::Place() {
   Grid1.SetColumnWidth(kDate, 1350);
   Grid1.SetColumnWidth(kUser, 1350);
   Grid1.SetColumnWidth(kText, 5700);
-  lblDate.SetBounds({120, 3900, 1350, 300});
+  lblDate.SetBounds({120, 3877, 1350, 300});
   dtpDate.SetBounds({1560, 3855, 1950, 345});
-  lblBrief.SetBounds({120, 4380, 1350, 300});
+  lblBrief.SetBounds({120, 4357, 1350, 300});
   txtBrief.SetBounds({1560, 4335, 7320, 1560});
   txtBrief.SetMultiLine(true);
   int32_t left = 2940;

@@ -14,6 +14,8 @@ Component::Component(const QString& settings_file)
   around.connections = &connections_;
   around.print = &print_;
   around.exporter = &exporter_;
+  around.user = &user_;
+  around.task = &task_;
 }
 
 }  // namespace qvzj

@@ -7,6 +7,8 @@
 #include "suite/connections.h"
 #include "suite/export/suite_exporter.h"
 #include "suite/print/suite_print.h"
+#include "suite/task.h"
+#include "suite/user.h"
 
 namespace qvzj {
 
@@ -28,6 +30,10 @@ class Component {
   SystemClock clock_;
   SuitePrint print_{pages_, clock_};
   SuiteExporter exporter_;
+  FormLogin login_;
+  SystemTryClock try_clock_;
+  SuiteUser user_{login_, try_clock_};
+  SuiteTask task_;
 };
 
 }  // namespace qvzj

@@ -1,18 +1,40 @@
 #include "hosts/demo/demo_host.h"
 
+#include <filesystem>
+
 #include "frontends/qt/text.h"
+#include "platform/surroundings.h"
+#include "suite/user_rights.h"
 
 namespace qvzj::demo {
 
 DemoHost::DemoHost(const QString& data, const QString& settings_file)
-    : component_(settings_file) {
+    : component_(settings_file), data_(qt::ToUtf8(data)) {
   control_.InitProperties();
-  control_.setUserPath(qt::ToUtf8(data));
+  control_.setUserPath(data_);
   control_.setSQLData(0);
   control_.setMyModel("11111111111");
   control_.setUserName("admin");
   control_.setZgName("admin");
   control_.setCompName("示例贸易有限公司");
+}
+
+bool DemoHost::LogIn() {
+  const std::filesystem::path rights = std::filesystem::path(data_) / kRightsFile;
+  if (!std::filesystem::exists(rights)) return true;
+  UserCall call;
+  call.action = UserCall::kLogin;
+  call.language = language_;
+  call.access.user_path = data_;
+  call.rights_file = rights.string();
+  Around().user->Run(call);
+  if (call.user_name.empty()) return false;
+  control_.setUserName(call.user_name);
+  control_.setZgName(call.zg_name);
+  control_.setMyPower(call.my_power);
+  control_.setPowerPath(data_);
+  if (!call.comp_name.empty()) control_.setCompName(call.comp_name);
+  return true;
 }
 
 void DemoHost::Open(int16_t run_mode) {

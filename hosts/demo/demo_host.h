@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <functional>
+#include <string>
 
 #include "control/qvJxc_Zj.h"
 #include "hosts/component/component.h"
@@ -14,6 +15,9 @@ class DemoHost {
   /// `data` is the folder of the data file.
   explicit DemoHost(const QString& data, const QString& settings_file = {});
 
+  /// Logs a user in where the data folder holds a rights database (made by qvdb user); false when
+  /// the user gives up. Without one the demo's "admin" works and may do everything.
+  bool LogIn();
   /// Opens the control in a run mode; an open one in another mode or language is closed first.
   void Open(int16_t run_mode);
   void Close();
@@ -26,6 +30,7 @@ class DemoHost {
 
  private:
   Component component_;
+  std::string data_;
   qvJxc_Zj control_;
   int16_t language_ = 0;
   int16_t open_mode_ = -1;  // run mode of the open screen

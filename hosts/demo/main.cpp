@@ -31,6 +31,7 @@ int main(int argc, char** argv) {
     std::fputs("qvzj-demo: the screens could not be drawn\n", stderr);
     return 1;
   }
+  if (!host.LogIn()) return 0;
   qvzj::demo::SuiteWindow window(host);
   window.show();
   return QApplication::exec();
