@@ -111,7 +111,7 @@ struct EntryColumns {
 // What is being done and to which balance, who checked the entry, save and cancel.
 void ArrangeEntryHead(frmZj& form, const EntryColumns& column) {
   constexpr int32_t kTop = 150;
-  constexpr int32_t kTitle = 840;
+  constexpr int32_t kTitle = 990;
   Place(form.lblAcntTitle, column.left[0], kTop, kTitle, kButton);
   PlacePair(form.lblAcnt2(5), form.txtAcnt2(5), column.left[0] + kTitle, kTop + 30,
             column.width[0] - kTitle, 480);
