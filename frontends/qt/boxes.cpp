@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPainter>
+#include <QPointer>
 #include <QPushButton>
 
 #include "frontends/qt/native_texts.h"
@@ -17,19 +19,45 @@ constexpr int kIconMask = 0x70;
 constexpr int kOkCancel = 1;
 constexpr int kYesNo = 4;
 
-QMessageBox::Icon IconOf(int style) {
+struct Sign {
+  QColor color;
+  QString mark;
+};
+
+/// What a box shows beside its text; no mark for a plain one.
+Sign SignOf(int style) {
   switch (style & kIconMask) {
     case 16:
-      return QMessageBox::Critical;
+      return {QColor(0xc0272d), "×"};
     case 32:
-      return QMessageBox::Question;
+      return {QColor(0x2563b8), "?"};
     case 48:
-      return QMessageBox::Warning;
+      return {QColor(0xb7791f), "!"};
     case 64:
-      return QMessageBox::Information;
+      return {QColor(0x2563b8), "i"};
     default:
-      return QMessageBox::NoIcon;
+      return {};
   }
+}
+
+/// A round sign, drawn so that it is sharp at the screen's scaling.
+QPixmap Draw(const Sign& sign, const QWidget& on) {
+  constexpr int kSize = 32;
+  QPixmap pixmap(QSize(kSize, kSize) * on.devicePixelRatio());
+  pixmap.setDevicePixelRatio(on.devicePixelRatio());
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(sign.color);
+  painter.drawEllipse(QRectF(1, 1, kSize - 2, kSize - 2));
+  QFont font = ThemeFont(false);
+  font.setPixelSize(20);
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(Qt::white);
+  painter.drawText(QRectF(0, 0, kSize, kSize), Qt::AlignCenter, sign.mark);
+  return pixmap;
 }
 
 /// The window that a box belongs to: the one in front, whichever part of it is active.
@@ -49,11 +77,13 @@ void QtBoxes::Dress(QDialog& dialog) const {
 
 Answer QtBoxes::Show(const std::string& text, int style, const std::string& title) {
   const NativeTexts& texts = TextsOf(language_());
-  QMessageBox box(Owner());
+  const QPointer<QWidget> owner = Owner();
+  QMessageBox box(owner);
   box.setWindowTitle(FromUtf8(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(FromUtf8(text));
-  box.setIcon(IconOf(style));
+  const Sign sign = SignOf(style);
+  if (!sign.mark.isEmpty()) box.setIconPixmap(Draw(sign, box));
 
   const int buttons = style & box::kButtonsMask;
   const bool yes_no = buttons == kYesNo;
@@ -66,6 +96,7 @@ Answer QtBoxes::Show(const std::string& text, int style, const std::string& titl
   box.setEscapeButton(reject != nullptr ? reject : accept);
   Dress(box);
   box.exec();
+  if (owner) owner->activateWindow();
 
   const bool accepted = reject == nullptr || box.clickedButton() == accept;
   if (yes_no) return accepted ? Answer::Yes : Answer::No;
@@ -75,7 +106,8 @@ Answer QtBoxes::Show(const std::string& text, int style, const std::string& titl
 std::optional<std::string> QtBoxes::Input(const std::string& prompt, const std::string& title,
                                           const std::string& preset) {
   const NativeTexts& texts = TextsOf(language_());
-  QInputDialog dialog(Owner());
+  const QPointer<QWidget> owner = Owner();
+  QInputDialog dialog(owner);
   dialog.setWindowTitle(FromUtf8(title));
   dialog.setLabelText(FromUtf8(prompt));
   dialog.setTextValue(FromUtf8(preset));
@@ -83,7 +115,9 @@ std::optional<std::string> QtBoxes::Input(const std::string& prompt, const std::
   dialog.setCancelButtonText(texts.cancel);
   dialog.setMinimumWidth(360);
   Dress(dialog);
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  if (owner) owner->activateWindow();
+  if (!accepted) return std::nullopt;
   return ToUtf8(dialog.textValue());
 }
 

@@ -61,6 +61,7 @@ SuiteWindow::SuiteWindow(DemoHost& host)
 void SuiteWindow::Caption() {
   const bool traditional = host_.Language() == 1;
   setFont(qt::ThemeFont(traditional));
+  setPalette(qt::ThemePalette(qt::Appearance::System));
   setWindowTitle(Said(traditional, "示例进销存", "示例進銷存"));
   title_->setText(Said(traditional, "示例贸易有限公司", "示例貿易有限公司"));
   customers_->setText(Said(traditional, "客户往来帐", "客戶往來帳"));
@@ -77,6 +78,7 @@ void SuiteWindow::ChooseAppearance(int index) {
     QApplication::setPalette(
         qt::ThemePalette(index == 1 ? qt::Appearance::Light : qt::Appearance::Dark));
   }
+  setPalette(qt::ThemePalette(qt::Appearance::System));
 }
 
 void SuiteWindow::closeEvent(QCloseEvent* event) {

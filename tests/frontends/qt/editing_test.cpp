@@ -1,0 +1,181 @@
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QInputMethodEvent>
+
+#include "tests/frontends/qt/window_world.h"
+
+namespace qvzj::test {
+namespace {
+
+/// The editor open on a new entry.
+class Editing : public ::testing::Test {
+ protected:
+  Editing() : form_(world_.Show()) {
+    form_.UserClick(form_.cmdAction(1));
+    world_.Settle();
+  }
+
+  QLineEdit& Enter(ui::TextBox& box) {
+    form_.UserFocus(box);
+    world_.Settle();
+    return world_.Line(box);
+  }
+  /// What an input method hands over when a word is chosen.
+  static void Commit(QLineEdit& line, const char* text) {
+    QInputMethodEvent event;
+    event.setCommitString(QString::fromUtf8(text));
+    QApplication::sendEvent(&line, &event);
+  }
+
+  WindowWorld world_;
+  frmZj& form_;
+};
+
+TEST_F(Editing, TakesTypedTextIntoTheForm) {
+  QLineEdit& line = Enter(form_.txtAcnt2(6));
+  QTest::keyClicks(&line, "abc");
+  EXPECT_EQ(form_.txtAcnt2(6).Text(), "abc");
+  EXPECT_EQ(world_.Text(line), "abc");
+}
+
+TEST_F(Editing, DropsKeysThatTheFormRefuses) {
+  QLineEdit& line = Enter(form_.txtHbRate);
+  form_.txtHbRate.SelectAll();
+  QTest::keyClicks(&line, "1x.5y");
+  EXPECT_EQ(form_.txtHbRate.Text(), "1.5");
+  EXPECT_EQ(world_.Text(line), "1.5");
+}
+
+TEST_F(Editing, CutsWhatAnInputMethodBringsToTheFieldsBytes) {
+  QLineEdit& line = Enter(form_.txtAcnt2(1));
+  line.clear();
+  form_.txtAcnt2(1).SetText("");
+  Commit(line, "一二三四五六七八九十十一");
+  EXPECT_EQ(form_.txtAcnt2(1).Text(), "一二三四五六七八九十");
+  EXPECT_EQ(world_.Text(line), "一二三四五六七八九十");
+}
+
+TEST_F(Editing, CutsPastedTextToTheFieldsBytes) {
+  QLineEdit& line = Enter(form_.txtAcnt2(7));
+  QApplication::clipboard()->setText("123456789012345678901234567890");
+  line.paste();
+  EXPECT_EQ(form_.txtAcnt2(7).Text(), "12345678901234567890");
+  EXPECT_EQ(world_.Text(line), "12345678901234567890");
+}
+
+TEST_F(Editing, UndoesToWhatStoodBeforeARefusedEdit) {
+  QLineEdit& line = Enter(form_.txtAcnt2(7));
+  QTest::keyClicks(&line, "AB");
+  QApplication::clipboard()->setText("123456789012345678901234567890");
+  line.paste();
+  ASSERT_EQ(form_.txtAcnt2(7).Text().size(), 20U);
+  for (int i = 0; i < 5 && !line.text().isEmpty(); ++i)
+    QTest::keyClick(&line, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(world_.Text(line), form_.txtAcnt2(7).Text());
+  EXPECT_EQ(world_.Text(line), "");
+}
+
+TEST_F(Editing, ReplacesTheSelectionWithATypedKey) {
+  QLineEdit& line = Enter(form_.txtAcnt2(6));
+  QTest::keyClicks(&line, "abcd");
+  line.setSelection(1, 2);
+  QTest::keyClick(&line, 'x');
+  EXPECT_EQ(form_.txtAcnt2(6).Text(), "axd");
+  EXPECT_EQ(world_.Text(line), "axd");
+  EXPECT_EQ(line.cursorPosition(), 2);
+}
+
+TEST_F(Editing, CountsRareCharactersAsOne) {
+  QLineEdit& line = Enter(form_.txtAcnt2(6));
+  Commit(line, "𠮷野");
+  EXPECT_EQ(form_.txtAcnt2(6).SelStart(), 2);
+  QTest::keyClick(&line, Qt::Key_Backspace);
+  EXPECT_EQ(form_.txtAcnt2(6).Text(), "𠮷");
+}
+
+TEST_F(Editing, RestoresTheLastValidTextWithEscape) {
+  QLineEdit& line = Enter(form_.txtAcnt2(8));
+  QTest::keyClicks(&line, "o'x");
+  QTest::keyClick(&line, Qt::Key_Escape);
+  EXPECT_EQ(world_.Text(line), "");
+}
+
+TEST_F(Editing, MovesOnWithEnterAndFormatsTheAmountLeft) {
+  QLineEdit& line = Enter(form_.txtAcnt2(4));
+  QTest::keyClicks(&line, "12.5");
+  QTest::keyClick(&line, Qt::Key_Return);
+  world_.Settle();
+  EXPECT_EQ(world_.Text(line), "12.50");
+  EXPECT_FALSE(line.hasFocus());
+  EXPECT_NE(form_.Focused(), &form_.txtAcnt2(4));
+}
+
+TEST_F(Editing, SelectsTheWholeFieldThatIsEnteredByMouse) {
+  QLineEdit& line = world_.Line(form_.txtAcnt2(9));
+  ASSERT_FALSE(line.text().isEmpty());
+  QTest::mouseClick(&line, Qt::LeftButton);
+  EXPECT_EQ(form_.Focused(), &form_.txtAcnt2(9));
+  EXPECT_EQ(line.selectedText(), line.text());
+}
+
+TEST_F(Editing, KeepsTheNativeFocusInAFieldThatFailsItsCheck) {
+  QLineEdit& line = Enter(form_.txtAcnt2(6));
+  QTest::keyClicks(&line, "it's");
+  QTest::mouseClick(&world_.Line(form_.txtAcnt2(7)), Qt::LeftButton);
+  world_.Settle();
+  EXPECT_EQ(form_.Focused(), &form_.txtAcnt2(6));
+  EXPECT_TRUE(line.hasFocus());
+  EXPECT_FALSE(world_.Messages().empty());
+}
+
+TEST_F(Editing, HandsAHalfTypedDateOverBeforeTheFieldIsLeft) {
+  form_.UserFocus(form_.dtpAcntDate);
+  world_.Settle();
+  auto& date = world_.Native<QDateEdit>(form_.dtpAcntDate);
+  date.setSelectedSection(QDateTimeEdit::DaySection);
+  QTest::keyClicks(&date, "07");
+  QTest::keyClick(&date, Qt::Key_Return);
+  world_.Settle();
+  EXPECT_EQ(form_.dtpAcntDate.Value(), basic::Date::FromYmd(2024, 3, 7));
+  EXPECT_EQ(form_.Focused(), &form_.txtAcnt2(1));
+}
+
+TEST_F(Editing, ChoosesFromAListAsTheUserDoes) {
+  auto& combo = world_.Native<QComboBox>(form_.cboHb);
+  form_.UserFocus(form_.cboHb);
+  world_.Settle();
+  QTest::keyClick(&combo, Qt::Key_Down);
+  EXPECT_EQ(form_.cboHb.Text(), "USD");
+  EXPECT_EQ(combo.currentText(), "USD");
+  EXPECT_EQ(world_.Text(world_.Line(form_.txtHbRate)), "7.1000");
+}
+
+TEST_F(Editing, ShowsATextThatIsNotInTheList) {
+  form_.cboHb.SetText("EUR");
+  auto& combo = world_.Native<QComboBox>(form_.cboHb);
+  EXPECT_EQ(combo.currentIndex(), -1);
+  EXPECT_EQ(combo.placeholderText(), "EUR");
+}
+
+TEST_F(Editing, TypesANewNameIntoAnEditableList) {
+  auto& combo = world_.Native<QComboBox>(form_.cboDoneMan);
+  form_.UserFocus(form_.cboDoneMan);
+  world_.Settle();
+  QTest::keyClicks(&combo, "Wu");
+  EXPECT_EQ(form_.cboDoneMan.Text(), "Wu");
+  EXPECT_EQ(combo.currentText(), "Wu");
+}
+
+TEST_F(Editing, ClearsACurrencyFilterWithDelete) {
+  form_.UserChoose(form_.cboHb2, 0);
+  form_.UserFocus(form_.cboHb2);
+  world_.Settle();
+  auto& combo = world_.Native<QComboBox>(form_.cboHb2);
+  QTest::keyClick(&combo, Qt::Key_Delete);
+  EXPECT_EQ(form_.cboHb2.ListIndex(), -1);
+  EXPECT_EQ(combo.currentIndex(), -1);
+}
+
+}  // namespace
+}  // namespace qvzj::test

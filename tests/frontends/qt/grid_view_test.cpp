@@ -1,0 +1,139 @@
+#include <gtest/gtest.h>
+
+#include <QHeaderView>
+
+#include "frontends/qt/grid_model.h"
+#include "tests/frontends/qt/window_world.h"
+
+namespace qvzj::test {
+namespace {
+
+/// The ledger of one customer with a checked entry and a negative balance.
+class LedgerTable : public ::testing::Test {
+ protected:
+  LedgerTable() : form_(Filled()), view_(world_.GridOf(form_.Grid2)), table_(*view_.Table()) {}
+
+  frmZj& Filled() {
+    world_.AddEntry("2024-01-02", "P1", 100, 30);
+    world_.AddEntry("2024-01-03", "P2", 50, 500, "李四");
+    world_.AddEntry("2024-01-04", "P3", 70, 0);
+    return world_.Show();
+  }
+  QVariant At(int row, int column, int role = Qt::DisplayRole) {
+    return table_.model()->index(row, column).data(role);
+  }
+  void ClickCell(int row, int column) {
+    const QRect cell = table_.visualRect(table_.model()->index(row, column));
+    QTest::mouseClick(table_.viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+    world_.Settle();
+  }
+  void ClickHeader(int column) {
+    QHeaderView* header = table_.horizontalHeader();
+    const QPoint at(header->sectionViewportPosition(column) + 10, header->height() / 2);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, at);
+    world_.Settle();
+  }
+
+  WindowWorld world_;
+  frmZj& form_;
+  qt::GridView& view_;
+  qt::GridTable& table_;
+};
+
+TEST_F(LedgerTable, ShowsEveryRowAndHidesTheHiddenColumns) {
+  EXPECT_EQ(table_.model()->rowCount(), 3);
+  EXPECT_EQ(table_.model()->columnCount(), 18);
+  EXPECT_FALSE(table_.isColumnHidden(11));
+  EXPECT_TRUE(table_.isColumnHidden(12));
+  EXPECT_TRUE(table_.isColumnHidden(17));
+}
+
+TEST_F(LedgerTable, ShowsDatesAndAmountsAsTheFormFormatsThem) {
+  EXPECT_EQ(At(0, 0).toString(), "2024-01-02");
+  EXPECT_EQ(At(0, 3).toString(), "100.00");
+}
+
+TEST_F(LedgerTable, AlignsAmountsToTheRight) {
+  EXPECT_TRUE(At(0, 3, Qt::TextAlignmentRole).value<Qt::Alignment>().testFlag(Qt::AlignRight));
+  EXPECT_TRUE(At(0, 1, Qt::TextAlignmentRole).value<Qt::Alignment>().testFlag(Qt::AlignLeft));
+}
+
+TEST_F(LedgerTable, SetsNegativeAmountsApart) {
+  EXPECT_EQ(At(1, 5).toString(), "-380.00");
+  EXPECT_TRUE(At(1, 5, Qt::ForegroundRole).isValid());
+  EXPECT_FALSE(At(0, 5, Qt::ForegroundRole).isValid());
+}
+
+TEST_F(LedgerTable, GreysCheckedRows) {
+  EXPECT_EQ(At(1, 0, Qt::BackgroundRole).value<QBrush>().color().rgb() & 0xffffffU, 0xe0e0e0U);
+  EXPECT_FALSE(At(0, 0, Qt::BackgroundRole).isValid());
+}
+
+TEST_F(LedgerTable, MovesTheFormsCellByMouse) {
+  ClickCell(2, 1);
+  EXPECT_EQ(form_.Grid2.ActiveRow(), 3);
+  EXPECT_EQ(form_.chkAcntInit.Tag(), "3");
+  EXPECT_EQ(form_.Focused(), &form_.Grid2);
+}
+
+TEST_F(LedgerTable, MovesTheFormsCellByKey) {
+  ClickCell(0, 1);
+  QTest::keyClick(&table_, Qt::Key_Down);
+  EXPECT_EQ(form_.Grid2.ActiveRow(), 2);
+  EXPECT_EQ(table_.currentIndex().row(), 1);
+}
+
+TEST_F(LedgerTable, SortsByAHeaderAndMarksIt) {
+  ClickHeader(1);
+  EXPECT_EQ(form_.Grid2.SortColumn(), 2);
+  EXPECT_EQ(At(0, 1).toString(), "P3");
+  EXPECT_TRUE(table_.horizontalHeader()->isSortIndicatorShown());
+  EXPECT_EQ(table_.horizontalHeader()->sortIndicatorSection(), 1);
+}
+
+TEST_F(LedgerTable, KeepsTheSelectionOnItsPlaceAfterASort) {
+  ClickCell(1, 1);
+  ClickHeader(1);
+  EXPECT_EQ(table_.currentIndex().row(), 1);
+}
+
+TEST_F(LedgerTable, OpensTheEntryByDoubleClick) {
+  const QRect cell = table_.visualRect(table_.model()->index(1, 1));
+  QTest::mouseClick(table_.viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+  QTest::mouseDClick(table_.viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+  EXPECT_TRUE(form_.picAcnt.Visible());
+  EXPECT_EQ(world_.Text(world_.Line(form_.txtAcnt2(1))), "P2");
+}
+
+TEST_F(LedgerTable, GivesEveryRowTheHeightOfTheOneThatWasDragged) {
+  table_.verticalHeader()->resizeSection(0, 40);
+  world_.Settle();
+  EXPECT_EQ(table_.rowHeight(0), 40);
+  EXPECT_EQ(table_.rowHeight(2), 40);
+}
+
+TEST_F(LedgerTable, FollowsTheRegisterToAnotherCustomer) {
+  qt::GridView& registers = world_.GridOf(form_.Grid1);
+  const QRect cell = registers.Table()->visualRect(registers.Table()->model()->index(1, 1));
+  QTest::mouseClick(registers.Table()->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+  world_.Settle();
+  EXPECT_EQ(form_.lblKhName.Caption(), "乙公司");
+  EXPECT_EQ(table_.model()->rowCount(), 0);
+}
+
+TEST(GridTable, TakesAMillionRows) {
+  ui::Form form("frm");
+  ui::Grid grid(form, "Grid1");
+  grid.SetColumnCount(2);
+  grid.SetRowCount(1000000);
+  grid.SetCellText(1, 1000000, "last");
+  qt::GridModel model(grid);
+  model.Refresh();
+  QTableView table;
+  table.setModel(&model);
+  EXPECT_EQ(model.rowCount(), 1000000);
+  EXPECT_EQ(model.index(999999, 0).data().toString(), "last");
+}
+
+}  // namespace
+}  // namespace qvzj::test
