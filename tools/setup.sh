@@ -18,6 +18,7 @@ all   libicu-dev           pinyin and stroke order, the Chinese code pages
 all   libsodium-dev        password hashing of the login
 all   nlohmann-json3-dev   JSON texts and files of the script front end
 all   libxlsxwriter-dev    export of lists to Excel
+all   zlib1g-dev           what libxlsxwriter is linked with
 all   unixodbc-dev         database servers
 all   qt6-base-dev         the window, printing and PDF
 all   qt6-tools-dev        the plug-in for Qt Designer, and the form loader that tests it
