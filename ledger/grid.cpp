@@ -20,15 +20,9 @@ std::string BothDirections(int16_t plus, int16_t minus) {
   return S(plus) + "(+)/" + S(minus) + "(-)";
 }
 
+/// Null where the program gives no order for the language: texts then order by their bytes.
 const ui::TextOrder* OrderOfLanguage() {
   return Around().text_order[Shared().Language == 1 ? 1 : 0];
-}
-
-void SortBy(ui::Grid& grid, int32_t column) {
-  const bool ascending = grid.GetSortOrder() == ui::SortOrder::Ascending;
-  const bool flip = grid.SortColumn() == column;
-  grid.SetSortKey(column, ascending != flip ? ui::SortOrder::Ascending : ui::SortOrder::Descending);
-  grid.Sort(OrderOfLanguage());
 }
 
 void TabClicked(frmZj& form, int previous) {
@@ -56,7 +50,7 @@ void RowEntered(frmZj& form, int32_t row) {
 
 void ConnectLedgerGrid(frmZj& form) {
   form.Grid2.onClick = [&form](int32_t column, int32_t row) {
-    if (row == 0) SortBy(form.Grid2, column);
+    if (row == 0) SortByHeader(form.Grid2, column);
   };
   form.Grid2.onDblClick = [&form](int32_t, int32_t row) {
     if (row >= 1) PressAction(form, kActionView);
@@ -83,6 +77,13 @@ void WriteAmountHeaders(frmZj& form) {
   form.Grid2.SetHeader(col::kMoneyA, money_a);
   form.Grid2.SetHeader(col::kMoneyB, money_b);
   form.Grid2.SetHeader(col::kBalance, balance);
+}
+
+void SortByHeader(ui::Grid& grid, int32_t column) {
+  const bool ascending = grid.GetSortOrder() == ui::SortOrder::Ascending;
+  const bool flip = grid.SortColumn() == column;
+  grid.SetSortKey(column, ascending != flip ? ui::SortOrder::Ascending : ui::SortOrder::Descending);
+  grid.Sort(OrderOfLanguage());
 }
 
 }  // namespace qvzj

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <cstdint>
+
+#include "platform/ui/grid.h"
+
 namespace qvzj {
 
 struct frmZj;
@@ -8,5 +12,10 @@ struct frmZj;
 void ConnectLedgerGrid(frmZj& form);
 /// Writes the headers of the three amount columns for the mode and the ledger tab in front.
 void WriteAmountHeaders(frmZj& form);
+
+/// What a click on a column header does to either grid: orders the rows by the column. A second
+/// click on the same header turns the order; a new column keeps an ascending order, and starts
+/// descending otherwise.
+void SortByHeader(ui::Grid& grid, int32_t column);
 
 }  // namespace qvzj

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/basic/text.h"
+#include "ledger/fields.h"
 #include "register/grid.h"
 #include "register/list.h"
 #include "register/table.h"
@@ -172,16 +172,6 @@ void LeaveRecordEditing(frmZj& form) {
   form.SetFocus(form.Grid1);
 }
 
-void ConnectRecordBox(frmZj& form, ui::TextBox& box) {
-  box.onKeyPress = [&form, &box](int& key) {
-    if (!EnterToTab(form, key)) LimitKeys(box, key, box.MaxLength());
-  };
-  box.onEdit = [&box](std::string& inserted) {
-    const std::string selected = basic::Mid(box.Text(), box.SelStart() + 1, box.SelLength());
-    FitInsertion(box.Text(), selected, inserted, box.MaxLength());
-  };
-}
-
 }  // namespace
 
 void ConnectRegisterEdit(frmZj& form) {
@@ -195,7 +185,7 @@ void ConnectRegisterEdit(frmZj& form) {
   }
   form.cmdKhSave.onClick = [&form] { SaveRecord(form); };
   form.cmdKhCancel.onClick = [&form] { LeaveRecordEditing(form); };
-  for (int i = 0; i < form.txtAcnt.Count(); ++i) ConnectRecordBox(form, form.txtAcnt(i));
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) ConnectKeys(form.txtAcnt(i));
   for (int i = 0; i < form.optKhType.Count(); ++i) EnterWalksOn(form.optKhType(i));
 }
 

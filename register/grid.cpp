@@ -2,49 +2,35 @@
 
 #include <string>
 
+#include "ledger/editor.h"
 #include "ledger/filter.h"
+#include "ledger/grid.h"
 #include "ledger/query.h"
 #include "platform/basic/number.h"
-#include "platform/surroundings.h"
 #include "register/detail.h"
 #include "screen/frmZj.h"
-#include "services/context.h"
 
 namespace qvzj {
 namespace {
-
-// Null where the program gives no order for the language; texts then sort by their bytes.
-const ui::TextOrder* OrderOfLanguage() {
-  return Around().text_order[Shared().Language == 1 ? 1 : 0];
-}
 
 void SelectType(frmZj& form, double type) {
   const uint8_t code = basic::ToByte(type);
   form.optKhType(code < form.optKhType.Count() ? code : 0).Select();
 }
 
-// A new sort column keeps an ascending order; without one, or after a descending one, it starts
-// descending.
-ui::SortOrder NextOrder(const ui::Grid& grid, int32_t column) {
-  const bool ascending = grid.GetSortOrder() == ui::SortOrder::Ascending;
-  const bool same = grid.SortColumn() == column;
-  return ascending != same ? ui::SortOrder::Ascending : ui::SortOrder::Descending;
-}
-
+// The header that was clicked bears an arrow, every other one its plain caption.
 void SortRegister(frmZj& form, int32_t column) {
   ui::Grid& grid = form.Grid1;
-  const ui::SortOrder order = NextOrder(grid, column);
-  grid.SetSortKey(column, order);
+  SortByHeader(grid, column);
   for (int32_t k = 1; k <= form.lblAcnt.Count(); ++k) {
     std::string header = form.lblAcnt(k - 1).Caption();
-    if (k == column) header += order == ui::SortOrder::Ascending ? "↑" : "↓";
+    if (k == column) header += grid.GetSortOrder() == ui::SortOrder::Ascending ? "↑" : "↓";
     grid.SetHeader(k, std::move(header));
   }
-  grid.Sort(OrderOfLanguage());
 }
 
 bool EntryIsKeyed(const frmZj& form) {
-  const double action = basic::Val(form.cmdAcntSave.Tag());
+  const int action = ArmedAction(form);
   return action == kActionNew || action == kActionChange;
 }
 

@@ -1,5 +1,6 @@
 #include "register/search.h"
 
+#include "ledger/fields.h"
 #include "ledger/filter.h"
 #include "ledger/query.h"
 #include "register/list.h"
@@ -32,7 +33,7 @@ void ConnectSearchRow(frmZj& form, int i) {
   };
   EnterWalksOn(check);
   EnterWalksOn(text);
-  text.onValidate = [&text](bool& cancel) { cancel = !NoQuote(text.Text()); };
+  RefuseQuotes(text);
 }
 
 }  // namespace

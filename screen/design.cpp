@@ -94,6 +94,7 @@ void DesignEditor(frmZj& form) {
   form.txtAcnt2(5).SetRightAligned(true);
   form.txtAcnt2(5).SetLocked(true);
   form.txtAcnt2(5).SetTabStop(false);
+  form.txtAcnt2(2).SetTabStop(false);  // the register chooses it
   form.txtHbRate.SetMaxLength(20);
   form.txtHbRate.SetRightAligned(true);
   form.cboDoneMan.SetEditable(true);
