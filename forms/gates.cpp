@@ -24,6 +24,7 @@ void Ask(ui::Control& control, const std::string& function) {
 
 void EnableAll(frmZj& form) {
   form.cmdManage.SetEnabled(true);
+  form.mnuKh.SetEnabled(true);
   form.mnuKhManage(1).SetEnabled(true);
   form.mnuKhContact.SetEnabled(true);
   form.cmdKhPrint.SetEnabled(true);
@@ -35,6 +36,7 @@ void ApplyGates(frmZj& form) {
   EnableAll(form);
   if (Shared().UserName == Shared().ZgName) return;
   Ask(form.cmdManage, form.mode == kCustomers ? "mnuZjComp" : "mnuZjAcnt");
+  form.mnuKh.SetEnabled(form.cmdManage.Enabled());  // the button's menu has no other way in
   if (form.mode == kCustomers) Ask(form.mnuKhManage(1), CardAddingFunction());
   Ask(form.mnuKhContact, "mnuCardPlan");
   Ask(form.cmdKhPrint, "mnuCardPrint");

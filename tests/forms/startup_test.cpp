@@ -169,6 +169,16 @@ TEST_F(StartUp, GatesTheAccountRegisterByItsOwnFunctionAndNotItsAdding) {
   EXPECT_TRUE(form.mnuKhManage(1).Enabled());
 }
 
+TEST_F(StartUp, ClosesTheRegisterMenuWithItsButton) {
+  world.control.setUserName("ann");
+  AddFunctions({"mnuCard"});
+  frmZj& form = world.Open(0);
+  EXPECT_FALSE(form.cmdManage.Enabled());
+  EXPECT_FALSE(form.UserClick(form.mnuKhManage(1)));
+  EXPECT_FALSE(form.UserClick(form.mnuKhManage(3)));
+  EXPECT_FALSE(form.cmdKhSave.Visible());
+}
+
 TEST_F(StartUp, OpensWithItsFunctionsDisabledWhenTheLoginIsBrokenOff) {
   world.control.setUserName("");
   AddFunctions({"mnuZjComp", "mnuCard", "mnuCardPlan", "mnuCardPrint"});
