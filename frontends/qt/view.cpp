@@ -78,7 +78,7 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
       return !focused && !scrolls;
     }
     case QEvent::FocusIn:
-      if (!window_.Following()) HandleFocusIn();
+      if (!window_.Following()) HandleFocusIn(static_cast<QFocusEvent*>(event)->reason());
       return false;
     default:
       return QObject::eventFilter(watched, event);
@@ -106,13 +106,16 @@ bool ControlView::HandlePress() {
   return SwallowFocusingPress();
 }
 
-void ControlView::HandleFocusIn() {
-  // Something outside moved the focus (assistive technology, the window coming to the front).
+void ControlView::HandleFocusIn(Qt::FocusReason reason) {
+  // A window that comes to the front takes up the focus where the form has it. Anything else that
+  // moves the focus (assistive technology) speaks for the user.
+  const bool chosen = reason == Qt::OtherFocusReason || reason == Qt::ShortcutFocusReason;
   QMetaObject::invokeMethod(
       this,
-      [this] {
+      [this, chosen] {
         if (!Live()) return;
-        if (FocusWidget()->hasFocus() && GetForm().Focused() != control_ && control_->CanFocus()) {
+        const bool elsewhere = GetForm().Focused() != control_;
+        if (chosen && elsewhere && FocusWidget()->hasFocus() && control_->CanFocus()) {
           Act([this] { return GetForm().UserFocus(*control_); });
         }
         window_.Flush();

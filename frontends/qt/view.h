@@ -75,7 +75,7 @@ class ControlView : public QObject {
  private:
   bool HandleKey(QKeyEvent& event, bool only_ask);
   bool HandlePress();
-  void HandleFocusIn();
+  void HandleFocusIn(Qt::FocusReason reason);
 
   ui::Control* control_;
 };
