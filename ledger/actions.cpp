@@ -60,6 +60,15 @@ EntryTexts CounterEntry(const frmZj& form) {
   return counter;
 }
 
+/// An account chosen only now, with the check, becomes the entry's own: unchecking would not know
+/// of the counter-entry otherwise. Runs first, so that no counter-entry is ever without the link.
+void StoreChosenLink(const frmZj& form) {
+  constexpr auto kLink = static_cast<size_t>(EntryColumn::ID2);
+  const std::string& id = form.cboAcntName.Tag();
+  if (!form.entryShown.empty() && form.entryShown[kLink] == id) return;
+  Data().Execute("Update tAccountDetail Set fID2=" + id + " Where fID=" + form.chkAcntInit.Tag());
+}
+
 std::optional<Commit> PrepareChecking(frmZj& form) {
   if (!NoQuote(Shared().UserName)) return std::nullopt;
   const std::string check = CheckerStatement(form, Shared().UserName);
@@ -71,6 +80,7 @@ std::optional<Commit> PrepareChecking(frmZj& form) {
   }
   if (!EntryTextsFit(form) || !NoQuote(form.txtAcnt2(2).Text())) return std::nullopt;
   const std::string insert = InsertStatement(CounterEntry(form));
+  StoreChosenLink(form);
   Data().Execute(check);
   return Commit{insert, kColon, true};
 }

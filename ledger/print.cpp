@@ -49,7 +49,7 @@ void ConnectPrint(frmZj& form) {
 void PrintGrid(frmZj& form, ui::Grid& grid, const std::string& title, const std::string& report,
                const std::string& extra) {
   if (grid.RowCount() == 0) return;
-  if (!Around().print) throw Error("The print component qvPrint_ADO.qvPrint is not available");
+  if (!Around().print) throw Error("未安装打印组件 qvPrint_ADO.qvPrint !");
   PrintJob job;
   job.kind = form.printKind;
   job.language = Shared().Language;

@@ -191,6 +191,8 @@ void WriteTotals(frmZj& form, const Ledger& ledger) {
 
 void LoadLedger(frmZj& form, const std::string& condition) {
   const bool payable_tab = form.SSTab2.Tab() == 2;
+  const ui::MousePointer pointer = form.GetMousePointer();
+  form.SetMousePointer(ui::MousePointer::Hourglass);
   form.Grid2.SetRowCount(0);
   form.Grid2.SetVisible(false);
   // Everything that can fail comes before the first cell is filled.
@@ -210,6 +212,7 @@ void LoadLedger(frmZj& form, const std::string& condition) {
     }
   }
   form.Grid2.SetVisible(true);
+  form.SetMousePointer(pointer);
 }
 
 }  // namespace qvzj

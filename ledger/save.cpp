@@ -65,7 +65,7 @@ bool CheckFields(frmZj& form) {
 
 std::optional<Commit> PrepareNew(frmZj& form) {
   if (!CheckFields(form)) return std::nullopt;
-  return Commit{InsertStatement(EntryToWrite(form)), ":"};
+  return Commit{InsertStatement(EntryInEditor(form)), ":"};
 }
 
 std::optional<Commit> PrepareChange(frmZj& form) {
@@ -101,10 +101,10 @@ void CancelEntry(frmZj& form) {
   LayoutEditor(form);
   form.currentAction = kActionView;
   form.cmdAcntSave.SetTag(std::to_string(kActionView));
-  // What was keyed and not saved must not come back with the next look at the entry.
-  ShowLedgerRow(form, form.Grid2.ActiveRow());
   LockEntry(form, kActionView);
   form.SetFocus(form.Grid2);
+  // What was keyed and not saved must not come back with the next look at the entry.
+  ShowLedgerRow(form, form.Grid2.ActiveRow());
 }
 
 }  // namespace

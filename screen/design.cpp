@@ -204,6 +204,8 @@ void ResetLedger(frmZj& form) {
   form.Grid2.SetSortKey(0, ui::SortOrder::None);
   form.picAcnt.SetVisible(false);
   form.lblAcntTitle.SetCaption("");
+  form.entryShown.clear();
+  form.entryStored.clear();
   form.chkAcntInit.SetTag("0");
   form.cboAcntName.SetTag("0");
   form.cmdAcntSave.SetTag("0");

@@ -339,13 +339,32 @@ TEST_F(EntryActions, RemovesCounterEntriesWithoutAQuestionWhenThereIsNoReceipt) 
   EXPECT_EQ(Count(), "1");
 }
 
-TEST_F(EntryActions, LinksTheCounterEntryToTheAccountChosenAtTheCheck) {
-  Add({.b = "1"});
+TEST_F(EntryActions, KeepsTheAccountChosenAtTheCheckSoThatUncheckingFindsIt) {
+  const std::string id = Add({.b = "1"});
   frmZj& form = Open();
   form.UserClick(form.cmdAction(4));
   form.UserChoose(form.cboAcntName, 0);
+  world.Statements();
   form.UserClick(form.cmdAcntSave);
+  const Texts writes = Writes();
+  ASSERT_EQ(writes.size(), 3u);
+  EXPECT_EQ(writes[0], "Update tAccountDetail Set fID2=1 Where fID=" + id);
+  EXPECT_EQ(writes[1], "Update tAccountDetail Set fChecker='admin' Where fID=" + id);
   EXPECT_EQ(world.One("select fCompID from tAccountDetail where fType1=1"), "1");
+  world.Answer("ok");
+  world.Answer("ok");
+  Act(form, 4);
+  EXPECT_EQ(Count(), "1");
+  EXPECT_EQ(Checker(id), "");
+}
+
+TEST_F(EntryActions, BringsNoCounterEntryWhenTheLinkIsTakenBackAtTheCheck) {
+  Add({.b = "1", .id2 = "2"});
+  frmZj& form = Open();
+  form.UserClick(form.cmdAction(4));
+  form.UserClick(form.chkAcntName);
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_EQ(Count(), "1");
 }
 
 }  // namespace

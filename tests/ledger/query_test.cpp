@@ -148,6 +148,36 @@ TEST_F(LedgerQuery, SumsManySmallAmountsToTheCent) {
   EXPECT_EQ(form.Grid2.CellText(col::kBalance, 100000), "10000.00");
 }
 
+TEST_F(LedgerQuery, KeepsAnEntryWithin250Bytes) {
+  world.Sql(
+      "with recursive n(i) as (select 1 union all select i+1 from n where i<20000) "
+      "insert into tAccountDetail (fDate,fCompID,fType1,fType2,fAcntNo,fInit,fMoneyA,fMoneyB,"
+      "fBrief,fInvID,fOrderID,fUser,fDoneman,fChecker,fID2,fMoneyCode,fMoneyRate) "
+      "select date('2022-01-01','+'||(i%700)||' days'),1,0,1+i%2,printf('202403PZ%05d',i),0,i*1.5,"
+      "i*0.5,'收到货款'||i,printf('CK20240315%04d',i),printf('DD20240315%04d',i),'用户'||(i%7),"
+      "'经办'||(i%5),'审核'||(i%3),i%8,'RMB',1+i%3 from n;");
+  frmZj& form = Open();
+  ASSERT_EQ(form.Grid2.RowCount(), 20000);
+  EXPECT_LE(form.Grid2.MemoryBytes() / 20000, 250u);
+}
+
+TEST_F(LedgerQuery, ShowsTheHourglassWhileItLoadsAndNotAfterwards) {
+  frmZj& form = Open();
+  struct Pointers : ui::FormObserver {
+    void ControlChanged(ui::Control&, ui::Aspect) override {}
+    void FormChanged(ui::Form& changed, ui::Aspect aspect) override {
+      if (aspect == ui::Aspect::MousePointer) seen.push_back(changed.GetMousePointer());
+    }
+    void PopUpMenu(ui::Form&, ui::MenuItem&, int32_t, int32_t) override {}
+    std::vector<ui::MousePointer> seen;
+  } pointers;
+  form.AddObserver(&pointers);
+  Load(form);
+  form.RemoveObserver(&pointers);
+  using enum ui::MousePointer;
+  EXPECT_EQ(pointers.seen, (std::vector{Hourglass, Default}));
+}
+
 TEST_F(LedgerQuery, BuildsTheStatementForOneRecord) {
   frmZj& form = Open();
   Load(form);

@@ -248,6 +248,14 @@ TEST_F(EntrySave, ReportsABrokenConnectionAndStaysUsable) {
   EXPECT_EQ(world.One("select fBrief from tAccountDetail where fID=" + id), "新");
 }
 
+TEST_F(EntrySave, GivesACopyOfACounterEntryNoLink) {
+  Add({.type1 = 1, .number = "N1", .b = "10", .id2 = "57"});
+  frmZj& form = KeyNew(kAccounts);
+  form.UserCell(form.Grid2, 2, 1);
+  Save(form);
+  EXPECT_EQ(world.One("select fID2 from tAccountDetail order by fID desc"), "0");
+}
+
 // Loading an entry and saving it untouched must leave its row as it was, whatever it holds.
 
 struct RoundTripCase {
