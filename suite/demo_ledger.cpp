@@ -55,7 +55,8 @@ class LedgerMaker {
                  "fMoneyB", "fBrief", "fInvID", "fOrderID", "fUser", "fDoneman", "fChecker", "fID2",
                  "fMoneyCode", "fMoneyRate"}),
         documents_(session, "tJXC_CkDj01", {"fKhID", "fInvNo", "fInvSHR"}),
-        archive_(session, "tJXC_CkDj_Bak01", {"fKhID", "fInvNo", "fInvSHR"}) {
+        archive_(session, "tJXC_CkDj_Bak01", {"fKhID", "fInvNo", "fInvSHR"}),
+        debts_(registers.customers.size() * 2 + 2) {
     for (const DemoAccount& account : registers.accounts) {
       accounts_of_[account.currency].push_back(account.id);
     }
@@ -107,12 +108,19 @@ class LedgerMaker {
     return Numbered(day + "-", ++documents_today_, 4);
   }
 
-  /// An amount of 3 to 6 digits before the point; every third is a round one.
-  double Amount() {
-    static constexpr int kScales[] = {1000, 10000, 100000, 1000000};
-    const int scale = dice_.Pick(kScales);
-    const int whole = dice_.Between(scale / 10, scale - 1);
-    return dice_.Chance(33) ? whole : whole + dice_.Between(0, 99) / 100.0;
+  /// An amount of 3 to `digits` digits before the point, in cents; every third is a round one.
+  int64_t Cents(int digits) {
+    int scale = 1000;
+    for (int more = dice_.Between(3, digits); more > 3; --more) scale *= 10;
+    const int64_t whole = dice_.Between(scale / 10, scale - 1);
+    return whole * 100 + (dice_.Chance(33) ? 0 : dice_.Between(0, 99));
+  }
+
+  static double Money(int64_t cents) { return static_cast<double>(cents) / 100; }
+
+  /// What a customer owes us (direction 1) or we owe (direction 2), in cents.
+  int64_t& Debt(int32_t customer, int direction) {
+    return debts_[static_cast<size_t>(customer) * 2 + static_cast<size_t>(direction - 1)];
   }
 
   std::string_view Someone() { return dice_.Pick(std::span<const std::string>(registers_.staff)); }
@@ -159,7 +167,9 @@ class LedgerMaker {
       entry.company = customer.id;
       entry.currency = customer.currency;
       entry.direction = DirectionOf(customer);
-      entry.money_a = Amount();
+      const int64_t cents = Cents(6);
+      Debt(customer.id, entry.direction) += cents;
+      entry.money_a = Money(cents);
       WriteOpening(entry);
     }
   }
@@ -177,7 +187,7 @@ class LedgerMaker {
     entry.company = account.id;
     entry.currency = account.currency;
     entry.direction = dice_.Chance(30) ? 1 : 2;
-    entry.money_b = Amount();
+    entry.money_b = Money(Cents(5));
     entry.brief = entry.direction == 1 ? dice_.Pick(kIncome) : dice_.Pick(kExpense);
     entry.checker = CheckerOfToday();
     Write(entry);
@@ -201,13 +211,24 @@ class LedgerMaker {
     entry.company = customer.id;
     entry.currency = customer.currency;
     entry.direction = DirectionOf(customer);
-    const uint32_t sort = dice_.Below(100);  // invoice, settlement, or both at once
-    const double amount = Amount();
-    if (sort < 65) entry.money_a = amount;
-    if (sort >= 45) entry.money_b = amount;
-    entry.brief = sort < 65              ? entry.direction == 1 ? "销售货物" : "采购货物"
-                  : entry.direction == 1 ? "收回货款"
-                                         : "支付货款";
+    int64_t& debt = Debt(customer.id, entry.direction);
+    // A debt is settled, all or half of it; where there is none something is delivered, and now
+    // and then paid at once.
+    if (debt > 0 && dice_.Chance(60)) {
+      const int64_t paid = dice_.Chance(70) ? debt : debt / 2;
+      debt -= paid;
+      entry.money_b = Money(paid);
+      entry.brief = entry.direction == 1 ? "收回货款" : "支付货款";
+    } else {
+      const int64_t cents = Cents(6);
+      entry.money_a = Money(cents);
+      if (dice_.Chance(25)) {
+        entry.money_b = entry.money_a;
+      } else {
+        debt += cents;
+      }
+      entry.brief = entry.direction == 1 ? "销售货物" : "采购货物";
+    }
     if (entry.money_a != 0) {
       entry.document = NextDocument(entry.direction);
       if (dice_.Chance(30)) entry.order = "DD" + entry.document.substr(2);
@@ -258,6 +279,7 @@ class LedgerMaker {
   IcuAnsiCodec codec_;
   std::vector<basic::Date> workdays_;
   std::vector<int32_t> accounts_of_[std::size(kDemoCurrencies)];
+  std::vector<int64_t> debts_;  // two a customer, see Debt
   basic::Date day_;
   std::array<int, 2> counters_{};
   int documents_today_ = 0;
