@@ -23,10 +23,12 @@ void PlacePair(ui::Control& name, ui::Control& field, int32_t left, int32_t top,
   Place(field, left + name_width, top, width - name_width);
 }
 
+constexpr int32_t kWidestColumn = 6000;
+
 /// `count` equal columns between the paddings of a panel; on a wide screen they stop growing.
 struct Split {
-  Split(int32_t panel_width, int32_t count, int32_t widest)
-      : width(std::min((panel_width - 2 * kPad - (count - 1) * kPad) / count, widest)) {}
+  Split(int32_t panel_width, int32_t count)
+      : width(std::min((panel_width - 2 * kPad - (count - 1) * kPad) / count, kWidestColumn)) {}
   int32_t Left(int32_t column) const { return kPad + column * (width + kPad); }
   int32_t width;
 };
@@ -84,7 +86,7 @@ void ArrangeSearchPage(frmZj& form) {
   Place(form.cmdKhSeek, kPad + inner - kWide, top, kWide, kButton);
   top += kButton + kPad;
   Place(form.fraSeekKh, kGap, kTabStrip + kGap, width, top);
-  Place(form.txtSeekMsg, kGap, kTabStrip + kGap + top + kGap, width, 900);
+  Place(form.txtSeekMsg, kGap, kTabStrip + kGap + top + kGap, width, 1080);
 }
 
 namespace {
@@ -98,8 +100,8 @@ struct EntryColumns {
   explicit EntryColumns(int32_t panel_width) {
     constexpr int32_t kDirections = 2640;
     const int32_t inner = panel_width - 4 * kPad;
-    const int32_t first = std::clamp(inner / 3, kDirections, 4200);
-    const int32_t other = std::min((inner - first) / 2, 4200);
+    const int32_t first = std::clamp(inner / 3, kDirections, kWidestColumn);
+    const int32_t other = std::min((inner - first) / 2, kWidestColumn);
     width = {first, other, other};
     left = {kPad, 2 * kPad + first, 3 * kPad + first + other};
   }
@@ -172,7 +174,7 @@ void ArrangeTotals(frmZj& form) {
   constexpr int32_t kCurrency = 840;
   constexpr int32_t kLabel = 840;
   const int32_t width = form.fraTotal.GetBounds().width;
-  const Split column(width - kCurrency - kPad, 3, 3300);
+  const Split column(width - kCurrency - kPad, 3);
   const auto pair = [&](int total, int row, int32_t at) {
     PlacePair(form.lblTotal(total), form.txtTotal(total), column.Left(at), kFrameTop + row * kRow,
               column.width, kLabel);
@@ -197,7 +199,7 @@ void ArrangeTotals(frmZj& form) {
 
 void ArrangeFilter(frmZj& form) {
   const int32_t width = form.fraFilter.GetBounds().width;
-  const Split column(width, 3, 3600);
+  const Split column(width, 3);
   constexpr int32_t kCheck = 1110;
   const auto pair = [&](ui::Control& check, ui::Control& field, int row, int32_t at) {
     PlacePair(check, field, column.Left(at), kFrameTop + row * kRow, column.width, kCheck);
