@@ -33,6 +33,22 @@ bool IsOneTable(const Tokens& tokens, size_t first, size_t last) {
                      tokens.begin() + static_cast<Tokens::difference_type>(last), IsName);
 }
 
+/// Index of ORDER BY; the number of tokens when there is none.
+size_t OrderBy(const Tokens& tokens) {
+  size_t at = 0;
+  while (at < tokens.size() && !(IsWord(tokens[at], "order") && WordAt(tokens, at + 1, "by"))) ++at;
+  return at;
+}
+
+/// Makes the tokens before `order` the table of an outer SELECT. Where `order` is afterwards.
+size_t NestBefore(Tokens& tokens, size_t order) {
+  tokens.front().blank = false;
+  tokens.insert(tokens.begin() + static_cast<Tokens::difference_type>(order),
+                {Kind::Raw, ") as qv_rows", false});
+  tokens.insert(tokens.begin(), {Kind::Raw, "select * from (", false});
+  return order + 2;
+}
+
 }  // namespace
 
 std::optional<Translation> TranslateAddedColumn(const Tokens& tokens, const Target& target) {
@@ -85,14 +101,17 @@ void SwapRightJoin(Tokens& tokens) {
 }
 
 void RewriteOrder(Tokens& tokens, const Scope& scope, const Target& target) {
-  size_t at = 0;
-  while (at < tokens.size() && !(IsWord(tokens[at], "order") && WordAt(tokens, at + 1, "by"))) ++at;
+  size_t at = OrderBy(tokens);
+  if (at == tokens.size()) return;
+  const bool outside = target.orders_distinct_outside && WordAt(tokens, 1, "distinct");
+  if (outside) at = NestBefore(tokens, at);
   for (at += 2; at < tokens.size();) {
     const auto column = ColumnAt(tokens, at);
     size_t end = column ? at + 1 : TermEnd(tokens, at);
     if (end == at) return;
     if (column) {
-      std::string key = Render(tokens, column->first, column->last);
+      const size_t first = outside ? column->last - 1 : column->first;
+      std::string key = Render(tokens, first, column->last);
       const bool text = scope.TypeOf(*column) == ColumnType::Text;
       if (text && !target.ordered_text.empty()) key = Wrap(target.ordered_text, key);
       ReplaceByRaw(tokens, column->first, column->last, std::move(key));

@@ -49,6 +49,9 @@ struct Target {
   // --- order
   /// A text column in ORDER BY; empty: as it is.
   std::string ordered_text;
+  /// Whether the keys of an ORDER BY must stand in the list of a SELECT DISTINCT just as they are;
+  /// the distinct rows are then ordered from outside.
+  bool orders_distinct_outside = false;
   /// What follows an ascending or descending key so that nulls order before everything else.
   std::string ascending_nulls;
   std::string descending_nulls;
@@ -57,6 +60,9 @@ struct Target {
 /// SQLite as adapters/sqlite sets it up. `text_order` is the collation that orders texts; empty
 /// leaves the order to the columns.
 Target SqliteTarget(const std::string& text_order);
+/// PostgreSQL and its relatives, with the suite's tables made by unquoted names. `text_order` is
+/// the collation that orders texts, as it is written in a statement.
+Target PostgresTarget(const std::string& text_order);
 /// T-SQL servers: they speak the server dialect.
 Target TransactSqlTarget();
 
