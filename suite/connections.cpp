@@ -13,18 +13,25 @@ std::string DataFileIn(std::string folder) {
   return folder + "/" + kDataFile;
 }
 
+std::unique_ptr<data::Session> OpenFolder(const std::string& folder,
+                                          const ConnectionOptions& options) {
+  SqliteOptions sqlite;
+  sqlite.busy_timeout = options.busy_timeout;
+  sqlite.language = options.language;
+  return OpenSqlite(DataFileIn(folder), sqlite);
+}
+
 }  // namespace
 
 bool SuiteConnections::OpenConnection(uint8_t kind, data::Connection& connection,
-                                      const std::string& path, const std::string&,
-                                      const std::string&, const std::string&) {
+                                      const std::string& path, const std::string& password,
+                                      const std::string& user_id,
+                                      const std::string& default_database) {
   last_error_.clear();
   try {
-    if (kind != 0) throw DataError("no database server is supported here");
-    SqliteOptions sqlite;
-    sqlite.busy_timeout = options.busy_timeout;
-    sqlite.language = options.language;
-    connection.Attach(OpenSqlite(DataFileIn(path), sqlite));
+    connection.Attach(kind == 0
+                          ? OpenFolder(path, options)
+                          : OpenServer({path, user_id, password, default_database}, options));
     return true;
   } catch (const DataError& error) {
     last_error_ = error.what();

@@ -2,9 +2,11 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "platform/data/connection.h"
+#include "suite/server_address.h"
 
 namespace qvzj {
 
@@ -14,10 +16,17 @@ struct ConnectionOptions {
   /// Language of the user, asked at every statement: texts order by pinyin for 0 and by strokes
   /// for 1. Empty: by pinyin.
   std::function<int()> language;
+  /// What stands behind every kind other than 0.
+  ServerOptions server;
+  /// Seconds to wait for a server that does not answer.
+  int login_timeout = 10;
+  /// Seconds a statement may take on a server; 0 = no limit.
+  int statement_timeout = 0;
 };
 
 /// The suite's connection component: kind 0 is the data file in the folder `path`, which must be
-/// there; it is never created here.
+/// there and is never created here; any other kind is the database server that `path` names (see
+/// ServerLogin).
 class SuiteConnections : public data::ConnectionComponent {
  public:
   explicit SuiteConnections(ConnectionOptions connection_options = {})
@@ -26,7 +35,8 @@ class SuiteConnections : public data::ConnectionComponent {
   bool OpenConnection(uint8_t kind, data::Connection& connection, const std::string& path,
                       const std::string& password, const std::string& user_id,
                       const std::string& default_database) override;
-  /// Why the last OpenConnection answered false; "" after one that answered true.
+  /// Why the last OpenConnection answered false, without credentials; "" after one that answered
+  /// true.
   const std::string& LastError() const { return last_error_; }
 
   /// May be changed at any time; holds for connections opened afterwards.
@@ -35,5 +45,9 @@ class SuiteConnections : public data::ConnectionComponent {
  private:
   std::string last_error_;
 };
+
+/// A session on a server. Throws DataError; its text holds no credentials.
+std::unique_ptr<data::Session> OpenServer(const ServerLogin& login,
+                                          const ConnectionOptions& options);
 
 }  // namespace qvzj

@@ -13,28 +13,28 @@ create table if not exists {register} (
   province {text}, cityname {text}, postcode {text}, telphone {text}, fax {text},
   fType0 integer default 0,
   detail {text});
-create index if not exists i{register}Code on {register} (CompCode);
-create index if not exists i{register}Name on {register} (compname);
+create index if not exists i{register}Code on {register} ({key CompCode});
+create index if not exists i{register}Name on {register} ({key compname});
 )";
 
 constexpr const char* kLedger = R"(
 create table if not exists tAccountDetail (
-  fID integer primary key autoincrement,
+  {counter fID},
   fDate date, fCompID integer, fType1 integer, fType2 integer, fAcntNo {text}, fInit integer,
-  fMoneyA real default 0, fMoneyB real default 0,
+  fMoneyA {real} default 0, fMoneyB {real} default 0,
   fBrief {text}, fInvID {text}, fOrderID {text}, fUser {text}, fDoneman {text}, fChecker {text},
-  fID2 integer, fMoneyCode {text}, fMoneyRate real);
+  fID2 integer, fMoneyCode {text}, fMoneyRate {real});
 -- the ledger of one customer or account, in the order in which it is shown
 create index if not exists iLedgerRecord on tAccountDetail (fCompID, fType1, fDate, fAcntNo);
 -- the next voucher number under a stem
-create index if not exists iLedgerNumber on tAccountDetail (fAcntNo);
+create index if not exists iLedgerNumber on tAccountDetail ({key fAcntNo});
 -- the counter-entries of a customer entry
 create index if not exists iLedgerLink on tAccountDetail (fID2, fType1);
 )";
 
 constexpr const char* kSuite = R"(
 create table if not exists Moneys (
-  MoneyCode {text} primary key, MoneyRate real, MoneyType integer);
+  MoneyCode {text} primary key, MoneyRate {real}, MoneyType integer);
 create table if not exists Employees (employCode {text} primary key, employee {text});
 create table if not exists tRsBasic (fID integer primary key, fName {text});
 create table if not exists tJXC_InvSet (
@@ -43,33 +43,71 @@ create table if not exists tSysFunc (
   SerialNo integer primary key, model_Name {text}, Model_Name_0 {text}, Model_Name_1 {text},
   SecondPass integer default 0, password text, NoUse_ integer default 0);
 create table if not exists tTaskList (
-  fID integer primary key autoincrement, taskID integer, fType integer, fDate date,
+  {counter fID}, taskID integer, fType integer, fDate date,
   fUser {text}, fBrief {text});
 create index if not exists iTaskRecord on tTaskList (taskID, fType);
 create table if not exists tJXC_CkDj01 (
   fID integer primary key, fInvNo {text}, fKhID integer, fInvSHR {text});
-create index if not exists iCkDjNumber on tJXC_CkDj01 (fInvNo);
+create index if not exists iCkDjNumber on tJXC_CkDj01 ({key fInvNo});
 create index if not exists iCkDjCustomer on tJXC_CkDj01 (fKhID);
 create table if not exists tJXC_CkDj_Bak01 (
   fID integer primary key, fInvNo {text}, fKhID integer, fInvSHR {text});
-create index if not exists iCkDjBakNumber on tJXC_CkDj_Bak01 (fInvNo);
+create index if not exists iCkDjBakNumber on tJXC_CkDj_Bak01 ({key fInvNo});
 create table if not exists tJXC_CkHt01 (fID integer primary key, fKhID integer);
 create index if not exists iCkHtCustomer on tJXC_CkHt01 (fKhID);
 )";
 
+/// What the statements above leave to the engine.
+struct Words {
+  std::string text;
+  std::string real;
+  std::string counter;     ///< the key fID that the engine gives and never gives again
+  std::string key_before;  ///< around a column whose index serves comparisons without ASCII case
+  std::string key_after;
+};
+
+std::string Worded(std::string sql, const Words& words) {
+  sql = basic::Replace(sql, "{text}", words.text);
+  sql = basic::Replace(sql, "{real}", words.real);
+  sql = basic::Replace(sql, "{counter fID}", words.counter);
+  for (size_t at; (at = sql.find("{key ")) != std::string::npos;) {
+    const size_t end = sql.find('}', at);
+    const std::string column = sql.substr(at + 5, end - at - 5);
+    sql.replace(at, end - at + 1, words.key_before + column + words.key_after);
+  }
+  return sql;
+}
+
+std::string Script(const Words& words) {
+  std::string script;
+  for (const char* table : {"cards", "tAccounts"}) {
+    script += basic::Replace(kRegister, "{register}", table);
+  }
+  return Worded(script + kLedger + kSuite, words);
+}
+
 }  // namespace
 
 void CreateSchema(SqliteSession& session) {
-  const auto run = [&session](std::string sql) {
-    session.NativeScript(basic::Replace(sql, "{text}", "text collate nocase"));
-  };
+  const Words words{"text collate nocase", "real", "fID integer primary key autoincrement", "", ""};
   SqliteTransaction transaction(session);
-  for (const char* table : {"cards", "tAccounts"}) {
-    run(basic::Replace(kRegister, "{register}", table));
-  }
-  run(kLedger);
-  run(kSuite);
+  session.NativeScript(Script(words));
   transaction.Commit();
+}
+
+std::vector<std::string> PostgresSchema() {
+  std::vector<std::string> statements{
+      "create collation if not exists qv_pinyin "
+      "(provider = icu, locale = 'zh-u-co-pinyin-ks-level2', deterministic = false)",
+      "create collation if not exists qv_stroke "
+      "(provider = icu, locale = 'zh-Hant-u-co-stroke-ks-level2', deterministic = false)"};
+  const std::string script = Script(
+      {"text", "double precision", "fID integer generated by default as identity primary key",
+       "lower(", " collate \"C\")"});
+  for (size_t at = 0, end; (end = script.find(';', at)) != std::string::npos; at = end + 1) {
+    statements.push_back(script.substr(at, end - at));
+  }
+  return statements;
 }
 
 }  // namespace qvzj

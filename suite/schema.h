@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "adapters/sqlite/sqlite_session.h"
 
 namespace qvzj {
@@ -11,5 +14,9 @@ inline constexpr const char* kDataFile = "qvjxc.db";
 /// Texts compare without ASCII case, dates are kept as yyyy-mm-dd, and the id of a deleted ledger
 /// entry is never given again. Throws DataError.
 void CreateSchema(SqliteSession& session);
+
+/// The statements that make the same tables and indexes on PostgreSQL, and the orders of texts,
+/// each one alone; what is there stays as it is. Needs the right to create in the schema.
+std::vector<std::string> PostgresSchema();
 
 }  // namespace qvzj

@@ -8,6 +8,8 @@ namespace qvzj::test {
 using basic::Column;
 
 void SessionContract::SetUp() {
+  const std::string missing = GetParam().missing();
+  if (!missing.empty()) GTEST_SKIP() << missing;
   database = GetParam().make();
   session = database->Open();
 }

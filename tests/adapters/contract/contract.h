@@ -24,6 +24,8 @@ struct ContractEngine {
   /// True when statements come in the desktop dialect, false for the server dialect.
   bool desktop;
   std::function<std::unique_ptr<ContractDatabase>()> make;
+  /// Why the engine is not there, "" when it is; the tests are then skipped.
+  std::function<std::string()> missing = [] { return std::string(); };
 };
 
 inline void PrintTo(const ContractEngine& engine, std::ostream* out) { *out << engine.name; }

@@ -1,0 +1,89 @@
+#include "adapters/odbc/odbc_handle.h"
+
+#include <array>
+#include <string_view>
+
+#include "adapters/icu/utf16.h"
+
+namespace qvzj {
+namespace {
+
+static_assert(sizeof(SQLWCHAR) == sizeof(char16_t));
+
+SQLWCHAR* Wide(char16_t* text) { return reinterpret_cast<SQLWCHAR*>(text); }
+
+/// The driver's records one after another, with line ends taken out.
+OdbcError ErrorOf(SQLSMALLINT type, SQLHANDLE handle) {
+  std::string first_state = "HY000";
+  std::string said;
+  for (SQLSMALLINT record = 1;; ++record) {
+    std::array<char16_t, 6> state{};
+    std::array<char16_t, 2048> text{};
+    SQLINTEGER native = 0;
+    SQLSMALLINT length = 0;
+    const SQLRETURN result =
+        SQLGetDiagRecW(type, handle, record, Wide(state.data()), &native, Wide(text.data()),
+                       static_cast<SQLSMALLINT>(text.size()), &length);
+    if (!SQL_SUCCEEDED(result)) break;
+    std::string piece;
+    ToUtf8({text.data(), std::char_traits<char16_t>::length(text.data())}, piece);
+    while (!piece.empty() && (piece.back() == '\n' || piece.back() == ' ')) piece.pop_back();
+    if (!said.empty()) said += "; ";
+    said += piece;
+    if (record == 1) ToUtf8({state.data(), 5}, first_state);
+  }
+  if (said.empty()) said = "The database driver reported a failure without a text";
+  return {first_state, said};
+}
+
+}  // namespace
+
+bool OdbcError::ConnectionLost() const {
+  const std::string_view kind = std::string_view(state_).substr(0, 2);
+  return kind == "08" || state_ == "57P01" || state_ == "57P02" || state_ == "57P03";
+}
+
+template <SQLSMALLINT kType>
+OdbcHandle<kType>::OdbcHandle(SQLHANDLE parent) {
+  if (!SQL_SUCCEEDED(SQLAllocHandle(kType, parent, &handle_))) {
+    throw DataError("The database driver manager gave no handle");
+  }
+  if constexpr (kType == SQL_HANDLE_ENV) {
+    Check(SQLSetEnvAttr(handle_, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3),
+                        0));
+  }
+}
+
+template <SQLSMALLINT kType>
+void OdbcHandle<kType>::Throw() const {
+  throw ErrorOf(kType, handle_);
+}
+
+template class OdbcHandle<SQL_HANDLE_ENV>;
+template class OdbcHandle<SQL_HANDLE_DBC>;
+template class OdbcHandle<SQL_HANDLE_STMT>;
+
+OdbcConnection::OdbcConnection(const std::string& connection_string, int login_timeout)
+    : connection_(environment_.Get()) {
+  SQLSetConnectAttr(Get(), SQL_ATTR_LOGIN_TIMEOUT,
+                    reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(login_timeout)), 0);
+  std::u16string text = ToUtf16(connection_string);
+  connection_.Check(SQLDriverConnectW(Get(), nullptr, Wide(text.data()),
+                                      static_cast<SQLSMALLINT>(text.size()), nullptr, 0, nullptr,
+                                      SQL_DRIVER_NOPROMPT));
+  SQLUINTEGER extensions = 0;
+  if (SQL_SUCCEEDED(SQLGetInfoW(Get(), SQL_GETDATA_EXTENSIONS, &extensions, 0, nullptr))) {
+    constexpr SQLUINTEGER kNeeded = SQL_GD_BLOCK | SQL_GD_BOUND;
+    long_values_in_blocks_ = (extensions & kNeeded) == kNeeded;
+  }
+}
+
+OdbcConnection::~OdbcConnection() { SQLDisconnect(Get()); }
+
+bool OdbcConnection::Dead() const {
+  SQLUINTEGER dead = SQL_CD_FALSE;
+  SQLGetConnectAttr(Get(), SQL_ATTR_CONNECTION_DEAD, &dead, 0, nullptr);
+  return dead == SQL_CD_TRUE;
+}
+
+}  // namespace qvzj

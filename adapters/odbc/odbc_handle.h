@@ -1,0 +1,69 @@
+#pragma once
+
+#include <sql.h>
+#include <sqlext.h>
+
+#include <string>
+#include <utility>
+
+#include "platform/basic/errors.h"
+
+/// Thin owners of ODBC handles. Every call's failure becomes an OdbcError.
+namespace qvzj {
+
+/// What the driver said, with the five characters of the SQLSTATE of its first record.
+class OdbcError : public DataError {
+ public:
+  OdbcError(std::string state, const std::string& text)
+      : DataError(text + " (SQLSTATE " + state + ")"), state_(std::move(state)) {}
+  const std::string& State() const { return state_; }
+  /// True when the state alone says that the connection is gone.
+  bool ConnectionLost() const;
+
+ private:
+  std::string state_;
+};
+
+/// One handle of the driver manager, freed with the object.
+template <SQLSMALLINT kType>
+class OdbcHandle {
+ public:
+  explicit OdbcHandle(SQLHANDLE parent);
+  ~OdbcHandle() { SQLFreeHandle(kType, handle_); }
+  OdbcHandle(const OdbcHandle&) = delete;
+  OdbcHandle& operator=(const OdbcHandle&) = delete;
+
+  SQLHANDLE Get() const { return handle_; }
+  /// Throws what the driver said when `result` is a failure.
+  void Check(SQLRETURN result) const {
+    if (!SQL_SUCCEEDED(result)) Throw();
+  }
+  [[noreturn]] void Throw() const;
+
+ private:
+  SQLHANDLE handle_ = SQL_NULL_HANDLE;
+};
+
+using OdbcEnvironment = OdbcHandle<SQL_HANDLE_ENV>;
+using OdbcStatement = OdbcHandle<SQL_HANDLE_STMT>;
+
+/// A connection of its own, closed with the object.
+class OdbcConnection {
+ public:
+  /// Opens by a connection string. Timeouts in seconds, 0 = none.
+  OdbcConnection(const std::string& connection_string, int login_timeout);
+  ~OdbcConnection();
+
+  SQLHANDLE Get() const { return connection_.Get(); }
+  /// True when the driver knows that the server is gone.
+  bool Dead() const;
+  /// The driver reads long values of any row of a block.
+  bool ReadsLongValuesInBlocks() const { return long_values_in_blocks_; }
+
+ private:
+  OdbcEnvironment environment_{SQL_NULL_HANDLE};
+  OdbcHandle<SQL_HANDLE_DBC> connection_;
+  bool long_values_in_blocks_ = false;
+};
+
+}  // namespace qvzj

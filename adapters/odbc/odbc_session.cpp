@@ -1,0 +1,159 @@
+#include "adapters/odbc/odbc_session.h"
+
+#include <algorithm>
+
+#include "adapters/icu/utf16.h"
+#include "adapters/odbc/odbc_fetch.h"
+#include "adapters/odbc/odbc_handle.h"
+#include "platform/basic/text.h"
+
+namespace qvzj {
+namespace {
+
+/// What the user reads when a change may or may not have been stored, by language.
+constexpr const char* kOutcomeUnknown[2] = {
+    "与数据库服务器的连接在存盘时中断，无法确定这次修改是否已经保存。请先刷新核对，再决定是否重做。",
+    "與資料庫伺服器的連線在存檔時中斷，無法確定這次修改是否已經儲存。請先重新整理核對，"
+    "再決定是否重做。",
+};
+
+bool IsRead(const std::string& sql) {
+  return basic::EqualIgnoringCase(std::string_view(sql).substr(0, 6), "select");
+}
+
+bool IsPlainName(const std::string& name) {
+  return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+  });
+}
+
+void Start(const OdbcStatement& statement, const std::string& sql) {
+  std::u16string wide = ToUtf16(sql);
+  const SQLRETURN result =
+      SQLExecDirectW(statement.Get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
+                     static_cast<SQLINTEGER>(wide.size()));
+  if (result != SQL_NO_DATA) statement.Check(result);
+}
+
+}  // namespace
+
+OdbcSession::OdbcSession(OdbcOptions options)
+    : options_(std::move(options)),
+      schema_([this](const std::string& table) { return DescribeTable(table); }) {
+  Connect();
+}
+
+OdbcSession::~OdbcSession() = default;
+
+void OdbcSession::Connect() {
+  try {
+    connection_ =
+        std::make_unique<OdbcConnection>(options_.connection_string, options_.login_timeout);
+    Prepare();
+  } catch (const DataError& error) {
+    connection_.reset();
+    throw WithoutSecrets(error);
+  }
+}
+
+void OdbcSession::Prepare() {
+  if (options_.engine == ServerEngine::TransactSql) {
+    RunOnce("SET DATEFORMAT mdy");
+    return;
+  }
+  RunOnce("SET standard_conforming_strings = on");
+  // The suite's own orders let case decide nothing; a database without them has its engine's.
+  text_orders_[0] = "\"zh-Hans-x-icu\"";
+  text_orders_[1] = "\"zh-Hant-x-icu\"";
+  data::Recordset own = RunOnce(
+      "select collname from pg_collation where collname in ('qv_pinyin','qv_stroke')");
+  for (; !own.Eof(); own.MoveNext()) {
+    text_orders_[own.Text(0) == "qv_stroke" ? 1 : 0] = own.Text(0);
+  }
+}
+
+dialect::Translation OdbcSession::Translate(std::string_view statement) {
+  const dialect::Target target = options_.engine == ServerEngine::TransactSql
+                                     ? dialect::TransactSqlTarget()
+                                     : dialect::PostgresTarget(text_orders_[Language()]);
+  return dialect::Translate(statement, target, schema_);
+}
+
+void OdbcSession::Execute(std::string_view statement) { Query(statement); }
+
+data::Recordset OdbcSession::Query(std::string_view statement) {
+  const dialect::Translation translation = Translate(statement);
+  if (translation.text.empty()) throw DataError("Command text was not set for the command object");
+  if (translation.added) {
+    const auto& [table, column] = *translation.added;
+    if (schema_.TypeOf(table, column) != dialect::ColumnType::Unknown) return {{}, {}};
+    schema_.Forget();
+  }
+  return Run(translation.text);
+}
+
+data::Recordset OdbcSession::Native(std::string_view sql) { return Run(std::string(sql)); }
+
+data::Recordset OdbcSession::Run(const std::string& sql) {
+  if (!connection_) Connect();
+  try {
+    return RunOnce(sql);
+  } catch (const OdbcError& error) {
+    if (!error.ConnectionLost() && !connection_->Dead()) throw WithoutSecrets(error);
+    connection_.reset();
+    if (!IsRead(sql)) {
+      throw DataError(std::string(kOutcomeUnknown[Language()]) + "\n" +
+                      WithoutSecrets(error).what());
+    }
+  }
+  Connect();
+  try {
+    return RunOnce(sql);
+  } catch (const OdbcError& error) {
+    throw WithoutSecrets(error);
+  }
+}
+
+data::Recordset OdbcSession::RunOnce(const std::string& sql) {
+  const OdbcStatement statement(connection_->Get());
+  // The module's texts hold braces and question marks that are nobody's parameters.
+  SQLSetStmtAttr(statement.Get(), SQL_ATTR_NOSCAN, reinterpret_cast<SQLPOINTER>(SQL_NOSCAN_ON), 0);
+  if (options_.statement_timeout > 0) {
+    SQLSetStmtAttr(statement.Get(), SQL_ATTR_QUERY_TIMEOUT,
+                   reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(options_.statement_timeout)),
+                   0);
+  }
+  Start(statement, sql);
+  return FetchAll(statement, connection_->ReadsLongValuesInBlocks());
+}
+
+OdbcSchema::Columns OdbcSession::DescribeTable(const std::string& table) {
+  if (!IsPlainName(table)) return {};
+  if (!connection_) Connect();
+  OdbcSchema::Columns columns;
+  try {
+    const OdbcStatement statement(connection_->Get());
+    Start(statement, "select * from " + table + " where 1=0");
+    for (OdbcColumn& column : DescribeColumns(statement)) {
+      columns.emplace(basic::Lower(column.name), column.type);
+    }
+  } catch (const OdbcError& error) {
+    const bool no_such_table = error.State() == "42P01" || error.State() == "42S02";
+    if (no_such_table) return {};
+    if (!error.ConnectionLost() && !connection_->Dead()) throw WithoutSecrets(error);
+    connection_.reset();
+    Connect();
+    return DescribeTable(table);
+  }
+  return columns;
+}
+
+DataError OdbcSession::WithoutSecrets(const DataError& error) const {
+  std::string text = error.what();
+  for (const std::string& secret : options_.secrets) {
+    if (!secret.empty()) text = basic::Replace(text, secret, "***");
+  }
+  return DataError(text);
+}
+
+}  // namespace qvzj

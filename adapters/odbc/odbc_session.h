@@ -1,0 +1,70 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "adapters/dialect/translate.h"
+#include "adapters/odbc/odbc_schema.h"
+#include "platform/basic/errors.h"
+#include "platform/data/connection.h"
+
+namespace qvzj {
+
+class OdbcConnection;
+
+enum class ServerEngine {
+  PostgreSql,   ///< PostgreSQL and servers that speak its language
+  TransactSql,  ///< SQL Server and other servers of its protocol
+};
+
+/// How a database server is reached and used.
+struct OdbcOptions {
+  ServerEngine engine = ServerEngine::PostgreSql;
+  /// Complete ODBC connection string, credentials included.
+  std::string connection_string;
+  /// Texts that must never show in an error: the driver's messages are cleared of them.
+  std::vector<std::string> secrets;
+  /// Seconds to wait for the server at the start; 0 = the driver's own.
+  int login_timeout = 10;
+  /// Seconds a statement may take; 0 = no limit.
+  int statement_timeout = 0;
+  /// Order of texts, asked at every statement: 0 by pinyin, 1 by strokes. Empty: by pinyin.
+  std::function<int()> language;
+};
+
+/// A session on a database server through ODBC. A read that finds the connection dropped is run
+/// once more on a new one; a write is not, because nobody knows whether it took effect.
+/// Not to be used from two threads at once.
+class OdbcSession : public data::Session {
+ public:
+  /// Connects. Throws DataError with what the driver said.
+  explicit OdbcSession(OdbcOptions options);
+  ~OdbcSession() override;
+
+  void Execute(std::string_view statement) override;
+  data::Recordset Query(std::string_view statement) override;
+
+  /// Runs one statement in the server's own language and reads its rows.
+  data::Recordset Native(std::string_view sql);
+  /// What stands in the server's own language for a statement of the module.
+  dialect::Translation Translate(std::string_view statement);
+
+ private:
+  data::Recordset Run(const std::string& sql);
+  data::Recordset RunOnce(const std::string& sql);
+  OdbcSchema::Columns DescribeTable(const std::string& table);
+  void Connect();
+  void Prepare();
+  DataError WithoutSecrets(const DataError& error) const;
+  int Language() const { return options_.language && options_.language() == 1 ? 1 : 0; }
+
+  OdbcOptions options_;
+  std::unique_ptr<OdbcConnection> connection_;  // null: lost, to be opened at the next statement
+  OdbcSchema schema_;
+  std::string text_orders_[2];  // collations by language
+};
+
+}  // namespace qvzj

@@ -1,0 +1,36 @@
+#include "suite/connections.h"
+#include "platform/basic/errors.h"
+
+#ifdef QV_WITH_ODBC
+#include "adapters/odbc/data_sources.h"
+#include "adapters/odbc/odbc_session.h"
+#endif
+
+namespace qvzj {
+
+#ifdef QV_WITH_ODBC
+
+std::unique_ptr<data::Session> OpenServer(const ServerLogin& login,
+                                          const ConnectionOptions& options) {
+  ServerOptions server = options.server;
+  if (!server.is_data_source) server.is_data_source = IsDataSource;
+  OdbcOptions odbc;
+  odbc.engine = server.kind == ServerKind::TransactSql ? ServerEngine::TransactSql
+                                                       : ServerEngine::PostgreSql;
+  odbc.connection_string = ConnectionString(login, server);
+  odbc.secrets = {login.password};
+  odbc.login_timeout = options.login_timeout;
+  odbc.statement_timeout = options.statement_timeout;
+  odbc.language = options.language;
+  return std::make_unique<OdbcSession>(std::move(odbc));
+}
+
+#else
+
+std::unique_ptr<data::Session> OpenServer(const ServerLogin&, const ConnectionOptions&) {
+  throw DataError("This program was built without access to database servers");
+}
+
+#endif
+
+}  // namespace qvzj

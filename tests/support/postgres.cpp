@@ -1,0 +1,180 @@
+#include "tests/support/postgres.h"
+
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <grp.h>
+#include <pwd.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <fstream>
+#include <sstream>
+#include <thread>
+#include <vector>
+
+#include "adapters/odbc/odbc_session.h"
+#include "suite/connections.h"
+#include "suite/schema.h"
+
+namespace qvzj::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Words = std::vector<std::string>;
+
+constexpr const char* kPrograms = "/usr/lib/postgresql/15/bin/";
+/// The server refuses to run as root; this is whom it runs as then.
+constexpr const char* kUnprivileged = "postgres";
+
+/// Starts a program as an unprivileged user, with its output in `log`. The program is ended by the
+/// kernel when this process is gone.
+pid_t Spawn(const Words& words, const fs::path& log) {
+  std::vector<char*> arguments;
+  for (const std::string& word : words) arguments.push_back(const_cast<char*>(word.c_str()));
+  arguments.push_back(nullptr);
+  const passwd* user = geteuid() == 0 ? getpwnam(kUnprivileged) : nullptr;
+  const pid_t parent = getpid();
+  const pid_t child = fork();
+  if (child != 0) return child;
+  if (user && (setgroups(0, nullptr) != 0 || setgid(user->pw_gid) != 0 ||
+               setuid(user->pw_uid) != 0)) {
+    _exit(126);
+  }
+  prctl(PR_SET_PDEATHSIG, SIGQUIT);
+  if (getppid() != parent) _exit(126);
+  const int output = open(log.c_str(), O_WRONLY | O_APPEND);
+  dup2(output, STDOUT_FILENO);
+  dup2(output, STDERR_FILENO);
+  execv(arguments[0], arguments.data());
+  _exit(127);
+}
+
+int Wait(pid_t child) {
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+/// A port of the loopback interface that nobody uses right now.
+int FreePort() {
+  const int probe = socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  socklen_t size = sizeof address;
+  const bool bound = bind(probe, reinterpret_cast<sockaddr*>(&address), size) == 0 &&
+                     getsockname(probe, reinterpret_cast<sockaddr*>(&address), &size) == 0;
+  close(probe);
+  if (!bound) throw std::runtime_error("no free port");
+  return ntohs(address.sin_port);
+}
+
+bool Listens(int port) {
+  const int probe = socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  address.sin_port = htons(static_cast<uint16_t>(port));
+  const bool listens = connect(probe, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
+  close(probe);
+  return listens;
+}
+
+std::string Contents(const fs::path& file) {
+  std::ostringstream text;
+  text << std::ifstream(file).rdbuf();
+  return text.str();
+}
+
+/// Runs statements in the server's own language.
+void Natively(const std::unique_ptr<data::Session>& session, const Words& statements) {
+  for (const std::string& statement : statements) {
+    static_cast<OdbcSession&>(*session).Native(statement);
+  }
+}
+
+}  // namespace
+
+std::string PrivatePostgres::Missing() {
+  if (!fs::exists(std::string(kPrograms) + "postgres")) return "PostgreSQL 15 is not installed";
+  if (geteuid() == 0 && !getpwnam(kUnprivileged)) return "there is no user to run PostgreSQL as";
+  return "";
+}
+
+PrivatePostgres::PrivatePostgres() {
+  InitializeCluster();
+  Start();
+}
+
+PrivatePostgres::~PrivatePostgres() {
+  if (server_ < 0) return;
+  kill(server_, SIGQUIT);
+  Wait(server_);
+}
+
+void PrivatePostgres::InitializeCluster() {
+  const fs::path log = Log();
+  const fs::path password = folder_.Path() / "password";
+  std::ofstream(password) << kPassword << "\n";
+  std::ofstream(log).flush();
+  if (const passwd* user = geteuid() == 0 ? getpwnam(kUnprivileged) : nullptr) {
+    for (const fs::path& path : {folder_.Path(), log, password}) {
+      if (chown(path.c_str(), user->pw_uid, user->pw_gid) != 0) {
+        throw std::runtime_error("the server's folder cannot be handed over");
+      }
+    }
+  }
+  const Words words{std::string(kPrograms) + "initdb", "--pgdata",
+                    (folder_.Path() / "data").string(), "--username", kUser,
+                    "--pwfile", password.string(), "--auth=scram-sha-256", "--encoding=UTF8",
+                    "--locale=C", "--no-sync", "--no-instructions"};
+  if (Wait(Spawn(words, log)) != 0) throw std::runtime_error("initdb failed: " + Contents(log));
+}
+
+void PrivatePostgres::Start() {
+  if (port_ == 0) port_ = FreePort();
+  const auto give_up = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+  const Words ready{std::string(kPrograms) + "pg_isready", "-q", "-h", "127.0.0.1",
+                    "-p", std::to_string(port_)};
+  while (std::chrono::steady_clock::now() < give_up) {
+    // What a killed server left behind may keep the next one from starting for a moment.
+    if (server_ < 0 || waitpid(server_, nullptr, WNOHANG) == server_) SpawnServer();
+    if (Listens(port_) && Wait(Spawn(ready, Log())) == 0) return;
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+  }
+  throw std::runtime_error("the server did not start: " + Contents(Log()));
+}
+
+void PrivatePostgres::SpawnServer() {
+  server_ = Spawn({std::string(kPrograms) + "postgres", "-D", (folder_.Path() / "data").string(),
+                   "-p", std::to_string(port_), "-c", "listen_addresses=127.0.0.1",
+                   "-c", "unix_socket_directories=" + folder_.Path().string(), "-c", "fsync=off"},
+                  Log());
+}
+
+void PrivatePostgres::Kill() {
+  kill(server_, SIGKILL);
+  Wait(server_);
+  server_ = -1;
+}
+
+void PrivatePostgres::Run(const std::string& database, const std::string& sql) {
+  Natively(OpenServer({Address(), kUser, kPassword, database}, {}), {sql});
+}
+
+std::string PrivatePostgres::MakeDatabase() {
+  constexpr const char* kTemplate = "qvzj_empty";
+  if (databases_ == 0) {
+    Run("postgres", std::string("create database ") + kTemplate);
+    Natively(OpenServer({Address(), kUser, kPassword, kTemplate}, {}), PostgresSchema());
+  }
+  const std::string name = "qvzj_" + std::to_string(++databases_);
+  Run("postgres", "create database " + name + " template " + kTemplate);
+  return name;
+}
+
+}  // namespace qvzj::test

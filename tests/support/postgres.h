@@ -1,0 +1,50 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <memory>
+#include <string>
+
+#include "tests/support/temporary_folder.h"
+
+namespace qvzj::test {
+
+/// A private PostgreSQL server on a loopback port of its own, in a folder of its own. It ends with
+/// the object and, should this process be killed, with the process.
+class PrivatePostgres {
+ public:
+  /// Why no server can be started here; "" when one can.
+  static std::string Missing();
+
+  /// Makes the cluster and starts it. Throws std::runtime_error with the server's log.
+  PrivatePostgres();
+  ~PrivatePostgres();
+  PrivatePostgres(const PrivatePostgres&) = delete;
+  PrivatePostgres& operator=(const PrivatePostgres&) = delete;
+
+  /// "127.0.0.1:port", as the connection component takes it.
+  std::string Address() const { return "127.0.0.1:" + std::to_string(port_); }
+  static constexpr const char* kUser = "qvzj";
+  static constexpr const char* kPassword = "geheim;{1}";
+
+  /// Makes a database with the suite's empty tables and answers its name.
+  std::string MakeDatabase();
+  /// Runs statements in the server's own language on `database`.
+  void Run(const std::string& database, const std::string& sql);
+
+  /// Ends the server without warning, as a failing machine does.
+  void Kill();
+  void Start();
+
+ private:
+  void InitializeCluster();
+  void SpawnServer();
+  std::filesystem::path Log() const { return folder_.Path() / "log"; }
+
+  TemporaryFolder folder_;
+  int port_ = 0;
+  pid_t server_ = -1;
+  int databases_ = 0;
+};
+
+}  // namespace qvzj::test
