@@ -29,9 +29,8 @@ bool SuiteConnections::OpenConnection(uint8_t kind, data::Connection& connection
                                       const std::string& default_database) {
   last_error_.clear();
   try {
-    connection.Attach(kind == 0
-                          ? OpenFolder(path, options)
-                          : OpenServer({path, user_id, password, default_database}, options));
+    connection.Attach(kind == 0 ? OpenFolder(path, options)
+                                : OpenServer({path, user_id, password, default_database}, options));
     return true;
   } catch (const DataError& error) {
     last_error_ = error.what();

@@ -17,7 +17,7 @@ struct ConnectionOptions {
   /// for 1. Empty: by pinyin.
   std::function<int()> language;
   /// What stands behind every kind other than 0.
-  ServerOptions server;
+  ServerOptions server{};
   /// Seconds to wait for a server that does not answer.
   int login_timeout = 10;
   /// Seconds a statement may take on a server; 0 = no limit.

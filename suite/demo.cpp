@@ -65,12 +65,9 @@ class DemoMaker {
       const char* traditional;
     };
     static constexpr Function kFunctions[] = {
-        {21, "mnuCard", "客户资料", "客戶資料"},
-        {22, "mnuCardAdd", "新增客户", "新增客戶"},
-        {23, "mnuCardPlan", "拜访计划", "拜訪計劃"},
-        {24, "mnuCardPrint", "客户打印", "客戶列印"},
-        {25, "mnuZjComp", "客户往来帐", "客戶往來帳"},
-        {26, "mnuZjAcnt", "资金帐户", "資金帳戶"},
+        {21, "mnuCard", "客户资料", "客戶資料"},       {22, "mnuCardAdd", "新增客户", "新增客戶"},
+        {23, "mnuCardPlan", "拜访计划", "拜訪計劃"},   {24, "mnuCardPrint", "客户打印", "客戶列印"},
+        {25, "mnuZjComp", "客户往来帐", "客戶往來帳"}, {26, "mnuZjAcnt", "资金帐户", "資金帳戶"},
     };
     RowWriter table(session_, "tSysFunc",
                     {"SerialNo", "model_Name", "Model_Name_0", "Model_Name_1", "SecondPass",

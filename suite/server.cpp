@@ -1,5 +1,5 @@
-#include "suite/connections.h"
 #include "platform/basic/errors.h"
+#include "suite/connections.h"
 
 #ifdef QV_WITH_ODBC
 #include "adapters/odbc/data_sources.h"
@@ -15,8 +15,8 @@ std::unique_ptr<data::Session> OpenServer(const ServerLogin& login,
   ServerOptions server = options.server;
   if (!server.is_data_source) server.is_data_source = IsDataSource;
   OdbcOptions odbc;
-  odbc.engine = server.kind == ServerKind::TransactSql ? ServerEngine::TransactSql
-                                                       : ServerEngine::PostgreSql;
+  odbc.engine =
+      server.kind == ServerKind::TransactSql ? ServerEngine::TransactSql : ServerEngine::PostgreSql;
   odbc.connection_string = ConnectionString(login, server);
   odbc.secrets = {login.password};
   odbc.login_timeout = options.login_timeout;

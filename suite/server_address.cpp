@@ -7,7 +7,7 @@ namespace {
 
 /// A value with the characters that end one put between braces.
 std::string Quoted(const std::string& value) {
-  if (value.find_first_of(";{}=[]() ,?*!@") == std::string::npos) return value;
+  if (value.find_first_of(";{}=[]() ,?*!@:") == std::string::npos) return value;
   return "{" + basic::Replace(value, "}", "}}") + "}";
 }
 

@@ -25,15 +25,19 @@ OdbcColumn Described(std::string name, SQLSMALLINT type, SQLULEN size) {
     case SQL_TINYINT:
     case SQL_SMALLINT:
     case SQL_INTEGER:
-    case SQL_BIGINT: return {std::move(name), ColumnType::Number, true, size};
+    case SQL_BIGINT:
+      return {std::move(name), ColumnType::Number, true, size};
     case SQL_REAL:
     case SQL_FLOAT:
     case SQL_DOUBLE:
     case SQL_NUMERIC:
-    case SQL_DECIMAL: return {std::move(name), ColumnType::Number, false, size};
+    case SQL_DECIMAL:
+      return {std::move(name), ColumnType::Number, false, size};
     case SQL_TYPE_DATE:
-    case SQL_TYPE_TIMESTAMP: return {std::move(name), ColumnType::Date, false, size};
-    default: return {std::move(name), ColumnType::Text, false, size};
+    case SQL_TYPE_TIMESTAMP:
+      return {std::move(name), ColumnType::Date, false, size};
+    default:
+      return {std::move(name), ColumnType::Text, false, size};
   }
 }
 
@@ -73,8 +77,7 @@ class BoundColumn {
     }
     const std::byte* place = block_.get() + row * width_;
     if (IsText()) {
-      const bool fits =
-          length >= 0 && static_cast<size_t>(length) <= width_ - sizeof(char16_t);
+      const bool fits = length >= 0 && static_cast<size_t>(length) <= width_ - sizeof(char16_t);
       if (fits) {
         AppendText({reinterpret_cast<const char16_t*>(place),
                     static_cast<size_t>(length) / sizeof(char16_t)});
@@ -98,8 +101,8 @@ class BoundColumn {
     std::array<char16_t, 8192> piece{};
     while (true) {
       SQLLEN length = 0;
-      const SQLRETURN result = SQLGetData(statement.Get(), number_, SQL_C_WCHAR, piece.data(),
-                                          sizeof piece, &length);
+      const SQLRETURN result =
+          SQLGetData(statement.Get(), number_, SQL_C_WCHAR, piece.data(), sizeof piece, &length);
       if (result == SQL_NO_DATA) break;
       statement.Check(result);
       if (length == SQL_NULL_DATA) return values_.AppendNull();
@@ -220,10 +223,9 @@ std::vector<OdbcColumn> DescribeColumns(const OdbcStatement& statement) {
     SQLULEN size = 0;
     SQLSMALLINT decimals = 0;
     SQLSMALLINT nullable = 0;
-    statement.Check(SQLDescribeColW(statement.Get(), static_cast<SQLUSMALLINT>(i),
-                                    reinterpret_cast<SQLWCHAR*>(name.data()),
-                                    static_cast<SQLSMALLINT>(name.size()), &name_length, &type,
-                                    &size, &decimals, &nullable));
+    statement.Check(SQLDescribeColW(
+        statement.Get(), static_cast<SQLUSMALLINT>(i), reinterpret_cast<SQLWCHAR*>(name.data()),
+        static_cast<SQLSMALLINT>(name.size()), &name_length, &type, &size, &decimals, &nullable));
     std::string utf8;
     ToUtf8({name.data(), static_cast<size_t>(name_length)}, utf8);
     columns.push_back(Described(std::move(utf8), type, size));

@@ -1,5 +1,6 @@
 #include "adapters/odbc/odbc_handle.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -27,7 +28,8 @@ OdbcError ErrorOf(SQLSMALLINT type, SQLHANDLE handle) {
     if (!SQL_SUCCEEDED(result)) break;
     std::string piece;
     ToUtf8({text.data(), std::char_traits<char16_t>::length(text.data())}, piece);
-    while (!piece.empty() && (piece.back() == '\n' || piece.back() == ' ')) piece.pop_back();
+    std::replace(piece.begin(), piece.end(), '\n', ' ');
+    while (!piece.empty() && piece.back() == ' ') piece.pop_back();
     if (!said.empty()) said += "; ";
     said += piece;
     if (record == 1) ToUtf8({state.data(), 5}, first_state);

@@ -12,7 +12,8 @@ namespace {
 
 /// What the user reads when a change may or may not have been stored, by language.
 constexpr const char* kOutcomeUnknown[2] = {
-    "与数据库服务器的连接在存盘时中断，无法确定这次修改是否已经保存。请先刷新核对，再决定是否重做。",
+    "与数据库服务器的连接在存盘时中断，无法确定这次修改是否已经保存。请先刷新核对，再决定是否重做"
+    "。",
     "與資料庫伺服器的連線在存檔時中斷，無法確定這次修改是否已經儲存。請先重新整理核對，"
     "再決定是否重做。",
 };
@@ -27,11 +28,28 @@ bool IsPlainName(const std::string& name) {
   });
 }
 
+bool IsWordCharacter(char c) { return IsPlainName(std::string(1, c)); }
+
+/// Puts "***" for every place where `secret` stands by itself.
+void HideWord(std::string& text, const std::string& secret) {
+  if (secret.empty()) return;
+  for (size_t at = 0; (at = text.find(secret, at)) != std::string::npos;) {
+    const size_t end = at + secret.size();
+    const bool begins_inside = at > 0 && IsWordCharacter(text[at - 1]);
+    const bool ends_inside = end < text.size() && IsWordCharacter(text[end]);
+    if (begins_inside || ends_inside) {
+      at = end;
+    } else {
+      text.replace(at, secret.size(), "***");
+      at += 3;
+    }
+  }
+}
+
 void Start(const OdbcStatement& statement, const std::string& sql) {
   std::u16string wide = ToUtf16(sql);
-  const SQLRETURN result =
-      SQLExecDirectW(statement.Get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
-                     static_cast<SQLINTEGER>(wide.size()));
+  const SQLRETURN result = SQLExecDirectW(statement.Get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
+                                          static_cast<SQLINTEGER>(wide.size()));
   if (result != SQL_NO_DATA) statement.Check(result);
 }
 
@@ -65,8 +83,8 @@ void OdbcSession::Prepare() {
   // The suite's own orders let case decide nothing; a database without them has its engine's.
   text_orders_[0] = "\"zh-Hans-x-icu\"";
   text_orders_[1] = "\"zh-Hant-x-icu\"";
-  data::Recordset own = RunOnce(
-      "select collname from pg_collation where collname in ('qv_pinyin','qv_stroke')");
+  data::Recordset own =
+      RunOnce("select collname from pg_collation where collname in ('qv_pinyin','qv_stroke')");
   for (; !own.Eof(); own.MoveNext()) {
     text_orders_[own.Text(0) == "qv_stroke" ? 1 : 0] = own.Text(0);
   }
@@ -151,7 +169,7 @@ OdbcSchema::Columns OdbcSession::DescribeTable(const std::string& table) {
 DataError OdbcSession::WithoutSecrets(const DataError& error) const {
   std::string text = error.what();
   for (const std::string& secret : options_.secrets) {
-    if (!secret.empty()) text = basic::Replace(text, secret, "***");
+    HideWord(text, secret);
   }
   return DataError(text);
 }

@@ -40,8 +40,8 @@ pid_t Spawn(const Words& words, const fs::path& log) {
   const pid_t parent = getpid();
   const pid_t child = fork();
   if (child != 0) return child;
-  if (user && (setgroups(0, nullptr) != 0 || setgid(user->pw_gid) != 0 ||
-               setuid(user->pw_uid) != 0)) {
+  if (user &&
+      (setgroups(0, nullptr) != 0 || setgid(user->pw_gid) != 0 || setuid(user->pw_uid) != 0)) {
     _exit(126);
   }
   prctl(PR_SET_PDEATHSIG, SIGQUIT);
@@ -128,18 +128,26 @@ void PrivatePostgres::InitializeCluster() {
       }
     }
   }
-  const Words words{std::string(kPrograms) + "initdb", "--pgdata",
-                    (folder_.Path() / "data").string(), "--username", kUser,
-                    "--pwfile", password.string(), "--auth=scram-sha-256", "--encoding=UTF8",
-                    "--locale=C", "--no-sync", "--no-instructions"};
+  const Words words{std::string(kPrograms) + "initdb",
+                    "--pgdata",
+                    (folder_.Path() / "data").string(),
+                    "--username",
+                    kUser,
+                    "--pwfile",
+                    password.string(),
+                    "--auth=scram-sha-256",
+                    "--encoding=UTF8",
+                    "--locale=C",
+                    "--no-sync",
+                    "--no-instructions"};
   if (Wait(Spawn(words, log)) != 0) throw std::runtime_error("initdb failed: " + Contents(log));
 }
 
 void PrivatePostgres::Start() {
   if (port_ == 0) port_ = FreePort();
   const auto give_up = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-  const Words ready{std::string(kPrograms) + "pg_isready", "-q", "-h", "127.0.0.1",
-                    "-p", std::to_string(port_)};
+  const Words ready{
+      std::string(kPrograms) + "pg_isready", "-q", "-h", "127.0.0.1", "-p", std::to_string(port_)};
   while (std::chrono::steady_clock::now() < give_up) {
     // What a killed server left behind may keep the next one from starting for a moment.
     if (server_ < 0 || waitpid(server_, nullptr, WNOHANG) == server_) SpawnServer();
@@ -151,8 +159,8 @@ void PrivatePostgres::Start() {
 
 void PrivatePostgres::SpawnServer() {
   server_ = Spawn({std::string(kPrograms) + "postgres", "-D", (folder_.Path() / "data").string(),
-                   "-p", std::to_string(port_), "-c", "listen_addresses=127.0.0.1",
-                   "-c", "unix_socket_directories=" + folder_.Path().string(), "-c", "fsync=off"},
+                   "-p", std::to_string(port_), "-c", "listen_addresses=127.0.0.1", "-c",
+                   "unix_socket_directories=" + folder_.Path().string(), "-c", "fsync=off"},
                   Log());
 }
 

@@ -80,8 +80,9 @@ TEST(PostgresStatements, RegisterListIsOrderedOutsideItsDistinctRows) {
 }
 
 TEST(PostgresStatements, EntrySave) {
-  EXPECT_EQ(Postgres("Insert Into tAccountDetail (fDate,fBrief) Values ('03/15/2003','03/15/2003')"),
-            "Insert Into tAccountDetail (fDate,fBrief) Values (DATE '2003-03-15','03/15/2003')");
+  EXPECT_EQ(
+      Postgres("Insert Into tAccountDetail (fDate,fBrief) Values ('03/15/2003','03/15/2003')"),
+      "Insert Into tAccountDetail (fDate,fBrief) Values (DATE '2003-03-15','03/15/2003')");
   EXPECT_EQ(Postgres("Update tAccountDetail Set fDate='03/15/2003',fBrief='Abc' Where fID=12"),
             "Update tAccountDetail Set fDate=DATE '2003-03-15',fBrief='Abc' Where fID=12");
 }

@@ -20,8 +20,8 @@ inline ServerLogin LoginTo(const std::string& database) {
 }  // namespace qvzj::test
 
 /// Skips a test where no server can be started, and says why.
-#define QV_NEEDS_SERVER()                                            \
-  do {                                                               \
+#define QV_NEEDS_SERVER()                                               \
+  do {                                                                  \
     const std::string missing = qvzj::test::PrivatePostgres::Missing(); \
-    if (!missing.empty()) GTEST_SKIP() << missing;                   \
+    if (!missing.empty()) GTEST_SKIP() << missing;                      \
   } while (false)

@@ -1,0 +1,73 @@
+#include "suite/server_address.h"
+
+#include <gtest/gtest.h>
+
+namespace qvzj {
+namespace {
+
+constexpr const char* kPostgresHabits =
+    "SSLmode=prefer;UseDeclareFetch=1;Fetch=4096;KeepaliveTime=30;KeepaliveInterval=10;";
+
+std::string Text(const std::string& address, const ServerOptions& options = {}) {
+  return ConnectionString({address, "clerk", "pw", "suite"}, options);
+}
+
+ServerOptions TransactSql() {
+  ServerOptions options;
+  options.kind = ServerKind::TransactSql;
+  return options;
+}
+
+TEST(ServerAddress, NamesAHostAlone) {
+  EXPECT_EQ(Text("db.firm.cn"), std::string("DRIVER={PostgreSQL Unicode};SERVER=db.firm.cn;"
+                                            "DATABASE=suite;UID=clerk;PWD=pw;") +
+                                    kPostgresHabits);
+}
+
+TEST(ServerAddress, NamesAHostWithItsPort) {
+  EXPECT_EQ(Text("10.0.0.5:5433"), std::string("DRIVER={PostgreSQL Unicode};SERVER=10.0.0.5;"
+                                               "PORT=5433;DATABASE=suite;UID=clerk;PWD=pw;") +
+                                       kPostgresHabits);
+  EXPECT_NE(Text("[::1]:5433").find("SERVER={::1};PORT=5433;"), std::string::npos)
+      << Text("[::1]:5433");
+}
+
+TEST(ServerAddress, NamesAnInstanceOfAHost) {
+  EXPECT_EQ(Text("server\\sales", TransactSql()),
+            "DRIVER={ODBC Driver 18 for SQL Server};SERVER=server\\sales;DATABASE=suite;"
+            "UID=clerk;PWD=pw;Encrypt=optional;");
+  EXPECT_NE(Text("server:1444", TransactSql()).find("SERVER={server,1444};"), std::string::npos);
+}
+
+TEST(ServerAddress, NamesADataSourceOfTheMachine) {
+  ServerOptions options;
+  options.is_data_source = [](const std::string& name) { return name == "Books"; };
+  EXPECT_EQ(Text("Books", options),
+            std::string("DSN=Books;DATABASE=suite;UID=clerk;PWD=pw;") + kPostgresHabits);
+}
+
+TEST(ServerAddress, KeepsWhatAWholeConnectionStringSays) {
+  EXPECT_EQ(Text("Driver=/opt/x.so;Server=s;uid=other;SSLmode=verify-full"),
+            "Driver=/opt/x.so;Server=s;uid=other;SSLmode=verify-full;DATABASE=suite;PWD=pw;"
+            "UseDeclareFetch=1;Fetch=4096;KeepaliveTime=30;KeepaliveInterval=10;");
+}
+
+TEST(ServerAddress, LeavesOutWhatIsNotGiven) {
+  EXPECT_EQ(ConnectionString({"h", "", "", ""}, {}),
+            std::string("DRIVER={PostgreSQL Unicode};SERVER=h;") + kPostgresHabits);
+}
+
+TEST(ServerAddress, QuotesWhatWouldEndAValue) {
+  EXPECT_NE(ConnectionString({"h", "", "a;b}c", ""}, {}).find("PWD={a;b}}c};"), std::string::npos);
+}
+
+TEST(ServerAddress, RequiresEncryptionWhereAsked) {
+  ServerOptions options;
+  options.require_tls = true;
+  EXPECT_NE(Text("h", options).find("SSLmode=require;"), std::string::npos);
+  options.kind = ServerKind::TransactSql;
+  EXPECT_NE(Text("h", options).find("Encrypt=yes;"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace qvzj
