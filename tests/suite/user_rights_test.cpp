@@ -117,6 +117,17 @@ TEST(Delay, SurvivesARestart) {
   EXPECT_EQ(again.Try("wang", "secret", now + 1).kind, Kind::TooSoon);
 }
 
+TEST(Delay, CountsTheTriesOfTwoProgramsTogether) {
+  RightsFolder folder;
+  RightsDatabase one(folder.File(), kCreate);
+  one.Add("wang", "secret", "");
+  RightsDatabase other(folder.File(), kFail);
+  EXPECT_EQ(one.Try("wang", "wrong", 1000).kind, Kind::Wrong);
+  EXPECT_EQ(other.Try("wang", "wrong", 1000).kind, Kind::Wrong);
+  EXPECT_EQ(one.Try("wang", "wrong", 1000).kind, Kind::Wrong);
+  EXPECT_EQ(other.Try("wang", "secret", 1000).kind, Kind::TooSoon);
+}
+
 TEST(Delay, ConcernsOnlyTheNameThatWasTried) {
   RightsFolder folder;
   RightsDatabase rights(folder.File(), kCreate);
