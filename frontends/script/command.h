@@ -38,10 +38,11 @@ struct Command {
 
 inline constexpr size_t kAnyNumber = static_cast<size_t>(-1);
 
-/// The commands by group: the host's, the user's, and those that look.
+/// The commands by group: the host's, the user's, those that look, and those that draw.
 std::span<const Command> HostCommands();
 std::span<const Command> UserCommands();
 std::span<const Command> LookCommands();
+std::span<const Command> PictureCommands();
 
 /// The command of that name; null when there is none.
 const Command* FindCommand(std::string_view name);

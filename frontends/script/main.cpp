@@ -9,6 +9,9 @@
 #include "frontends/script/script.h"
 #include "frontends/script/script_error.h"
 #include "frontends/script/settings_file.h"
+#ifdef QV_WITH_WINDOW
+#include "hosts/pictures/qt_pictures.h"
+#endif
 #include "services/context.h"
 #include "suite/connections.h"
 #include "suite/schema.h"
@@ -18,6 +21,11 @@
 namespace qvzj::script {
 namespace {
 
+#ifdef QV_WITH_WINDOW
+constexpr bool kDraws = true;
+#else
+constexpr bool kDraws = false;
+#endif
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 
@@ -81,6 +89,10 @@ int Play(const Options& options, std::istream& in) {
           std::fputc('\n', stdout);
         });
     script.SetSettingsFile(options.settings);
+#ifdef QV_WITH_WINDOW
+    QtPictures pictures;
+    script.SetPictures(&pictures);
+#endif
     script.Run(in, [] { std::fflush(stdout); });
     failed = script.Failed();
     if (frmZj* form = control.Form()) form->UserClose();
@@ -94,7 +106,7 @@ int Main(const std::vector<std::string>& arguments) {
   try {
     const Options options = ParseOptions(arguments);
     if (options.help) {
-      std::fputs(Usage().c_str(), stdout);
+      std::fputs(Usage(kDraws).c_str(), stdout);
       return 0;
     }
     if (options.script.empty()) return Play(options, std::cin);

@@ -66,7 +66,7 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
   return options;
 }
 
-std::string Usage() {
+std::string Usage(bool draws) {
   std::string text =
       "usage: qvzj-script [OPTION...] [SCRIPT]\n"
       "\n"
@@ -88,6 +88,8 @@ std::string Usage() {
   AddCommands(text, "The host:", HostCommands());
   AddCommands(text, "The user:", UserCommands());
   AddCommands(text, "Looking:", LookCommands());
+  AddCommands(text, draws ? "Drawing:" : "Drawing (this program is built without the window):",
+              PictureCommands());
   return text;
 }
 

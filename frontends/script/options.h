@@ -25,6 +25,6 @@ struct Options {
 Options ParseOptions(const std::vector<std::string>& arguments);
 
 /// What --help prints: the options and every command.
-std::string Usage();
+std::string Usage(bool draws);
 
 }  // namespace qvzj::script

@@ -15,6 +15,8 @@
 
 namespace qvzj::script {
 
+class Pictures;
+
 /// A control that a script names, and the form it stands on.
 struct Target {
   ui::Form& form;
@@ -49,9 +51,13 @@ class Script {
   /// Keeps settings that the script writes in a file as well.
   void SetSettingsFile(std::string file) { settings_file_ = std::move(file); }
 
+  /// What draws, where the program is built with the window; null else. Not owned.
+  void SetPictures(Pictures* pictures) { pictures_ = pictures; }
+
   // For the commands.
   qvJxc_Zj& Control() { return control_; }
   Headless& Around() { return headless_; }
+  Pictures* GetPictures() { return pictures_; }
   data::Recordset Native(std::string_view statement) { return native_(statement); }
   const std::string& SettingsFile() const { return settings_file_; }
   void Print(std::string_view line);
@@ -78,6 +84,7 @@ class Script {
   Headless& headless_;
   NativeSql native_;
   Output output_;
+  Pictures* pictures_ = nullptr;
   std::string settings_file_;
   std::unique_ptr<frmList> list_;
   std::optional<std::string> announced_;  // text of the error that the next command must report

@@ -26,8 +26,8 @@ TEST(ScriptOptions, RefuseWhatTheyDoNotKnow) {
 }
 
 TEST(ScriptOptions, HelpNamesEveryCommand) {
-  const std::string usage = Usage();
-  for (const auto group : {HostCommands(), UserCommands(), LookCommands()}) {
+  const std::string usage = Usage(true);
+  for (const auto group : {HostCommands(), UserCommands(), LookCommands(), PictureCommands()}) {
     for (const Command& command : group) {
       EXPECT_NE(usage.find("\n  " + std::string(command.name)), std::string::npos) << command.name;
     }

@@ -1,0 +1,58 @@
+#include "hosts/pictures/qt_pictures.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QPixmap>
+
+#include "frontends/qt/form_window.h"
+#include "frontends/qt/print/page_output.h"
+#include "frontends/qt/text.h"
+#include "frontends/qt/theme.h"
+#include "platform/basic/errors.h"
+#include "platform/surroundings.h"
+#include "services/context.h"
+#include "suite/print/suite_print.h"
+
+namespace qvzj {
+
+/// The running Qt application and what prints in it.
+struct QtPictures::Running {
+  static bool Traditional() { return Shared().Language == 1; }
+
+  int argument_count = 1;
+  char name[16] = "qvzj-script";
+  char* arguments[2] = {name, nullptr};
+  QApplication application{argument_count, arguments};
+  qt::QtPageOutput pages{qt::ThemeFont(false), Traditional};
+  SuitePrint print{pages, *Around().clock};
+};
+
+QtPictures::QtPictures() = default;
+QtPictures::~QtPictures() = default;
+
+QtPictures::Running& QtPictures::Start() {
+  if (!running_) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    running_ = std::make_unique<Running>();
+  }
+  return *running_;
+}
+
+void QtPictures::Screenshot(ui::Form& form, const std::string& file) {
+  Start();
+  qt::WindowOptions options;
+  options.language = [] { return int{Shared().Language}; };
+  qt::FormWindow window(form, options);
+  window.show();
+  QApplication::processEvents();
+  const QImage picture = window.grab().toImage();
+  if (!picture.save(qt::FromUtf8(file), "PNG")) throw Error(file + ": cannot be written");
+}
+
+PrintComponent& QtPictures::PdfPrinter(const std::string& file) {
+  Running& running = Start();
+  running.pages.SetPdfPath(qt::FromUtf8(file));
+  return running.print;
+}
+
+}  // namespace qvzj
