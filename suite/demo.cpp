@@ -18,7 +18,7 @@ class DemoMaker {
   DemoMaker(SqliteSession& session, const DemoOptions& options)
       : session_(session), options_(options), dice_(options.seed) {}
 
-  void Run(const Progress& progress) {
+  void Run(const RowProgress& progress) {
     WriteCurrencies();
     WriteStaff();
     WriteTemplates();
@@ -164,7 +164,7 @@ void CheckRange(const char* what, int64_t value, int64_t low, int64_t high) {
 
 }  // namespace
 
-void MakeDemoData(SqliteSession& session, const DemoOptions& options, const Progress& progress) {
+void MakeDemoData(SqliteSession& session, const DemoOptions& options, const RowProgress& progress) {
   CheckRange("customers", options.customers, 1, 10'000'000);
   CheckRange("accounts", options.accounts, 1, 1000);
   CheckRange("entries", options.entries, 0, 100'000'000);

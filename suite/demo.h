@@ -20,7 +20,7 @@ struct DemoOptions {
 };
 
 /// Is told now and then how many of all rows are written.
-using Progress = std::function<void(int64_t done, int64_t all)>;
+using RowProgress = std::function<void(int64_t done, int64_t all)>;
 
 /// Fills an empty database with the plausible data of a trading company: currencies, staff,
 /// numbering templates, functions, money accounts, customers, visit records, warehouse documents,
@@ -28,6 +28,6 @@ using Progress = std::function<void(int64_t done, int64_t all)>;
 /// is written as a whole or not at all. Throws Error when the register or the ledger holds rows
 /// already or an option is out of range (customers 1 to 10,000,000, accounts 1 to 1,000, years 1 to
 /// 50, entries 0 to 100,000,000), DataError when the engine refuses.
-void MakeDemoData(SqliteSession& session, const DemoOptions& options, const Progress& progress);
+void MakeDemoData(SqliteSession& session, const DemoOptions& options, const RowProgress& progress);
 
 }  // namespace qvzj

@@ -44,7 +44,7 @@ struct Entry {
 class LedgerMaker {
  public:
   LedgerMaker(SqliteSession& session, const DemoOptions& options, const DemoRegisters& registers,
-              Dice& dice, const Progress& progress)
+              Dice& dice, const RowProgress& progress)
       : options_(options),
         registers_(registers),
         dice_(dice),
@@ -271,7 +271,7 @@ class LedgerMaker {
   const DemoOptions& options_;
   const DemoRegisters& registers_;
   Dice& dice_;
-  const Progress& progress_;
+  const RowProgress& progress_;
   const int width_;
   RowWriter ledger_;
   RowWriter documents_;
@@ -298,7 +298,7 @@ int DemoNumberWidth(const DemoOptions& options) {
 }
 
 void WriteDemoLedger(SqliteSession& session, const DemoOptions& options,
-                     const DemoRegisters& registers, Dice& dice, const Progress& progress) {
+                     const DemoRegisters& registers, Dice& dice, const RowProgress& progress) {
   LedgerMaker(session, options, registers, dice, progress).Run();
 }
 

@@ -41,6 +41,6 @@ int DemoNumberWidth(const DemoOptions& options);
 /// Writes the ledger in the order of its days, and warehouse documents for some of its entries.
 /// Runs inside the caller's transaction.
 void WriteDemoLedger(SqliteSession& session, const DemoOptions& options,
-                     const DemoRegisters& registers, Dice& dice, const Progress& progress);
+                     const DemoRegisters& registers, Dice& dice, const RowProgress& progress);
 
 }  // namespace qvzj

@@ -25,7 +25,7 @@ class Import {
     rows_ = MakeImportRows(session, options, *mapping_, report);
   }
 
-  void Run(const Progress& progress, int64_t size) {
+  void Run(const RowProgress& progress, int64_t size) {
     CsvRecord record;
     while (reader_.Next(record)) {
       ++report_.rows;
@@ -63,7 +63,7 @@ class Import {
 
 ImportReport ImportCsv(SqliteSession& session, std::string_view bytes, const ImportOptions& options,
                        const std::function<void(const Refusal&)>& refused,
-                       const Progress& progress) {
+                       const RowProgress& progress) {
   ImportReport report;
   const ChineseText text = ReadChineseText(bytes);
   report.encoding = text.encoding;

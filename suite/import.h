@@ -52,6 +52,6 @@ struct ImportReport {
 /// when the engine fails.
 ImportReport ImportCsv(SqliteSession& session, std::string_view bytes, const ImportOptions& options,
                        const std::function<void(const Refusal&)>& refused,
-                       const Progress& progress);
+                       const RowProgress& progress);
 
 }  // namespace qvzj

@@ -62,7 +62,7 @@ class ProgressLines {
  public:
   explicit ProgressLines(std::ostream& err) : err_(err), next_(Clock::now() + kPause) {}
 
-  Progress Hook() {
+  RowProgress Hook() {
     return [this](int64_t done, int64_t all) {
       if (Clock::now() < next_ || all <= 0) return;
       next_ = Clock::now() + kPause;

@@ -1,0 +1,118 @@
+#include "benchmarks/world.h"
+
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+#include <sqlite3.h>
+
+#include <iostream>
+#include <stdexcept>
+
+#include "services/context.h"
+#include "suite/demo.h"
+#include "suite/schema.h"
+
+namespace qvzj::bench {
+namespace fs = std::filesystem;
+namespace {
+
+std::unique_ptr<SqliteSession> Open(const fs::path& folder, bool create) {
+  SqliteOptions options;
+  options.create = create;
+  return OpenSqlite((folder / kDataFile).string(), options);
+}
+
+void AddBenchCustomer(SqliteSession& session, int32_t entries) {
+  const int32_t step = std::max(entries / 1000, 1);
+  const std::string id = session.Native("select max(fID)+1 from cards").Text(0);
+  session.NativeScript("insert into cards (fID,CompCode,compname,fType0) values (" + id +
+                       ",'ZZZZ','" + kBenchCustomer + "',0);" +
+                       "update tAccountDetail set fCompID=" + id + ",fType1=0 where fID % " +
+                       std::to_string(step) + "=0;");
+}
+
+}  // namespace
+
+fs::path DataFolder(int32_t customers, int32_t entries) {
+  const fs::path folder = fs::path(QV_BENCH_DATA) / (std::to_string(customers) + "-customers-" +
+                                                     std::to_string(entries) + "-entries");
+  if (fs::exists(folder)) return folder;
+  std::cerr << "Making " << folder << std::endl;
+  const fs::path unfinished = folder.string() + ".unfinished";
+  fs::remove_all(unfinished);
+  fs::create_directories(unfinished);
+  {
+    const auto session = Open(unfinished, true);
+    CreateSchema(*session);
+    DemoOptions options;
+    options.customers = customers;
+    options.entries = entries;
+    MakeDemoData(*session, options, {});
+    AddBenchCustomer(*session, entries);
+    session->NativeScript("pragma wal_checkpoint(truncate); analyze");
+  }
+  fs::rename(unfinished, folder);
+  return folder;
+}
+
+World::World(int32_t customers, int32_t entries) {
+  const fs::path folder = DataFolder(customers, entries);
+  engine_ = Open(folder, false);
+  ResetShared();
+  headless_.Install(connections_);
+  headless_.clock.Set(basic::Date::FromYmd(2025, 12, 31));
+  control_.InitProperties();
+  control_.setUserPath(folder.string());
+  control_.setMyModel("11111111111");
+  control_.setUserName("admin");
+  control_.setZgName("admin");
+  control_.refresh(0, 0);
+  if (!control_.Form()) throw std::runtime_error("the main form did not open");
+  Form().UserClick(Form().OptSelect(0));
+}
+
+World::~World() {
+  Form().UserClose();
+  ResetShared();
+  Around() = {};
+}
+
+std::string World::Translated(std::string_view start) const {
+  const std::vector<RanStatement>& ran = headless_.statements;
+  for (auto statement = ran.rbegin(); statement != ran.rend(); ++statement) {
+    if (statement->text.starts_with(start)) return engine_->Translate(statement->text).text;
+  }
+  throw std::runtime_error("no statement that begins with " + std::string(start));
+}
+
+void World::Step(const std::string& sql) {
+  sqlite3_stmt* statement = nullptr;
+  if (sqlite3_prepare_v2(engine_->Handle(), sql.c_str(), -1, &statement, nullptr) != SQLITE_OK) {
+    throw std::runtime_error(sqlite3_errmsg(engine_->Handle()));
+  }
+  const int columns = sqlite3_column_count(statement);
+  while (sqlite3_step(statement) == SQLITE_ROW) {
+    for (int i = 0; i < columns; ++i) {
+      switch (sqlite3_column_type(statement, i)) {
+        case SQLITE_INTEGER:
+          benchmark::DoNotOptimize(sqlite3_column_int64(statement, i));
+          break;
+        case SQLITE_FLOAT:
+          benchmark::DoNotOptimize(sqlite3_column_double(statement, i));
+          break;
+        case SQLITE_NULL:
+          break;
+        default:
+          benchmark::DoNotOptimize(sqlite3_column_text(statement, i));
+      }
+    }
+  }
+  sqlite3_finalize(statement);
+}
+
+size_t HeapBytes() {
+  malloc_trim(0);
+  const struct mallinfo2 info = mallinfo2();
+  return info.uordblks + info.hblkhd;
+}
+
+}  // namespace qvzj::bench

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "adapters/sqlite/sqlite_session.h"
+#include "control/qvJxc_Zj.h"
+#include "frontends/script/headless.h"
+#include "suite/connections.h"
+
+namespace qvzj::bench {
+
+/// A data folder of that many customers and ledger entries, made once and kept beside the
+/// benchmark programs. Besides the demo data it holds the customer "Bench" with 1,000 entries (all
+/// of them in a smaller ledger), spread evenly over the whole ledger.
+std::filesystem::path DataFolder(int32_t customers, int32_t entries);
+
+/// The name of the customer with the 1,000 entries.
+inline constexpr const char* kBenchCustomer = "Bench";
+
+/// A control opened without a window on such a folder, in customers mode, showing all entries, and
+/// a second connection to measure the engine alone.
+class World {
+ public:
+  World(int32_t customers, int32_t entries);
+  ~World();
+  World(const World&) = delete;
+  World& operator=(const World&) = delete;
+
+  frmZj& Form() { return *control_.Form(); }
+  /// The last statement that answered rows and begins with `start` as the module built it, in the
+  /// engine's own language.
+  std::string Translated(std::string_view start) const;
+  /// Steps a statement in the engine's own language to its end and reads every column.
+  void Step(const std::string& sql);
+  SqliteSession& Engine() { return *engine_; }
+
+ private:
+  Headless headless_;
+  SuiteConnections connections_;
+  qvJxc_Zj control_;
+  std::unique_ptr<SqliteSession> engine_;
+};
+
+/// Bytes that the process holds on its heap.
+size_t HeapBytes();
+
+}  // namespace qvzj::bench
