@@ -1,10 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <filesystem>
 #include <memory>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "adapters/sqlite/sqlite_session.h"
 #include "control/qvJxc_Zj.h"
@@ -41,6 +42,7 @@ class World {
  private:
   Headless headless_;
   SuiteConnections connections_;
+  std::deque<std::string> ran_;  ///< the last statements, as the module built them
   qvJxc_Zj control_;
   std::unique_ptr<SqliteSession> engine_;
 };
