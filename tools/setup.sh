@@ -25,6 +25,7 @@ all   qt6-tools-dev        the plug-in for Qt Designer, and the form loader that
 all   libqt6opengl6-dev    what the form loader's build files ask for
 run   fonts-noto-cjk       Chinese letters on a machine that has none
 test  libgtest-dev         the test framework
+test  libbenchmark-dev     every benchmark also runs once as a test
 test  fonts-noto-cjk       the window's tests measure Chinese text
 bench libbenchmark-dev     the benchmark framework
 bench libgtest-dev         the release preset builds the tests with the benchmarks
