@@ -27,6 +27,8 @@ run   fonts-noto-cjk       Chinese letters on a machine that has none
 test  libgtest-dev         the test framework
 test  libbenchmark-dev     every benchmark also runs once as a test
 test  fonts-noto-cjk       the window's tests measure Chinese text
+test  xvfb                 an X server without a screen, for the test by real keys
+test  xdotool              presses those keys
 bench libbenchmark-dev     the benchmark framework
 bench libgtest-dev         the release preset builds the tests with the benchmarks
 LIST

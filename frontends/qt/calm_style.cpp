@@ -1,5 +1,6 @@
 #include "frontends/qt/calm_style.h"
 
+#include <QAbstractButton>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
@@ -119,7 +120,12 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
       return;
     }
     case PE_FrameFocusRect:
-      return;  // each control shows the focus itself
+      // Check boxes and options get a line around their text; the others show the focus themselves.
+      if (qobject_cast<const QAbstractButton*>(widget) != nullptr) {
+        DrawRounded(*painter, option->rect.adjusted(-2, 0, 2, 0), Qt::transparent,
+                    ColorsFor(option->palette).accent, 3);
+      }
+      return;
     case PE_FrameDefaultButton:
       return;
     default:
