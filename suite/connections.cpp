@@ -7,6 +7,9 @@
 namespace qvzj {
 namespace {
 
+/// What the module puts into the data path after a login in server mode.
+constexpr const char* kLoggedInServer = "SQL Server";
+
 /// The data file in `folder`, which may end in a slash of either kind.
 std::string DataFileIn(std::string folder) {
   while (folder.size() > 1 && (folder.back() == '/' || folder.back() == '\\')) folder.pop_back();
@@ -29,13 +32,22 @@ bool SuiteConnections::OpenConnection(uint8_t kind, data::Connection& connection
                                       const std::string& default_database) {
   last_error_.clear();
   try {
-    connection.Attach(kind == 0 ? OpenFolder(path, options)
-                                : OpenServer({path, user_id, password, default_database}, options));
+    Open(kind, connection, {path, user_id, password, default_database});
     return true;
   } catch (const DataError& error) {
     last_error_ = error.what();
     return false;
   }
+}
+
+void SuiteConnections::Open(uint8_t kind, data::Connection& connection, ServerLogin login) {
+  if (kind == 0) {
+    connection.Attach(OpenFolder(login.address, options));
+    return;
+  }
+  if (login.address == kLoggedInServer && !last_server_.empty()) login.address = last_server_;
+  connection.Attach(OpenServer(login, options));
+  last_server_ = login.address;
 }
 
 }  // namespace qvzj

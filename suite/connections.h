@@ -26,7 +26,8 @@ struct ConnectionOptions {
 
 /// The suite's connection component: kind 0 is the data file in the folder `path`, which must be
 /// there and is never created here; any other kind is the database server that `path` names (see
-/// ServerLogin).
+/// ServerLogin). A login in server mode leaves the text "SQL Server" in place of the server's
+/// details; it stands for the server that was opened last.
 class SuiteConnections : public data::ConnectionComponent {
  public:
   explicit SuiteConnections(ConnectionOptions connection_options = {})
@@ -43,7 +44,10 @@ class SuiteConnections : public data::ConnectionComponent {
   ConnectionOptions options;
 
  private:
+  void Open(uint8_t kind, data::Connection& connection, ServerLogin login);
+
   std::string last_error_;
+  std::string last_server_;  // address of the last server that was opened
 };
 
 /// A session on a server. Throws DataError; its text holds no credentials.
