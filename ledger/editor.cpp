@@ -65,7 +65,7 @@ void LinkClicked(frmZj& form) {
 
 void CheckAmount(ui::TextBox& box, bool& cancel) {
   const std::string& text = box.Text();
-  cancel = !NoQuote(text);
+  cancel = !MayLeaveText(box);
   if (cancel) return;
   box.SetText(basic::IsNumeric(text) ? basic::FormatFixed(basic::Val(text), 2) : "0.00");
 }

@@ -1,6 +1,7 @@
 #include "ledger/fields.h"
 
-#include "platform/basic/text.h"
+#include <string>
+
 #include "screen/keys.h"
 #include "services/query.h"
 
@@ -9,15 +10,8 @@ namespace {
 
 bool InNumber(char c) { return (c >= '0' && c <= '9') || c == '.' || c == '-'; }
 
-template <class Field>
-void FitInserted(const Field& field, std::string& inserted) {
-  const std::string selected = basic::Mid(field.Text(), field.SelStart() + 1, field.SelLength());
-  FitInsertion(field.Text(), selected, inserted, field.MaxLength());
-}
-
-template <class Field>
-void RefuseQuotesIn(Field& field) {
-  field.onValidate = [&field](bool& cancel) { cancel = !NoQuote(field.Text()); };
+void FitInserted(const ui::EditBox& box, std::string& inserted) {
+  FitInsertion(box.Text(), box.SelText(), inserted, box.MaxLength());
 }
 
 }  // namespace
@@ -38,7 +32,10 @@ void ConnectKeys(ui::ComboBox& box) {
   box.onEdit = [&box](std::string& inserted) { FitInserted(box, inserted); };
 }
 
-void RefuseQuotes(ui::TextBox& box) { RefuseQuotesIn(box); }
-void RefuseQuotes(ui::ComboBox& box) { RefuseQuotesIn(box); }
+void RefuseQuotes(ui::EditBox& box) {
+  box.onValidate = [&box](bool& cancel) { cancel = !MayLeaveText(box); };
+}
+
+bool MayLeaveText(const ui::EditBox& box) { return !box.Pending() || NoQuote(box.Text()); }
 
 }  // namespace qvzj

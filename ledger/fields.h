@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "platform/ui/widgets.h"
 
 /// Rules that the fields of the form share.
@@ -13,8 +11,10 @@ namespace qvzj {
 void ConnectKeys(ui::TextBox& box, bool numeric = false);
 /// The same for an editable list.
 void ConnectKeys(ui::ComboBox& box);
-/// A text with a single quote keeps the focus in its field, after a message.
-void RefuseQuotes(ui::TextBox& box);
-void RefuseQuotes(ui::ComboBox& box);
+/// A single quote that the user put into the field keeps the focus there, after a message. A text
+/// that came with one may be looked at and left again: a save refuses it.
+void RefuseQuotes(ui::EditBox& box);
+/// The check of RefuseQuotes alone; true when the field may be left.
+bool MayLeaveText(const ui::EditBox& box);
 
 }  // namespace qvzj

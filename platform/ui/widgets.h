@@ -71,6 +71,8 @@ class EditBox : public Control {
   /// Place of the caret: one end of the selection.
   int32_t Caret() const { return edit_.Caret(); }
   std::string SelText() const { return edit_.Selected(); }
+  /// True when the text is another than the last valid one, which Esc would restore.
+  bool Pending() const { return Text() != valid_text_; }
   /// Selects characters from `start` on; what lies outside the text is cut off.
   void Select(int32_t start, int32_t length);
   void SelectAll();

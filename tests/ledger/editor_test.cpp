@@ -264,6 +264,15 @@ TEST_F(EntryEditor, RefusesASingleQuoteInEveryTextUntilEscTakesItBack) {
   Press(form, Key::Name::Escape);
 }
 
+TEST_F(EntryEditor, LetsAFieldBeLeftWhoseTextCameWithAQuote) {
+  Add({.brief = "'O''Neil'"});
+  frmZj& form = Open();
+  form.UserClick(form.cmdAction(2));
+  form.UserFocus(form.txtAcnt2(6));
+  EXPECT_TRUE(form.UserClick(form.cmdAcntCancel));
+  EXPECT_TRUE(world.Messages().empty());
+}
+
 TEST_F(EntryEditor, SelectsTheWholeTextOfAFieldThatGetsTheFocus) {
   Add({.brief = "'货款'"});
   frmZj& form = Open();
