@@ -15,6 +15,9 @@ bool Form::UserClick(Control& control) {
 bool Form::Click(Control& control) {
   if (control.GetKind() == Kind::Menu) {
     if (!control.OnScreen() || !control.Usable() || IsSeparator(control)) return false;
+    // The entry takes no focus, but what it does may move it away from a field that must not be
+    // left as it is.
+    if (!MayLeave()) return false;
     Raise(static_cast<MenuItem&>(control).onClick);
     return true;
   }

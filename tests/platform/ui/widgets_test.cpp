@@ -124,6 +124,16 @@ TEST(Menu, EntriesAreClickedWithoutMovingTheFocus) {
   EXPECT_FALSE(screen.UserClick(screen.entry));
 }
 
+TEST(Menu, AnEntryWaitsForAFieldThatFailsItsCheck) {
+  Screen screen;
+  bool clicked = false;
+  screen.entry.onClick = [&] { clicked = true; };
+  screen.text.onValidate = [](bool& cancel) { cancel = true; };
+  screen.SetFocus(screen.text);
+  EXPECT_FALSE(screen.UserClick(screen.entry));
+  EXPECT_FALSE(clicked);
+}
+
 TEST(Menu, SeparatorsCannotBeClicked) {
   Screen screen;
   screen.entry.SetCaption("-");
