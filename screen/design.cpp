@@ -100,6 +100,7 @@ void DesignEditor(frmZj& form) {
   form.cboDoneMan.SetEditable(true);
   form.cboDoneMan.SetMaxLength(20);
   form.cboAcntName.SetShownLength(40);
+  form.cboAcntName.SetClearable(true);
 }
 
 void DesignLedger(frmZj& form) {

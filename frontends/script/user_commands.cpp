@@ -67,6 +67,29 @@ void Check(Script& script, const Arguments& arguments) {
   if (Kind<ui::CheckBox>(target, "check box").Value() != wanted) Press(target);
 }
 
+ui::Key KeyFor(char32_t code) {
+  if (code == U'\n') return ui::Key::Named(ui::Key::Name::Enter);
+  ui::Key key = ui::Key::Character(code);
+  if (code == U' ') key.name = ui::Key::Name::Space;
+  return key;
+}
+
+/// Replaces the whole text `old` of a field by typing, unless the focus cannot get there.
+void TypeInto(const Target& target, const std::string& old, const std::string& text) {
+  if (!target.form.UserFocus(target.control)) return;
+  if (target.form.Focused() != &target.control) return;
+  target.form.UserSelect(target.control, 0, basic::Len(old));
+  if (text.empty()) target.form.UserKey(ui::Key::Named(ui::Key::Name::Delete));
+  for (const char32_t code : basic::CodePoints(text)) target.form.UserKey(KeyFor(code));
+}
+
+void Type(Script& script, const Arguments& arguments) {
+  const Target target = Act(script, arguments[0]);
+  const auto* box = dynamic_cast<ui::TextBox*>(&target.control);
+  const std::string old = box ? box->Text() : Kind<ui::ComboBox>(target, "field for text").Text();
+  TypeInto(target, old, arguments[1].text);
+}
+
 /// Index of the item that a script names by number or text.
 int32_t ItemIndex(const Word& word, const std::vector<std::string>& items,
                   const std::function<std::string(const std::string&)>& shown) {
@@ -93,7 +116,14 @@ void Choose(Script& script, const Arguments& arguments) {
   auto& combo = Kind<ui::ComboBox>(target, "list");
   if (combo.Locked()) throw ScriptError(target.name + " is locked");
   const auto shown = [&combo](const std::string& item) { return combo.Shown(item); };
-  target.form.UserChoose(combo, ItemIndex(arguments[1], combo.Items(), shown));
+  const int32_t index = ItemIndex(arguments[1], combo.Items(), shown);
+  if (index >= 0 || combo.Clearable()) {
+    target.form.UserChoose(combo, index);
+  } else if (combo.Editable()) {
+    TypeInto(target, combo.Text(), "");
+  } else {
+    throw ScriptError(target.name + " cannot be cleared");
+  }
 }
 
 void Tab(Script& script, const Arguments& arguments) {
@@ -102,29 +132,6 @@ void Tab(Script& script, const Arguments& arguments) {
   const int32_t tab = ToNumber(arguments[1]);
   if (tab < 0 || tab >= tabs.Count()) throw ScriptError("there is no tab " + arguments[1].text);
   target.form.UserTab(tabs, tab);
-}
-
-ui::Key KeyFor(char32_t code) {
-  if (code == U'\n') return ui::Key::Named(ui::Key::Name::Enter);
-  ui::Key key = ui::Key::Character(code);
-  if (code == U' ') key.name = ui::Key::Name::Space;
-  return key;
-}
-
-void Type(Script& script, const Arguments& arguments) {
-  const Target target = Act(script, arguments[0]);
-  int32_t length = 0;
-  if (const auto* box = dynamic_cast<ui::TextBox*>(&target.control)) {
-    length = basic::Len(box->Text());
-  } else {
-    length = basic::Len(Kind<ui::ComboBox>(target, "field for text").Text());
-  }
-  if (!target.form.UserFocus(target.control)) return;
-  if (target.form.Focused() != &target.control) return;
-  target.form.UserSelect(target.control, 0, length);
-  const std::string& text = arguments[1].text;
-  if (text.empty()) target.form.UserKey(ui::Key::Named(ui::Key::Name::Delete));
-  for (const char32_t code : basic::CodePoints(text)) target.form.UserKey(KeyFor(code));
 }
 
 void Keys(Script& script, const Arguments& arguments) {
