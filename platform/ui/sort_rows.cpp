@@ -4,8 +4,10 @@
 #include <array>
 #include <bit>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/ui/grid.h"
@@ -35,8 +37,10 @@ size_t Digit(Key key, int pass) {
   return static_cast<size_t>(key >> (pass * kDigitBits)) & (kDigits - 1);
 }
 
+/// Orders `items` by their keys and keeps the order of equal ones. `spare` is room that calls
+/// share.
 template <class Key>
-void SortItems(std::vector<Item<Key>>& items) {
+void SortItems(std::span<Item<Key>> items, std::vector<Item<Key>>& spare) {
   if (items.size() < kFewRows) {
     std::stable_sort(items.begin(), items.end(),
                      [](const Item<Key>& a, const Item<Key>& b) { return a.key < b.key; });
@@ -49,15 +53,18 @@ void SortItems(std::vector<Item<Key>>& items) {
       ++counts[static_cast<size_t>(pass)][Digit(item.key, pass)];
     }
   }
-  std::vector<Item<Key>> sorted(items.size());
+  if (spare.size() < items.size()) spare.resize(items.size());
+  std::span<Item<Key>> from = items;
+  std::span<Item<Key>> to = std::span(spare).first(items.size());
   for (int pass = 0; pass < kPasses; ++pass) {
     std::array<uint32_t, kDigits>& place = counts[static_cast<size_t>(pass)];
-    if (place[Digit(items[0].key, pass)] == items.size()) continue;  // one digit everywhere
+    if (place[Digit(from[0].key, pass)] == items.size()) continue;  // one digit everywhere
     uint32_t start = 0;
     for (uint32_t& count : place) start += std::exchange(count, start);
-    for (const Item<Key>& item : items) sorted[place[Digit(item.key, pass)]++] = item;
-    items.swap(sorted);
+    for (const Item<Key>& item : from) to[place[Digit(item.key, pass)]++] = item;
+    std::swap(from, to);
   }
+  if (from.data() != items.data()) std::copy(from.begin(), from.end(), items.begin());
 }
 
 /// `key_of` answers the ascending key of a row, 0 for an empty one.
@@ -68,7 +75,8 @@ void SortByKey(Buffer<uint32_t>& rows, bool descending, KeyOf key_of) {
     const Key key = key_of(rows[i]);
     items[i] = {descending ? static_cast<Key>(Key{0} - key) : key, rows[i]};  // 0 stays first
   }
-  SortItems(items);
+  std::vector<Item<Key>> spare;
+  SortItems(std::span(items), spare);
   for (size_t i = 0; i < rows.Size(); ++i) rows[i] = items[i].row;
 }
 
@@ -150,56 +158,74 @@ uint64_t Chunk(std::string_view text, size_t depth) {
   return (chunk << 8) | (rest > kChunkBytes ? kMoreFollows : bytes);
 }
 
-/// A run of texts that agree in their first `depth` bytes.
-struct Run {
-  size_t begin;
-  size_t end;
-  size_t depth;
-};
+/// Ranks texts by their bytes: chunk by chunk, and directly where few agree so far.
+class TextRanker {
+ public:
+  explicit TextRanker(const std::vector<std::string_view>& keys)
+      : keys_(keys), items_(keys.size() - 1), repeats_(items_.size()) {}
 
-/// Numbers from 1 on of `keys` in the order of their bytes (key 0 is left out).
-std::vector<uint32_t> OrderOfTexts(const std::vector<std::string_view>& keys) {
-  std::vector<Item<uint64_t>> items(keys.size() - 1);
-  for (size_t i = 0; i < items.size(); ++i) items[i] = {0, static_cast<uint32_t>(i + 1)};
-  std::vector<Run> runs{{0, items.size(), 0}};
-  while (!runs.empty()) {
-    const Run run = runs.back();
-    runs.pop_back();
-    const auto begin = items.begin() + static_cast<std::ptrdiff_t>(run.begin);
-    const auto end = items.begin() + static_cast<std::ptrdiff_t>(run.end);
-    if (run.end - run.begin < kFewTexts) {
-      std::sort(begin, end, [&](const auto& a, const auto& b) {
-        return keys[a.row].substr(run.depth) < keys[b.row].substr(run.depth);
-      });
-      continue;
+  /// Rank from 1 on of every key by number; equal keys share a rank, number 0 has rank 0.
+  std::vector<uint32_t> Ranks() {
+    for (size_t i = 0; i < items_.size(); ++i) items_[i].row = static_cast<uint32_t>(i + 1);
+    runs_.push_back({0, items_.size(), 0});
+    while (!runs_.empty()) {
+      const Run run = runs_.back();
+      runs_.pop_back();
+      run.end - run.begin < kFewTexts ? Compare(run) : Distribute(run);
     }
-    for (auto item = begin; item != end; ++item) item->key = Chunk(keys[item->row], run.depth);
-    std::sort(begin, end, [](const auto& a, const auto& b) { return a.key < b.key; });
+    std::vector<uint32_t> ranks(keys_.size());
+    uint32_t rank = 0;
+    for (size_t i = 0; i < items_.size(); ++i) ranks[items_[i].row] = rank += repeats_[i] ? 0 : 1;
+    return ranks;
+  }
+
+ private:
+  /// Items that agree in their first `depth` bytes.
+  struct Run {
+    size_t begin;
+    size_t end;
+    size_t depth;
+  };
+
+  std::string_view Rest(size_t item, size_t depth) const {
+    return keys_[items_[item].row].substr(depth);
+  }
+
+  void Compare(const Run& run) {
+    const auto begin = items_.begin() + static_cast<std::ptrdiff_t>(run.begin);
+    const auto end = items_.begin() + static_cast<std::ptrdiff_t>(run.end);
+    std::sort(begin, end, [&](const auto& a, const auto& b) {
+      return keys_[a.row].substr(run.depth) < keys_[b.row].substr(run.depth);
+    });
+    for (size_t i = run.begin + 1; i < run.end; ++i) {
+      repeats_[i] = Rest(i, run.depth) == Rest(i - 1, run.depth);
+    }
+  }
+
+  void Distribute(const Run& run) {
+    for (size_t i = run.begin; i < run.end; ++i) {
+      items_[i].key = Chunk(keys_[items_[i].row], run.depth);
+    }
+    SortItems(std::span(items_).subspan(run.begin, run.end - run.begin), spare_);
     for (size_t i = run.begin; i < run.end;) {
       size_t next = i + 1;
-      while (next < run.end && items[next].key == items[i].key) ++next;
-      if (next - i > 1 && (items[i].key & 0xFF) == kMoreFollows) {
-        runs.push_back({i, next, run.depth + kChunkBytes});
+      while (next < run.end && items_[next].key == items_[i].key) ++next;
+      if ((items_[i].key & 0xFF) != kMoreFollows) {
+        std::fill(repeats_.begin() + static_cast<std::ptrdiff_t>(i) + 1,
+                  repeats_.begin() + static_cast<std::ptrdiff_t>(next), uint8_t{1});
+      } else if (next - i > 1) {
+        runs_.push_back({i, next, run.depth + kChunkBytes});
       }
       i = next;
     }
   }
-  std::vector<uint32_t> numbers(items.size());
-  for (size_t i = 0; i < items.size(); ++i) numbers[i] = items[i].row;
-  return numbers;
-}
 
-/// Rank from 1 on of every key by number; equal keys share a rank, number 0 has rank 0.
-std::vector<uint32_t> Ranks(const std::vector<std::string_view>& keys) {
-  const std::vector<uint32_t> numbers = OrderOfTexts(keys);
-  std::vector<uint32_t> ranks(keys.size());
-  uint32_t rank = 0;
-  for (size_t i = 0; i < numbers.size(); ++i) {
-    if (i == 0 || keys[numbers[i]] != keys[numbers[i - 1]]) ++rank;
-    ranks[numbers[i]] = rank;
-  }
-  return ranks;
-}
+  const std::vector<std::string_view>& keys_;
+  std::vector<Item<uint64_t>> items_;
+  std::vector<Item<uint64_t>> spare_;
+  std::vector<uint8_t> repeats_;  ///< by item: the same text as the one before
+  std::vector<Run> runs_;
+};
 
 /// Ranks of the texts by the sort keys that `order` makes of them.
 std::vector<uint32_t> OrderedRanks(const std::vector<std::string_view>& texts,
@@ -214,7 +240,7 @@ std::vector<uint32_t> OrderedRanks(const std::vector<std::string_view>& texts,
   for (size_t i = 1; i < texts.size(); ++i) {
     keys[i] = std::string_view(arena).substr(ends[i - 1], ends[i] - ends[i - 1]);
   }
-  return Ranks(keys);
+  return TextRanker(keys).Ranks();
 }
 
 }  // namespace
@@ -234,7 +260,7 @@ void SortRows(const Column& column, bool descending, const TextOrder* order,
     case Column::Kind::Text: {
       const DistinctTexts distinct(column);
       const std::vector<uint32_t> ranks =
-          order ? OrderedRanks(distinct.texts, *order) : Ranks(distinct.texts);
+          order ? OrderedRanks(distinct.texts, *order) : TextRanker(distinct.texts).Ranks();
       return SortByKey<uint32_t>(rows, descending,
                                  [&](uint32_t row) { return ranks[distinct.number_of_row[row]]; });
     }

@@ -19,6 +19,13 @@ struct ByLength : TextOrder {
   mutable int calls = 0;
 };
 
+/// Orders texts by their last digit: thousands of texts, ten sort keys.
+struct ByLastDigit : TextOrder {
+  std::string SortKey(std::string_view text) const override {
+    return "the same beginning " + std::string(text.substr(text.size() - 1));
+  }
+};
+
 std::string ColumnTexts(const Grid& grid, int32_t column) {
   std::string texts;
   for (int32_t row = 1; row <= grid.RowCount(); ++row) texts += grid.CellText(column, row) + "|";
@@ -230,6 +237,11 @@ TEST(Grid, SortsManyRowsAsAStableComparisonWould) {
   Sort(grid, 2, SortOrder::Descending);
   std::stable_sort(expected.begin(), expected.end(),
                    [&](uint32_t a, uint32_t b) { return numbers[a] > numbers[b]; });
+  check();
+  const ByLastDigit by_last_digit;
+  Sort(grid, 1, SortOrder::Ascending, &by_last_digit);
+  std::stable_sort(expected.begin(), expected.end(),
+                   [&](uint32_t a, uint32_t b) { return texts[a].back() < texts[b].back(); });
   check();
 }
 
