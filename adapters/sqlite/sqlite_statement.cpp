@@ -52,18 +52,21 @@ std::string_view TextView(sqlite3_stmt* statement, int column) {
   return {text, static_cast<size_t>(sqlite3_column_bytes(statement, column))};
 }
 
-void AppendValue(sqlite3_stmt* statement, int i, bool is_date, Column& column) {
-  switch (sqlite3_column_type(statement, i)) {
+/// Appends a value of the current row. It is read through its handle, which is looked up once; that
+/// is allowed because the connection is used by one thread alone.
+void AppendValue(sqlite3_value* value, bool is_date, Column& column) {
+  switch (sqlite3_value_type(value)) {
     case SQLITE_NULL:
       return column.AppendNull();
     case SQLITE_INTEGER:
-      return column.AppendInteger(sqlite3_column_int64(statement, i));
+      return column.AppendInteger(sqlite3_value_int64(value));
     case SQLITE_FLOAT:
-      return column.AppendReal(sqlite3_column_double(statement, i));
+      return column.AppendReal(sqlite3_value_double(value));
     default:
       break;
   }
-  const std::string_view text = TextView(statement, i);
+  const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(value));
+  const std::string_view text(bytes, static_cast<size_t>(sqlite3_value_bytes(value)));
   if (is_date) {
     if (const auto date = ReadDate(text)) return column.AppendDate(*date);
   }
@@ -174,7 +177,7 @@ data::Recordset SqliteStatement::ReadAll() {
   while (Step()) {
     for (int i = 0; i < count; ++i) {
       const auto place = static_cast<size_t>(i);
-      AppendValue(statement_.get(), i, is_date[place] != 0, columns[place]);
+      AppendValue(sqlite3_column_value(statement_.get(), i), is_date[place] != 0, columns[place]);
     }
   }
   Reset();
