@@ -16,7 +16,7 @@ std::string DataFileIn(std::string folder) {
   return folder + "/" + kDataFile;
 }
 
-std::unique_ptr<data::Session> OpenFolder(const std::string& folder,
+std::unique_ptr<SqliteSession> OpenFolder(const std::string& folder,
                                           const ConnectionOptions& options) {
   SqliteOptions sqlite;
   sqlite.busy_timeout = options.busy_timeout;
@@ -48,6 +48,13 @@ void SuiteConnections::Open(uint8_t kind, data::Connection& connection, ServerLo
   if (login.address == kLoggedInServer && !last_server_.empty()) login.address = last_server_;
   connection.Attach(OpenServer(login, options));
   last_server_ = login.address;
+}
+
+NativeStatements OpenNative(uint8_t kind, const ServerLogin& login,
+                            const ConnectionOptions& options) {
+  if (kind != 0) return OpenNativeServer(login, options);
+  const std::shared_ptr<SqliteSession> session = OpenFolder(login.address, options);
+  return [session](std::string_view sql) { return session->Native(sql); };
 }
 
 }  // namespace qvzj

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/data/connection.h"
 #include "suite/server_address.h"
@@ -50,8 +51,18 @@ class SuiteConnections : public data::ConnectionComponent {
   std::string last_server_;  // address of the last server that was opened
 };
 
+/// Runs one statement in an engine's own language and reads its rows.
+using NativeStatements = std::function<data::Recordset(std::string_view)>;
+
+/// A connection of its own to the same place as OpenConnection's, for statements in the engine's
+/// own language. Throws DataError when it cannot be opened.
+NativeStatements OpenNative(uint8_t kind, const ServerLogin& login,
+                            const ConnectionOptions& options);
+
 /// A session on a server. Throws DataError; its text holds no credentials.
 std::unique_ptr<data::Session> OpenServer(const ServerLogin& login,
                                           const ConnectionOptions& options);
+/// Statements in the language of a server, on a session of their own. Throws DataError likewise.
+NativeStatements OpenNativeServer(const ServerLogin& login, const ConnectionOptions& options);
 
 }  // namespace qvzj

@@ -36,7 +36,7 @@ constexpr const char* kSuite = R"(
 create table if not exists Moneys (
   MoneyCode {text} primary key, MoneyRate {real}, MoneyType integer);
 create table if not exists Employees (employCode {text} primary key, employee {text});
-create table if not exists tRsBasic (fID integer primary key, fName {text});
+create table if not exists tRsBasic ({counter fID}, fName {text});
 create table if not exists tJXC_InvSet (
   fRowID integer primary key, fSetNo integer, fSetNoUse_ integer default 0, fSetAutoNo {text});
 create table if not exists tSysFunc (
@@ -47,13 +47,13 @@ create table if not exists tTaskList (
   fUser {text}, fBrief {text});
 create index if not exists iTaskRecord on tTaskList (taskID, fType);
 create table if not exists tJXC_CkDj01 (
-  fID integer primary key, fInvNo {text}, fKhID integer, fInvSHR {text});
+  {counter fID}, fInvNo {text}, fKhID integer, fInvSHR {text});
 create index if not exists iCkDjNumber on tJXC_CkDj01 ({key fInvNo});
 create index if not exists iCkDjCustomer on tJXC_CkDj01 (fKhID);
 create table if not exists tJXC_CkDj_Bak01 (
-  fID integer primary key, fInvNo {text}, fKhID integer, fInvSHR {text});
+  {counter fID}, fInvNo {text}, fKhID integer, fInvSHR {text});
 create index if not exists iCkDjBakNumber on tJXC_CkDj_Bak01 ({key fInvNo});
-create table if not exists tJXC_CkHt01 (fID integer primary key, fKhID integer);
+create table if not exists tJXC_CkHt01 ({counter fID}, fKhID integer);
 create index if not exists iCkHtCustomer on tJXC_CkHt01 (fKhID);
 )";
 

@@ -4,7 +4,6 @@
 #include <iostream>
 #include <memory>
 
-#include "adapters/sqlite/sqlite_session.h"
 #include "frontends/script/options.h"
 #include "frontends/script/script.h"
 #include "frontends/script/script_error.h"
@@ -14,7 +13,6 @@
 #endif
 #include "services/context.h"
 #include "suite/connections.h"
-#include "suite/schema.h"
 #include "suite/task.h"
 #include "suite/user.h"
 
@@ -34,18 +32,18 @@ class OwnConnection {
  public:
   data::Recordset Run(std::string_view statement) {
     const Context& context = Shared();
-    if (context.SQLData != 0) {
-      throw ScriptError("native statements are for the desktop database only");
-    }
-    if (!session_ || path_ != context.UserPath) {
-      session_ = OpenSqlite((std::filesystem::path(context.UserPath) / kDataFile).string(), {});
+    const ServerLogin login{context.UserPath, context.UserID, context.Password, context.Default};
+    if (!run_ || kind_ != context.SQLData || path_ != context.UserPath) {
+      kind_ = context.SQLData;
       path_ = context.UserPath;
+      run_ = OpenNative(kind_ == 0 ? 0 : 1, login, {});
     }
-    return session_->Native(statement);
+    return run_(statement);
   }
 
  private:
-  std::unique_ptr<SqliteSession> session_;
+  NativeStatements run_;
+  int16_t kind_ = 0;
   std::string path_;
 };
 

@@ -7,65 +7,22 @@
 // runs in the folder before the program does. The output must equal SCENARIO.out line by line and
 // the program must end with 0. --update writes SCENARIO.out instead of comparing.
 
-#include <fcntl.h>
 #include <stdlib.h>
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "adapters/sqlite/sqlite_session.h"
 #include "suite/schema.h"
+#include "tests/scenarios/play.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// The day on which every scenario plays.
-constexpr const char* kToday = "2024-03-15";
-/// Number of the capability that lets root write where the permissions forbid it.
-constexpr int kDacOverride = 1;
-
-std::string Content(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
-
-fs::path Beside(fs::path scenario, const char* extension) {
-  return scenario.replace_extension(extension);
-}
-
-/// Runs a program in `folder` and waits; its output goes to `output` where that is not empty. The
-/// permissions of files hold for root as well. Answers the exit status, 128 and more for a signal.
-int RunIn(const fs::path& folder, std::vector<std::string> command, const fs::path& output) {
-  std::vector<char*> arguments;
-  for (std::string& word : command) arguments.push_back(word.data());
-  arguments.push_back(nullptr);
-  const pid_t child = fork();
-  if (child < 0) throw std::runtime_error("cannot start " + command[0]);
-  if (child == 0) {
-    prctl(PR_CAPBSET_DROP, kDacOverride, 0, 0, 0);
-    if (chdir(folder.c_str()) != 0) _exit(126);
-    if (!output.empty()) {
-      const int file = open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-      if (file < 0 || dup2(file, STDOUT_FILENO) < 0) _exit(126);
-    }
-    execvp(arguments[0], arguments.data());
-    _exit(127);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-}
+using namespace qvzj::test;
 
 void PrepareData(const fs::path& folder, const fs::path& scenario) {
   fs::create_directory(folder);
@@ -86,18 +43,14 @@ int Play(const fs::path& program, const fs::path& scenario, const fs::path& fold
   if (fs::exists(script) && RunIn(folder, {"sh", "-eu", script.string()}, {}) != 0) {
     throw std::runtime_error(script.string() + " failed");
   }
-  return RunIn(folder, {program.string(), "--data", "data", "--today", kToday, scenario.string()},
+  return RunIn(folder,
+               {program.string(), "--data", "data", "--today", kScenarioDay, scenario.string()},
                printed);
 }
 
 int Compare(const fs::path& expected, const fs::path& printed, int status) {
   if (Content(expected) != Content(printed) || !fs::exists(expected)) {
-    std::printf("%s differs from what was printed:\n", expected.c_str());
-    std::fflush(stdout);
-    RunIn(expected.parent_path(),
-          {"diff", "-u", "--label", "expected", "--label", "printed", expected.string(),
-           printed.string()},
-          {});
+    ShowDifference(expected, printed);
     return 1;
   }
   if (status != 0) std::printf("the program ended with %d\n", status);

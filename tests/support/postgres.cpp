@@ -16,7 +16,6 @@
 #include <thread>
 #include <vector>
 
-#include "adapters/odbc/odbc_session.h"
 #include "suite/connections.h"
 #include "suite/schema.h"
 
@@ -88,13 +87,6 @@ std::string Contents(const fs::path& file) {
   std::ostringstream text;
   text << std::ifstream(file).rdbuf();
   return text.str();
-}
-
-/// Runs statements in the server's own language.
-void Natively(const std::unique_ptr<data::Session>& session, const Words& statements) {
-  for (const std::string& statement : statements) {
-    static_cast<OdbcSession&>(*session).Native(statement);
-  }
 }
 
 }  // namespace
@@ -170,15 +162,17 @@ void PrivatePostgres::Kill() {
   server_ = -1;
 }
 
-void PrivatePostgres::Run(const std::string& database, const std::string& sql) {
-  Natively(OpenServer({Address(), kUser, kPassword, database}, {}), {sql});
+void PrivatePostgres::RunAll(const std::string& database,
+                             const std::vector<std::string>& statements) {
+  const auto run = OpenNativeServer({Address(), kUser, kPassword, database}, {});
+  for (const std::string& statement : statements) run(statement);
 }
 
 std::string PrivatePostgres::MakeDatabase() {
   constexpr const char* kTemplate = "qvzj_empty";
   if (databases_ == 0) {
     Run("postgres", std::string("create database ") + kTemplate);
-    Natively(OpenServer({Address(), kUser, kPassword, kTemplate}, {}), PostgresSchema());
+    RunAll(kTemplate, PostgresSchema());
   }
   const std::string name = "qvzj_" + std::to_string(++databases_);
   Run("postgres", "create database " + name + " template " + kTemplate);

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "tests/support/temporary_folder.h"
 
@@ -29,8 +30,9 @@ class PrivatePostgres {
 
   /// Makes a database with the suite's empty tables and answers its name.
   std::string MakeDatabase();
-  /// Runs statements in the server's own language on `database`.
-  void Run(const std::string& database, const std::string& sql);
+  /// Runs statements in the server's own language on `database`, one at a time.
+  void Run(const std::string& database, const std::string& sql) { RunAll(database, {sql}); }
+  void RunAll(const std::string& database, const std::vector<std::string>& statements);
 
   /// Ends the server without warning, as a failing machine does.
   void Kill();

@@ -1,0 +1,151 @@
+// Plays every scenario against a private PostgreSQL server and compares what it prints with what
+// it prints on the data file.
+//
+//   postgres_scenario_runner PROGRAM FOLDER [NAME …]
+//
+// The scenarios are the FOLDER's *.qvs files, or those named. One with the line "# engine: file"
+// is about the data file itself and is left out. Statements are compared as the server dialect
+// spells them; of an error that the engine worded only that it came.
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <regex>
+#include <sstream>
+#include <stdexcept>
+
+#include "tests/scenarios/play.h"
+#include "tests/support/postgres.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace qvzj::test;
+
+/// ctest takes this exit status as "skipped".
+constexpr int kSkipped = 77;
+
+/// A statement of the desktop dialect as the module builds it for a server.
+std::string OfServerDialect(std::string line) {
+  static const std::regex date("#([0-9]{2}/[0-9]{2}/[0-9]{4})#");
+  static const std::regex numeric(R"(IsNumeric\(Mid\(([^)]*)\)\))");
+  static const std::regex middle(R"(max\(mid\()");
+  static const std::regex checked(" And '' & fInvSHR<>''");
+  line = std::regex_replace(line, date, "'$1'");
+  line = std::regex_replace(line, numeric, "IsNumeric(SUBSTRING($1))=1");
+  line = std::regex_replace(line, middle, "max(SUBSTRING(");
+  return std::regex_replace(line, checked, " And (not fInvSHR is null) And fInvSHR<>''");
+}
+
+/// A component's call without the values that say where the data lies.
+std::string WithoutAccess(const std::string& line) {
+  static const std::regex json(
+      R"("UserPath":"[^"]*","Password":"[^"]*","SQLData":[0-9]+,"UserID":"[^"]*","Default":"[^"]*")");
+  static const std::regex print(R"( 6="[^"]*" 7="[^"]*" 8=[0-9]+ 9="[^"]*" 10="[^"]*")");
+  return std::regex_replace(std::regex_replace(line, json, "(access)"), print, " (access)");
+}
+
+/// What must be the same on every engine.
+std::string Comparable(const std::string& printed) {
+  std::istringstream in(printed);
+  std::string comparable;
+  for (std::string line; std::getline(in, line);) {
+    if (line.starts_with("exec ") || line.starts_with("open ")) line = OfServerDialect(line);
+    if (line.starts_with("error: ")) line = "error:";
+    if (line.starts_with("user ") || line.starts_with("task ") || line.starts_with("print ")) {
+      line = WithoutAccess(line);
+    }
+    comparable += line + "\n";
+  }
+  return comparable;
+}
+
+bool IsAboutTheDataFile(const fs::path& scenario) {
+  return Content(scenario).find("# engine: file\n") != std::string::npos;
+}
+
+std::vector<fs::path> Scenarios(const fs::path& folder, const std::vector<std::string>& names) {
+  std::vector<fs::path> scenarios;
+  for (const std::string& name : names) scenarios.push_back(folder / (name + ".qvs"));
+  if (names.empty()) {
+    for (const auto& entry : fs::directory_iterator(folder)) {
+      if (entry.path().extension() == ".qvs") scenarios.push_back(entry.path());
+    }
+  }
+  std::sort(scenarios.begin(), scenarios.end());
+  return scenarios;
+}
+
+void Fill(PrivatePostgres& server, const std::string& database, const fs::path& file) {
+  std::istringstream in(Content(file));
+  std::vector<std::string> statements(1);
+  for (std::string line; std::getline(in, line);) {
+    if (line.starts_with("--")) continue;
+    statements.back() += line;
+    if (!line.ends_with(';')) continue;
+    statements.back().pop_back();
+    statements.emplace_back();
+  }
+  statements.pop_back();
+  server.RunAll(database, statements);
+}
+
+/// Plays one scenario; true when it printed what it should.
+bool Play(PrivatePostgres& server, const fs::path& program, const fs::path& scenario) {
+  const TemporaryFolder folder;
+  const std::string database = server.MakeDatabase();
+  Fill(server, database, scenario.parent_path() / "fixture.sql");
+  if (fs::exists(Beside(scenario, ".sql"))) Fill(server, database, Beside(scenario, ".sql"));
+  const fs::path printed = folder.Path() / "printed.out";
+  const fs::path expected = folder.Path() / "expected.out";
+  const fs::path script = Beside(scenario, ".sh");
+  if (fs::exists(script) && RunIn(folder.Path(), {"sh", "-eu", script.string()}, {}) != 0) {
+    throw std::runtime_error(script.string() + " failed");
+  }
+  const int status = RunIn(folder.Path(),
+                           {program.string(), "--server", server.Address(), "--user",
+                            PrivatePostgres::kUser, "--password", PrivatePostgres::kPassword,
+                            "--database", database, "--today", kScenarioDay, scenario.string()},
+                           printed);
+  const std::string comparable = Comparable(Content(printed));
+  const std::string wanted = Comparable(Content(Beside(scenario, ".out")));
+  std::printf("%s %s\n", comparable == wanted && status == 0 ? "same  " : "FAILED",
+              scenario.stem().c_str());
+  if (comparable != wanted) {
+    std::ofstream(expected) << wanted;
+    std::ofstream(printed) << comparable;
+    ShowDifference(expected, printed);
+  }
+  if (status != 0) std::printf("the program ended with %d\n", status);
+  return comparable == wanted && status == 0;
+}
+
+int Main(const std::vector<std::string>& arguments) {
+  if (arguments.size() < 2) {
+    std::fputs("usage: postgres_scenario_runner PROGRAM FOLDER [NAME ...]\n", stderr);
+    return 2;
+  }
+  if (const std::string missing = PrivatePostgres::Missing(); !missing.empty()) {
+    std::printf("skipped: %s\n", missing.c_str());
+    return kSkipped;
+  }
+  PrivatePostgres server;
+  int failed = 0;
+  for (const fs::path& scenario :
+       Scenarios(fs::absolute(arguments[1]), {arguments.begin() + 2, arguments.end()})) {
+    if (IsAboutTheDataFile(scenario)) continue;
+    if (!Play(server, fs::absolute(arguments[0]), scenario)) ++failed;
+  }
+  return failed == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return Main(std::vector<std::string>(argv + 1, argv + argc));
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "postgres_scenario_runner: %s\n", error.what());
+    return 2;
+  }
+}
