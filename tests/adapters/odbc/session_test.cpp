@@ -220,22 +220,6 @@ TEST(ServerConnections, OpenThroughTheConnectionComponent) {
   EXPECT_EQ(connection.Open("select count(*) from tAccountDetail Where 1=2").Text(0), "0");
 }
 
-TEST(ServerConnections, OpenTheLastServerAgainUnderTheNameThatALoginLeaves) {
-  QV_NEEDS_SERVER();
-  const std::string database = Server().MakeDatabase();
-  SuiteConnections connections;
-  data::Connection connection;
-  const auto open = [&](const std::string& path) {
-    return connections.OpenConnection(1, connection, path, PrivatePostgres::kPassword,
-                                      PrivatePostgres::kUser, database);
-  };
-  EXPECT_FALSE(open("SQL Server"));
-  EXPECT_TRUE(open(Server().Address()));
-  connection.Close();
-  EXPECT_TRUE(open("SQL Server"));
-  EXPECT_EQ(connection.State(), 1);
-}
-
 TEST(ServerConnections, AnswerFalseWithAReasonThatHoldsNoPassword) {
   QV_NEEDS_SERVER();
   SuiteConnections connections;
