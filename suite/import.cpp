@@ -16,7 +16,7 @@ class Import {
  public:
   Import(SqliteSession& session, std::string_view text, const ImportOptions& options,
          const std::function<void(const Refusal&)>& refused, ImportReport& report)
-      : options_(options), refused_(refused), report_(report), reader_(text, options.separator) {
+      : refused_(refused), report_(report), reader_(text, options.separator) {
     CsvRecord header;
     if (!reader_.Next(header))
       throw Error("The file is empty; its first row must name the columns");
@@ -51,7 +51,6 @@ class Import {
     return rows_->Take(record.fields);
   }
 
-  const ImportOptions& options_;
   const std::function<void(const Refusal&)>& refused_;
   ImportReport& report_;
   CsvReader reader_;
