@@ -28,15 +28,17 @@ DataAccess CurrentAccess() {
   return {context.UserPath, context.Password, context.SQLData, context.UserID, context.Default};
 }
 
+std::string ListTitle(const ui::Tabs& tabs) { return tabs.TabCaption(0) + kListSuffix; }
+
 void PrintLedger(frmZj& form) {
   form.printKind = kLedgerPrint;
-  PrintGrid(form, form.Grid2, form.SSTab2.TabCaption(0) + kListSuffix,
-            form.mode == kCustomers ? "qvzj_0" : "qvzj_1", "");
+  PrintGrid(form, form.Grid2, ListTitle(form.SSTab2), form.mode == kCustomers ? "qvzj_0" : "qvzj_1",
+            "");
 }
 
 void PrintRegister(frmZj& form) {
   form.printKind = kRegisterPrint;
-  PrintGrid(form, form.Grid1, form.SSTab1.TabCaption(0) + kListSuffix, "", "");
+  PrintGrid(form, form.Grid1, ListTitle(form.SSTab1), "", "");
 }
 
 }  // namespace
@@ -44,6 +46,9 @@ void PrintRegister(frmZj& form) {
 void ConnectPrint(frmZj& form) {
   form.cmdPrint.onClick = [&form] { PrintLedger(form); };
   form.cmdKhPrint.onClick = [&form] { PrintRegister(form); };
+  form.Grid1.offers = {&form.cmdKhPrint, [&form] { return ListTitle(form.SSTab1); }, {}};
+  form.Grid2.offers = {&form.cmdPrint, [&form] { return ListTitle(form.SSTab2); },
+                       [&form] { return Totals(form); }};
 }
 
 void PrintGrid(frmZj& form, ui::Grid& grid, const std::string& title, const std::string& report,

@@ -117,6 +117,8 @@ void DesignLedger(frmZj& form) {
     form.Grid2.SetColumnWidth(column, kLedgerWidths[static_cast<size_t>(column - 1)]);
   }
   for (int32_t amount = 4; amount <= 6; ++amount) form.Grid2.SetColumnDecimals(amount, 2);
+  // The third amount is a running balance, which does not add up.
+  for (int32_t amount = 4; amount <= 5; ++amount) form.Grid2.SetColumnSummed(amount, true);
 }
 
 // Numbers controls one after another in tab order.

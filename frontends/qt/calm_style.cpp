@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QStyleOption>
 #include <QWidget>
+#include <algorithm>
 
 #include "frontends/qt/theme.h"
 
@@ -48,6 +49,59 @@ void DrawButton(const QStyleOption& option, QPainter& painter) {
   }
 }
 
+void DrawTick(QPainter& painter, const QRectF& box, const QColor& color) {
+  QPainterPath path(box.topLeft() + QPointF(box.width() * 0.24, box.height() * 0.52));
+  path.lineTo(box.topLeft() + QPointF(box.width() * 0.43, box.height() * 0.71));
+  path.lineTo(box.topLeft() + QPointF(box.width() * 0.77, box.height() * 0.30));
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(color, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPath(path);
+}
+
+void DrawCheckBox(const QStyleOption& option, QPainter& painter) {
+  const Colors& colors = ColorsFor(option.palette);
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const bool on = Has(option, QStyle::State_On) || Has(option, QStyle::State_NoChange);
+  const QColor chosen = enabled ? colors.accent : colors.muted;
+  DrawRounded(painter, option.rect,
+              on        ? chosen
+              : enabled ? colors.base
+                        : colors.read_only,
+              on        ? chosen
+              : enabled ? colors.muted
+                        : colors.border,
+              3);
+  painter.save();
+  if (Has(option, QStyle::State_NoChange)) {
+    const QRect box = option.rect;
+    painter.fillRect(box.adjusted(3, box.height() / 2 - 1, -3, 1 - box.height() / 2),
+                     colors.on_accent);
+  } else if (on) {
+    DrawTick(painter, option.rect, colors.on_accent);
+  }
+  painter.restore();
+}
+
+void DrawOption(const QStyleOption& option, QPainter& painter) {
+  const Colors& colors = ColorsFor(option.palette);
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const bool on = Has(option, QStyle::State_On);
+  const QColor chosen = enabled ? colors.accent : colors.muted;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF circle = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  painter.setPen(QPen(on ? chosen : enabled ? colors.muted : colors.border, 1));
+  painter.setBrush(enabled ? colors.base : colors.read_only);
+  painter.drawEllipse(circle);
+  if (on) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(chosen);
+    painter.drawEllipse(circle.adjusted(3, 3, -3, -3));
+  }
+  painter.restore();
+}
+
 void DrawField(const QStyleOption& option, QPainter& painter, bool read_only) {
   const Colors& colors = ColorsFor(option.palette);
   const bool enabled = Has(option, QStyle::State_Enabled);
@@ -88,6 +142,53 @@ void DrawHeaderSection(const QStyleOptionHeader& option, QPainter& painter) {
   painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
 }
 
+/// Where the slider of a scroll bar stands: a bar without arrows, the slider never too short to
+/// be caught.
+QRect SliderRect(const QStyleOptionSlider& bar) {
+  constexpr int kShortest = 28;
+  const bool upright = bar.orientation == Qt::Vertical;
+  const int room = upright ? bar.rect.height() : bar.rect.width();
+  const int64_t range = int64_t{bar.maximum} - bar.minimum;
+  const int length =
+      range <= 0
+          ? room
+          : std::clamp(static_cast<int>(room * int64_t{bar.pageStep} / (range + bar.pageStep)),
+                       std::min(kShortest, room), room);
+  const int start = QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
+                                                    room - length, bar.upsideDown);
+  return upright ? QRect(0, start, bar.rect.width(), length)
+                 : QRect(start, 0, length, bar.rect.height());
+}
+
+QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
+  const QRect slider = SliderRect(bar);
+  const bool upright = bar.orientation == Qt::Vertical;
+  switch (part) {
+    case QStyle::SC_ScrollBarSlider:
+      return slider;
+    case QStyle::SC_ScrollBarGroove:
+      return bar.rect;
+    case QStyle::SC_ScrollBarSubPage:
+      return upright ? QRect(0, 0, bar.rect.width(), slider.top())
+                     : QRect(0, 0, slider.left(), bar.rect.height());
+    case QStyle::SC_ScrollBarAddPage:
+      return upright ? bar.rect.adjusted(0, slider.bottom() + 1, 0, 0)
+                     : bar.rect.adjusted(slider.right() + 1, 0, 0, 0);
+    default:
+      return {};
+  }
+}
+
+void DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter) {
+  const Colors& colors = ColorsFor(bar.palette);
+  painter.fillRect(bar.rect, colors.card);
+  if (bar.maximum <= bar.minimum) return;
+  const bool held = Has(bar, QStyle::State_Sunken);
+  const bool under = Has(bar, QStyle::State_MouseOver);
+  DrawRounded(painter, SliderRect(bar).adjusted(3, 3, -3, -3),
+              held || under ? colors.muted : colors.strong_border, Qt::transparent, 3);
+}
+
 bool IsReadOnly(const QWidget* widget) {
   return widget != nullptr && widget->property("qvReadOnly").toBool();
 }
@@ -119,6 +220,12 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
       DrawField(*option, *painter, Has(*option, State_ReadOnly));
       return;
     }
+    case PE_IndicatorCheckBox:
+      DrawCheckBox(*option, *painter);
+      return;
+    case PE_IndicatorRadioButton:
+      DrawOption(*option, *painter);
+      return;
     case PE_FrameFocusRect:
       // Check boxes and options get a line around their text; the others show the focus themselves.
       if (qobject_cast<const QAbstractButton*>(widget) != nullptr) {
@@ -127,6 +234,9 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
       }
       return;
     case PE_FrameDefaultButton:
+      return;
+    case PE_PanelScrollAreaCorner:
+      painter->fillRect(option->rect, ColorsFor(option->palette).card);
       return;
     default:
       QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -164,7 +274,26 @@ void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     DrawDropDown(*option, *painter, arrow, IsReadOnly(widget));
     return;
   }
+  const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+  if (control == CC_ScrollBar && bar != nullptr) {
+    DrawScrollBar(*bar, *painter);
+    return;
+  }
   QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect CalmStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                SubControl part, const QWidget* widget) const {
+  const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+  if (control == CC_ScrollBar && bar != nullptr) return ScrollBarPart(*bar, part);
+  return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                const QWidget* widget) const {
+  const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+  // Chinese fonts stand low in their lines.
+  return element == SE_LineEditContents ? rect.adjusted(1, -1, -1, -1) : rect;
 }
 
 int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -184,6 +313,10 @@ int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
       return 8;
     case PM_HeaderMargin:
       return 4;
+    case PM_FocusFrameHMargin:
+      return 4;  // beside the texts of cells
+    case PM_ScrollBarExtent:
+      return 13;
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);
   }
@@ -199,6 +332,8 @@ int CalmStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
       return 0;
     case SH_UnderlineShortcut:
       return 1;
+    case SH_Table_GridLineColor:
+      return option == nullptr ? 0 : static_cast<int>(ColorsFor(option->palette).border.rgb());
     case SH_TabBar_Alignment:
       return Qt::AlignLeft;
     default:

@@ -72,6 +72,7 @@ void FormWindow::Build() {
     view_of_[control] = view.get();
     views_.push_back(std::move(view));
   }
+  for (QWidget* part : findChildren<QWidget*>()) part->setStyle(ThemeStyle());
   for (const auto& view : views_) view->MirrorAll();
 }
 
@@ -127,7 +128,8 @@ void FormWindow::SyncFocus() {
   ui::Control* focused = form_->Focused();
   ControlView* view = focused == nullptr ? nullptr : ViewOf(*focused);
   QWidget* wanted = view == nullptr ? this : view->FocusWidget();
-  if (focusWidget() == wanted) return;
+  // An editor inside the widget, such as the find line of a grid, counts as the widget.
+  if (focusWidget() == wanted || (view != nullptr && wanted->isAncestorOf(focusWidget()))) return;
   const QScopedValueRollback<bool> following(following_, true);
   wanted->setFocus(Qt::OtherFocusReason);
 }
@@ -174,6 +176,7 @@ void FormWindow::PopUpMenu(ui::Form&, ui::MenuItem& menu, int32_t left, int32_t 
   auto* native = new QMenu(this);
   native->setAttribute(Qt::WA_DeleteOnClose);
   native->setFont(font());
+  native->setStyle(ThemeStyle());
   FillMenu(*native, menu);
   native->popup(mapToGlobal(QPoint(ToPixels(left, logicalDpiX()), ToPixels(top, logicalDpiY()))));
 }

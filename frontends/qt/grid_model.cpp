@@ -99,6 +99,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation == Qt::Vertical) {
     if (role == Qt::DisplayRole) return section + 1;
+    if (role == Qt::ForegroundRole)
+      return QBrush(palette_.color(QPalette::Disabled, QPalette::Text));
     if (role == Qt::TextAlignmentRole)
       return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
     return {};

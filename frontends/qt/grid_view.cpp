@@ -2,13 +2,15 @@
 
 #include <QEvent>
 #include <QHeaderView>
-#include <QMouseEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 
+#include "frontends/qt/column_keeper.h"
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/grid_model.h"
+#include "frontends/qt/grid_tools.h"
 #include "frontends/qt/keys.h"
 #include "frontends/qt/scale.h"
 #include "frontends/qt/theme.h"
@@ -80,14 +82,16 @@ GridView::GridView(FormWindow& window, ui::Grid& grid, QWidget* parent)
       model_(std::make_unique<GridModel>(grid)) {
   table_->setModel(model_.get());
   Adopt(table_, table_->viewport());
-  for (QWidget* part : {static_cast<QWidget*>(table_->horizontalHeader()),
-                        static_cast<QWidget*>(table_->verticalHeader())}) {
-    part->setStyle(ThemeStyle());
-    part->setFocusPolicy(Qt::NoFocus);
-  }
+  table_->horizontalHeader()->setFocusPolicy(Qt::NoFocus);
+  table_->verticalHeader()->setFocusPolicy(Qt::NoFocus);
   table_->viewport()->setFocusPolicy(Qt::NoFocus);
   ConnectTable();
+  const QString name = window.objectName() + "." + QString::fromStdString(grid.FullName());
+  columns_ = std::make_unique<ColumnKeeper>(*table_, name, window.Options().layouts);
+  tools_ = std::make_unique<GridTools>(*this);
 }
+
+void GridView::ResetColumns() { columns_->Reset(); }
 
 GridView::~GridView() {
   // The table lives a little longer than its model.
@@ -158,16 +162,12 @@ void GridView::Detach() {
 }
 
 void GridView::ShowColumns() {
-  const int count = grid_.ColumnCount();
-  designed_.resize(static_cast<size_t>(count), -1);
-  for (int column = 0; column < count; ++column) {
+  std::vector<int> widths;
+  for (int column = 0; column < grid_.ColumnCount(); ++column) {
     table_->setColumnHidden(column, grid_.ColumnHidden(column + 1));
-    const int32_t width = grid_.ColumnWidth(column + 1);
-    int32_t& designed = designed_[static_cast<size_t>(column)];
-    if (designed == width) continue;
-    designed = width;
-    table_->setColumnWidth(column, ToPixels(width, table_->logicalDpiX()));
+    widths.push_back(ToPixels(grid_.ColumnWidth(column + 1), table_->logicalDpiX()));
   }
+  columns_->Design(widths);
   const int height = ToPixels(grid_.RowHeight(), table_->logicalDpiY());
   table_->verticalHeader()->setDefaultSectionSize(height);
   CountPageRows();
@@ -235,6 +235,11 @@ bool GridView::eventFilter(QObject* watched, QEvent* event) {
   }
   if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
     table_->viewport()->update();  // the current row's shade tells the focus
+  }
+  const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+  if (key && Live() && tools_->HandleKey(*static_cast<QKeyEvent*>(event))) {
+    event->accept();
+    return true;
   }
   return ControlView::eventFilter(watched, event);
 }

@@ -6,7 +6,9 @@
 
 namespace qvzj::qt {
 
+class ColumnKeeper;
 class GridModel;
+class GridTools;
 
 /// The native table: rows of one height, whole rows selected, the current row clear with or
 /// without the focus.
@@ -33,6 +35,11 @@ class GridView : public ControlView {
   GridTable* Table() const { return table_; }
   GridModel& Model() const { return *model_; }
   ui::Grid& GetGrid() const { return grid_; }
+  GridTools& Tools() const { return *tools_; }
+  FormWindow& Window() const { return window_; }
+  bool IsLive() const { return Live(); }
+  /// Back to the designed widths and order of the columns.
+  void ResetColumns();
 
  protected:
   bool FocusesOnPress() const override { return true; }
@@ -49,7 +56,8 @@ class GridView : public ControlView {
   ui::Grid& grid_;
   GridTable* table_;
   std::unique_ptr<GridModel> model_;
-  std::vector<int32_t> designed_;  // designed widths in twips, as last shown
+  std::unique_ptr<ColumnKeeper> columns_;
+  std::unique_ptr<GridTools> tools_;
   bool contents_stale_ = true;
   bool current_stale_ = true;
   bool showing_ = false;  // the table's own signals are echoes

@@ -8,19 +8,67 @@ namespace qvzj::qt {
 
 namespace {
 
-const NativeTexts kSimplified{"确定",       "取消",           "是",
-                              "否",         "撤消(&U)",       "重做(&R)",
-                              "剪切(&T)",   "复制(&C)",       "粘贴(&P)",
-                              "删除(&D)",   "全选(&A)",       "复制所选行(&C)",
-                              "查找(&F)…",  "查找下一个(&N)", "恢复列宽和列序(&R)",
-                              "已选 %1 行", "%1 合计 %2",     "没有找到：%1"};
+NativeTexts Simplified() {
+  NativeTexts texts;
+  texts.ok = "确定";
+  texts.cancel = "取消";
+  texts.yes = "是";
+  texts.no = "否";
+  texts.undo = "撤消(&U)";
+  texts.redo = "重做(&R)";
+  texts.cut = "剪切(&T)";
+  texts.copy = "复制(&C)";
+  texts.paste = "粘贴(&P)";
+  texts.erase = "删除";
+  texts.select_all = "全选";
+  texts.copy_rows = "复制所选行(&C)";
+  texts.find = "查找(&F)…";
+  texts.find_next = "查找下一个(&N)";
+  texts.export_grid = "导出(&E)…";
+  texts.print = "打印(&P)";
+  texts.reset_columns = "恢复列宽和列序(&R)";
+  texts.selected = "已选 %1 行";
+  texts.sum = "%1 合计 %2";
+  texts.find_here = "查找";
+  texts.not_found = "没有找到";
+  texts.excel_file = "Excel 工作簿";
+  texts.csv_utf8_file = "CSV 文件，UTF-8";
+  texts.csv_gb_file = "CSV 文件，GB18030";
+  texts.exported = "已导出 %1 行：\n%2";
+  texts.lost = "有 %1 个字符无法用该编码保存，已写成“?”。";
+  return texts;
+}
 
-const NativeTexts kTraditional{"確定",       "取消",           "是",
-                               "否",         "復原(&U)",       "重做(&R)",
-                               "剪下(&T)",   "複製(&C)",       "貼上(&P)",
-                               "刪除(&D)",   "全選(&A)",       "複製所選列(&C)",
-                               "尋找(&F)…",  "尋找下一個(&N)", "恢復欄寬和欄序(&R)",
-                               "已選 %1 列", "%1 合計 %2",     "沒有找到：%1"};
+NativeTexts Traditional() {
+  NativeTexts texts;
+  texts.ok = "確定";
+  texts.cancel = "取消";
+  texts.yes = "是";
+  texts.no = "否";
+  texts.undo = "復原(&U)";
+  texts.redo = "重做(&R)";
+  texts.cut = "剪下(&T)";
+  texts.copy = "複製(&C)";
+  texts.paste = "貼上(&P)";
+  texts.erase = "刪除";
+  texts.select_all = "全選";
+  texts.copy_rows = "複製所選行(&C)";
+  texts.find = "尋找(&F)…";
+  texts.find_next = "尋找下一個(&N)";
+  texts.export_grid = "匯出(&E)…";
+  texts.print = "列印(&P)";
+  texts.reset_columns = "恢復欄寬和欄序(&R)";
+  texts.selected = "已選 %1 行";
+  texts.sum = "%1 合計 %2";
+  texts.find_here = "尋找";
+  texts.not_found = "沒有找到";
+  texts.excel_file = "Excel 活頁簿";
+  texts.csv_utf8_file = "CSV 檔案，UTF-8";
+  texts.csv_gb_file = "CSV 檔案，GB18030";
+  texts.exported = "已匯出 %1 行：\n%2";
+  texts.lost = "有 %1 個字元無法用該編碼保存，已寫成「?」。";
+  return texts;
+}
 
 struct EditText {
   std::string_view source;
@@ -37,7 +85,11 @@ constexpr std::array kEditTexts{EditText{"&Undo", &NativeTexts::undo},
 
 }  // namespace
 
-const NativeTexts& TextsOf(int language) { return language == 0 ? kSimplified : kTraditional; }
+const NativeTexts& TextsOf(int language) {
+  static const NativeTexts simplified = Simplified();
+  static const NativeTexts traditional = Traditional();
+  return language == 0 ? simplified : traditional;
+}
 
 QString NativeTranslator::translate(const char* context, const char* source, const char*,
                                     int) const {

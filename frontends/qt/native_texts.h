@@ -11,10 +11,14 @@ namespace qvzj::qt {
 struct NativeTexts {
   QString ok, cancel, yes, no;
   QString undo, redo, cut, copy, paste, erase, select_all;
-  QString copy_rows, find, find_next, reset_columns;
-  QString selected;  ///< "%1 rows", shown while several rows are selected
-  QString sum;       ///< "caption: sum" of one column of the selected rows
+  QString copy_rows, find, find_next, export_grid, print, reset_columns;
+  QString selected;   ///< how many rows are selected: %1
+  QString sum;        ///< of the selected rows: %1 column, %2 sum
+  QString find_here;  ///< stands in the empty find line
   QString not_found;
+  QString excel_file, csv_utf8_file, csv_gb_file;
+  QString exported;  ///< %1 rows, %2 file
+  QString lost;      ///< %1 characters that the file's encoding lacks
 };
 
 /// By language: 0 simplified, anything else traditional Chinese.

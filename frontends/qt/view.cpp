@@ -8,7 +8,6 @@
 #include "frontends/qt/keys.h"
 #include "frontends/qt/scale.h"
 #include "frontends/qt/text.h"
-#include "frontends/qt/theme.h"
 
 namespace qvzj::qt {
 
@@ -46,7 +45,6 @@ void ControlView::Adopt(QWidget* widget, QWidget* also) {
   widget->setObjectName(FromUtf8(control_->FullName()));
   for (QWidget* watched : {widget, also}) {
     if (watched == nullptr) continue;
-    watched->setStyle(ThemeStyle());
     watched->setFocusPolicy(Qt::TabFocus);
     watched->installEventFilter(this);
   }

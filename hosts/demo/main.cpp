@@ -2,6 +2,7 @@
 #include <QCommandLineParser>
 #include <cstdio>
 
+#include "frontends/qt/theme.h"
 #include "hosts/demo/demo_host.h"
 #include "hosts/demo/shots.h"
 #include "hosts/demo/suite_window.h"
@@ -18,11 +19,18 @@ int main(int argc, char** argv) {
   const QCommandLineOption shots("shots", "Draw the screens into PNG files in DIR and end.", "DIR");
   const QCommandLineOption settings("settings", "Keep settings in FILE instead of the user's own.",
                                     "FILE");
-  parser.addOptions({data, shots, settings});
+  const QCommandLineOption appearance("appearance", "light or dark; else the system's.", "NAME");
+  parser.addOptions({data, shots, settings, appearance});
   parser.process(application);
   if (!parser.isSet(data)) {
     std::fputs("qvzj-demo: --data DIR is needed; see --help\n", stderr);
     return 2;
+  }
+
+  if (parser.isSet(appearance)) {
+    const bool dark = parser.value(appearance) == "dark";
+    QApplication::setPalette(
+        qvzj::qt::ThemePalette(dark ? qvzj::qt::Appearance::Dark : qvzj::qt::Appearance::Light));
   }
 
   qvzj::demo::DemoHost host(parser.value(data), parser.value(settings));

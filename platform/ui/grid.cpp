@@ -93,6 +93,10 @@ void Grid::SetColumnDecimals(int32_t column, int decimals) {
   if (std::exchange(Info(column).decimals, decimals) != decimals) ContentsChanged();
 }
 
+bool Grid::ColumnSummed(int32_t column) const { return Info(column).summed; }
+
+void Grid::SetColumnSummed(int32_t column, bool summed) { Info(column).summed = summed; }
+
 std::string Grid::CellText(int32_t column, int32_t row) const {
   const ColumnInfo& info = Info(column);
   if (row == 0) return info.header;

@@ -22,6 +22,13 @@ class TextOrder {
   virtual std::string SortKey(std::string_view text) const = 0;
 };
 
+/// What can be done with a grid's contents besides looking at them; front ends offer it.
+struct GridOffers {
+  Control* print = nullptr;            ///< the button that prints the grid; null: it is not printed
+  std::function<std::string()> title;  ///< of a file made from the grid
+  std::function<std::vector<std::string>()> totals;  ///< caption, value, caption, …, at its end
+};
+
 /// A spreadsheet-like list that holds a million rows. Columns and rows are 1-based; row 0 is the
 /// header. Cells live in packed columns; sorting permutes the rows without moving a cell. Whoever
 /// fills it hides it first and shows it afterwards: a hidden grid tells the front ends nothing, and
@@ -50,6 +57,9 @@ class Grid : public Control {
   /// Shows numbers of the column with that many decimals, right-aligned; -1 = as they are.
   int ColumnDecimals(int32_t column) const;
   void SetColumnDecimals(int32_t column, int decimals);
+  /// True for a column of amounts whose sum says something; front ends show that of chosen rows.
+  bool ColumnSummed(int32_t column) const;
+  void SetColumnSummed(int32_t column, bool summed);
 
   /// The shown text; row 0 is the header.
   std::string CellText(int32_t column, int32_t row) const;
@@ -96,6 +106,8 @@ class Grid : public Control {
 
   size_t MemoryBytes() const;
 
+  GridOffers offers;
+
   /// A cell or, with row 0, a header was clicked.
   std::function<void(int32_t column, int32_t row)> onClick;
   std::function<void(int32_t column, int32_t row)> onDblClick;
@@ -113,6 +125,7 @@ class Grid : public Control {
     int32_t width = 1200;
     int decimals = -1;
     bool hidden = false;
+    bool summed = false;
   };
 
   ColumnInfo& Info(int32_t column);

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <vector>
+
+class QKeyEvent;
+class QLabel;
+class QPoint;
+
+namespace qvzj::qt {
+
+class FindBar;
+class GridView;
+struct NativeTexts;
+
+/// What people expect of any grid: copying the selected rows, finding a text, the number and sums
+/// of the selected rows, and a menu with all of it.
+class GridTools : public QObject {
+ public:
+  explicit GridTools(GridView& view);
+
+  /// Handles Ctrl+C, Ctrl+F and F3; false for any other key.
+  bool HandleKey(const QKeyEvent& event);
+  /// The selected rows under their headers, columns parted by tabs, as the clipboard gets them.
+  QString SelectedText() const;
+  /// "3 rows, sum of …"; empty while fewer than two rows are selected.
+  QString Summary() const;
+  /// Moves the active cell to the next cell that contains the text (ASCII case does not count),
+  /// around at the end. False when there is none, or the form kept the cell.
+  bool Find(const QString& text, bool backwards);
+
+ private:
+  void ShowMenu(const QPoint& at);
+  void ShowSummary();
+  void OpenFind();
+  void Export();
+  void Print();
+  /// 0-based columns from left to right as the user sees them.
+  std::vector<int> ShownColumns() const;
+  std::vector<int> SelectedRows() const;
+  const NativeTexts& Texts() const;
+
+  GridView& view_;
+  QLabel* summary_;
+  FindBar* find_bar_;
+};
+
+}  // namespace qvzj::qt

@@ -1,0 +1,195 @@
+#include "frontends/qt/grid_tools.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QHeaderView>
+#include <QMenu>
+#include <QSettings>
+
+#include "frontends/qt/find_text.h"
+#include "frontends/qt/layout_store.h"
+#include "tests/frontends/qt/window_world.h"
+
+namespace qvzj::test {
+namespace {
+
+class Tools : public ::testing::Test {
+ protected:
+  Tools() : form_(Filled()), view_(world_.GridOf(form_.Grid2)), table_(*view_.Table()) {}
+
+  frmZj& Filled() {
+    world_.AddEntry("2024-01-02", "P1", 100.5, 30);
+    world_.AddEntry("2024-01-03", "P2", 50.25, 0);
+    world_.AddEntry("2024-01-04", "XP3", 70, 0);
+    return world_.Show();
+  }
+  void SelectRows(int first, int last) {
+    form_.UserFocus(form_.Grid2);
+    world_.Settle();
+    table_.selectionModel()->select(
+        QItemSelection(table_.model()->index(first, 0), table_.model()->index(last, 17)),
+        QItemSelectionModel::ClearAndSelect);
+  }
+
+  WindowWorld world_;
+  frmZj& form_;
+  qt::GridView& view_;
+  qt::GridTable& table_;
+};
+
+TEST_F(Tools, CopyTheSelectedRowsUnderTheirHeaders) {
+  SelectRows(0, 1);
+  QTest::keyClick(&table_, Qt::Key_C, Qt::ControlModifier);
+  const QStringList lines = QGuiApplication::clipboard()->text().split('\n');
+  ASSERT_EQ(lines.size(), 4);
+  EXPECT_TRUE(lines.at(0).startsWith("日期\t票号\t客户单位\t应收"));
+  EXPECT_TRUE(lines.at(1).startsWith("2024-01-02\tP1\t甲公司\t100.50\t30.00\t70.50"));
+  EXPECT_EQ(lines.at(1).count('\t'), 11);
+  EXPECT_EQ(lines.at(3), "");
+}
+
+TEST_F(Tools, CopyColumnsInTheOrderTheUserGaveThem) {
+  table_.horizontalHeader()->moveSection(1, 0);
+  SelectRows(0, 0);
+  EXPECT_TRUE(view_.Tools().SelectedText().startsWith("票号\t日期\t"));
+}
+
+TEST_F(Tools, AddUpTheAmountsOfTheSelectedRows) {
+  SelectRows(0, 2);
+  const QString summary = view_.Tools().Summary();
+  EXPECT_TRUE(summary.startsWith("已选 3 行")) << qPrintable(summary);
+  EXPECT_TRUE(summary.contains("合计 220.75")) << qPrintable(summary);
+  EXPECT_EQ(summary.count("合计"), 2) << "a running balance has no sum";
+}
+
+TEST_F(Tools, SayNothingOfASingleRow) {
+  SelectRows(1, 1);
+  EXPECT_EQ(view_.Tools().Summary(), "");
+}
+
+TEST_F(Tools, FindTheNextCellAndGoThere) {
+  form_.UserCell(form_.Grid2, 1, 1);
+  EXPECT_TRUE(view_.Tools().Find("xp3", false));
+  EXPECT_EQ(form_.Grid2.ActiveRow(), 3);
+  EXPECT_EQ(form_.Grid2.ActiveColumn(), 2);
+  EXPECT_EQ(form_.chkAcntInit.Tag(), "3");
+}
+
+TEST_F(Tools, FindBackwardsAroundTheStart) {
+  form_.UserCell(form_.Grid2, 2, 1);
+  EXPECT_TRUE(view_.Tools().Find("P3", true));
+  EXPECT_EQ(form_.Grid2.ActiveRow(), 3);
+}
+
+TEST_F(Tools, StayWhereTheyAreWhenNothingIsFound) {
+  form_.UserCell(form_.Grid2, 2, 2);
+  EXPECT_FALSE(view_.Tools().Find("nowhere", false));
+  EXPECT_EQ(form_.Grid2.ActiveRow(), 2);
+}
+
+TEST_F(Tools, FindByTheLineOverTheGrid) {
+  form_.UserFocus(form_.Grid2);
+  form_.UserCell(form_.Grid2, 1, 1);
+  world_.Settle();
+  QTest::keyClick(&table_, Qt::Key_F, Qt::ControlModifier);
+  world_.Settle();
+  auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  ASSERT_NE(line, nullptr);
+  QTest::keyClicks(line, "P2");
+  QTest::keyClick(line, Qt::Key_Return);
+  world_.Settle();
+  EXPECT_EQ(form_.Grid2.ActiveRow(), 2);
+  EXPECT_TRUE(line->hasFocus());
+  QTest::keyClick(line, Qt::Key_Escape);
+  world_.Settle();
+  EXPECT_TRUE(table_.hasFocus());
+}
+
+TEST_F(Tools, OfferPrintingByTheFormsOwnButton) {
+  emit table_.customContextMenuRequested({5, 5});
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  QAction* print = nullptr;
+  for (QAction* action : menu->actions()) {
+    if (action->text() == "打印(&P)") print = action;
+  }
+  ASSERT_NE(print, nullptr);
+  print->trigger();
+  menu->close();
+  world_.Settle();
+  ASSERT_EQ(world_.headless.print.jobs.size(), 1U);
+  EXPECT_EQ(world_.headless.print.jobs[0].grid, &form_.Grid2);
+}
+
+TEST(FindText, LooksIntoNumbersAsTheyAreShown) {
+  ui::Form form("frm");
+  ui::Grid grid(form, "Grid1");
+  grid.SetColumnCount(1);
+  grid.SetRowCount(3);
+  grid.SetColumnDecimals(1, 2);
+  grid.SetCellNumber(1, 2, 12.5);
+  const auto found = qt::FindText(grid, "12.50", false);
+  ASSERT_TRUE(found.has_value());
+  EXPECT_EQ(found->row, 2);
+}
+
+class Columns : public ::testing::Test {
+ protected:
+  Columns()
+      : settings_(QString::fromStdString((folder_.Path() / "s.ini").string()),
+                  QSettings::IniFormat),
+        store_(settings_) {
+    form_.SetSize(9000, 6000);
+    grid_.SetColumnCount(3);
+    for (int column = 1; column <= 3; ++column) grid_.SetColumnWidth(column, 1500);
+  }
+  std::unique_ptr<qt::FormWindow> Window() {
+    return std::make_unique<qt::FormWindow>(form_, qt::WindowOptions{{}, &store_});
+  }
+  qt::GridView& View(qt::FormWindow& window) {
+    return static_cast<qt::GridView&>(*window.ViewOf(grid_));
+  }
+
+  TemporaryFolder folder_;
+  QSettings settings_;
+  qt::LayoutStore store_;
+  ui::Form form_{"frm"};
+  ui::Grid grid_{form_, "Grid1"};
+};
+
+TEST_F(Columns, AreAsWideAsDesignedUntilTheUserDragsThem) {
+  const auto window = Window();
+  EXPECT_EQ(View(*window).Table()->columnWidth(0), 100);
+}
+
+TEST_F(Columns, KeepWidthAndOrderForTheNextTime) {
+  {
+    const auto window = Window();
+    View(*window).Table()->setColumnWidth(1, 180);
+    View(*window).Table()->horizontalHeader()->moveSection(2, 0);
+  }
+  const auto window = Window();
+  EXPECT_EQ(View(*window).Table()->columnWidth(1), 180);
+  EXPECT_EQ(View(*window).Table()->columnWidth(0), 100);
+  EXPECT_EQ(View(*window).Table()->horizontalHeader()->logicalIndex(0), 2);
+}
+
+TEST_F(Columns, GoBackToTheDesignOnRequest) {
+  {
+    const auto window = Window();
+    View(*window).Table()->setColumnWidth(1, 180);
+    View(*window).ResetColumns();
+    EXPECT_EQ(View(*window).Table()->columnWidth(1), 100);
+  }
+  EXPECT_FALSE(store_.Columns("frm.Grid1", 3).has_value());
+}
+
+TEST_F(Columns, IgnoreWhatWasKeptForAnotherNumberOfThem) {
+  store_.KeepColumns("frm.Grid1", {{50, 60}, {1, 0}});
+  const auto window = Window();
+  EXPECT_EQ(View(*window).Table()->columnWidth(0), 100);
+}
+
+}  // namespace
+}  // namespace qvzj::test
