@@ -97,7 +97,8 @@ void ConnectDate(frmZj& form) {
   form.dtpAcntDate.onChange = [&form] {
     if (ArmedAction(form) == kActionNew) ProposeNumber(form);
   };
-  form.dtpAcntDate.onValidate = [&form](bool&) {
+  // Not while it is left: a database that is gone must not hold the user in the field.
+  form.dtpAcntDate.onLostFocus = [&form] {
     if (KeyingNewEntry(form) && form.txtAcnt2(1).Text().empty()) ProposeNumber(form);
   };
 }

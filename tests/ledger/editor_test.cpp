@@ -1,5 +1,6 @@
 #include "ledger/editor.h"
 
+#include "services/connect.h"
 #include "tests/ledger/ledger_world.h"
 
 namespace qvzj::test {
@@ -324,6 +325,16 @@ TEST_F(EntryEditor, ProposesANumberWhenTheDateIsLeftWithoutOne) {
   form.UserFocus(form.dtpAcntDate);
   Press(form, Key::Name::Enter);
   EXPECT_EQ(form.txtAcnt2(1).Text(), "MINE");
+}
+
+TEST_F(EntryEditor, LetsTheDateBeLeftWhenNoNumberCanBeRead) {
+  frmZj& form = Open();
+  form.UserClick(form.cmdAction(1));
+  Data().Close();
+  form.UserClick(form.cmdAcntCancel);
+  EXPECT_EQ(world.headless.boxes.TakeErrors().size(), 1u);
+  EXPECT_TRUE(form.UserClick(form.cmdAcntCancel));
+  EXPECT_FALSE(form.picAcnt.Visible());
 }
 
 TEST_F(EntryEditor, ReadsTheRateOfTheChosenCurrency) {

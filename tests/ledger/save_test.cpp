@@ -323,6 +323,7 @@ INSTANTIATE_TEST_SUITE_P(
         RoundTripCase{"LinkedToAnUnknownAccount", {.b = "10", .id2 = "4711"}},
         RoundTripCase{"ManyDecimals", {.a = "0.1+0.2", .b = "12.345", .rate = "7.123456789"}},
         RoundTripCase{"BigAmounts", {.a = "123456789012.34", .b = "1e15"}},
+        RoundTripCase{"TinyAmounts", {.a = "0.00001", .b = "1", .rate = "0.0000123"}},
         RoundTripCase{"NegativeAmounts", {.a = "-5", .b = "-0.01"}},
         RoundTripCase{"TrailingBlanks",
                       {.b = "1", .brief = "' x  '", .inv = "'a '", .doneman = "'b '"}},
