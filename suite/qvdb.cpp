@@ -13,6 +13,7 @@
 #include "suite/import.h"
 #include "suite/row_writer.h"
 #include "suite/schema.h"
+#include "suite/server_commands.h"
 
 namespace qvzj {
 namespace {
@@ -47,13 +48,20 @@ constexpr const char* kUsage = R"(qvdb - makes, fills and checks the data files 
       Looks for orphans, missing amounts, counter-entries out of step with their customer
       entries, and voucher numbers borne twice.
 
+  qvdb copy SOURCE TARGET
+      Copies all tables of one place into the empty tables of another, and compares both ends
+      value by value. A copy that was broken off goes on when it is started again. Nobody should
+      work in either meanwhile.
+
   qvdb user add|passwd|rights|disable|enable|remove|unit|exempt|list|log FILE ...
       Keeps the users of the rights database FILE, or of the one in the folder FILE.
       add FILE NAME [RIGHTS]   passwd FILE NAME   rights FILE NAME RIGHTS   list FILE
       disable FILE NAME   enable FILE NAME   remove FILE NAME   log FILE
       unit FILE [TEXT]   exempt FILE [NAME]
 
-Every command but user takes --data FOLDER (default: %DATA%).
+Every command but copy and user takes --data PLACE (default: %DATA%).
+A PLACE is a data folder, or a database on a server: postgres://USER@HOST[:PORT]/DATABASE, with
+its password in the variable QVDB_PASSWORD, or asked for. import takes data folders only.
 Exit status: 0 done; 1 done, but rows were refused or faults were found; 2 not done.
 )";
 
@@ -77,9 +85,11 @@ class ProgressLines {
   Clock::time_point next_;
 };
 
-fs::path DataFile(const Arguments& arguments) {
-  return fs::path(arguments.Text("--data", DefaultDataFolder())) / kDataFile;
+Place DataPlace(const Arguments& arguments, const QvdbStreams& streams) {
+  return PlaceWithPassword(arguments.Text("--data", DefaultDataFolder()), streams.ask_password);
 }
+
+fs::path DataFile(const Place& place) { return fs::path(place.folder) / kDataFile; }
 
 /// Opens the data file, made with all its tables when it is missing.
 std::unique_ptr<SqliteSession> OpenOrMake(const fs::path& file) {
@@ -103,9 +113,15 @@ void RefuseWords(const Arguments& arguments) {
 int Init(const Words& words, const QvdbStreams& streams) {
   const Arguments arguments(words, {"--data", "--currency"});
   RefuseWords(arguments);
-  const fs::path file = DataFile(arguments);
-  const auto session = OpenOrMake(file);
+  const Place place = DataPlace(arguments, streams);
   const std::vector<std::string> currencies = arguments.Texts("--currency");
+  if (place.OnServer()) {
+    InitServer(place, currencies);
+    streams.out << "ready: " << place.Name() << "\n";
+    return 0;
+  }
+  const fs::path file = DataFile(place);
+  const auto session = OpenOrMake(file);
   if (!currencies.empty()) {
     if (CountOf(*session, "Moneys") > 0) throw Error("The currency table is not empty");
     RowWriter table(*session, "Moneys", {"MoneyCode", "MoneyRate", "MoneyType"});
@@ -131,11 +147,17 @@ int Demo(const Words& words, const QvdbStreams& streams) {
     if (!until) throw UsageError("--until needs a day as YYYY-MM-DD");
     options.until = *until;
   }
-  const fs::path file = DataFile(arguments);
+  const Place place = DataPlace(arguments, streams);
   ProgressLines progress(streams.err);
-  MakeDemoData(*OpenOrMake(file), options, progress.Hook());
+  std::string filled = place.Name();
+  if (place.OnServer()) {
+    FillServer(place, options, progress.Hook());
+  } else {
+    filled = DataFile(place).string();
+    MakeDemoData(*OpenOrMake(filled), options, progress.Hook());
+  }
   streams.out << options.customers << " customers, " << options.accounts << " accounts, "
-              << options.entries << " entries: " << file.string() << "\n";
+              << options.entries << " entries: " << filled << "\n";
   return 0;
 }
 
@@ -206,9 +228,11 @@ int Import(const Words& words, const QvdbStreams& streams) {
       {"--once", "--add-currencies", "--dry-run"});
   if (arguments.Words().size() != 2) throw UsageError("import takes what to import and a file");
   const ImportOptions options = ImportOptionsOf(arguments);
+  const Place place = DataPlace(arguments, streams);
+  if (place.OnServer()) throw UsageError("import into a data folder, then copy that to the server");
   const std::string bytes = ReadAll(arguments.Words()[1], streams.in);
   ProgressLines progress(streams.err);
-  const auto session = OpenOrMake(DataFile(arguments));
+  const auto session = OpenOrMake(DataFile(place));
   const ImportReport report = ImportCsv(
       *session, bytes, options,
       [&](const Refusal& refusal) {
@@ -222,12 +246,26 @@ int Import(const Words& words, const QvdbStreams& streams) {
 int Check(const Words& words, const QvdbStreams& streams) {
   const Arguments arguments(words, {"--data"});
   RefuseWords(arguments);
-  const auto session = OpenSqlite(DataFile(arguments).string(), {});
-  const int64_t faults = CheckData(*session, [&](const Fault& fault) {
+  const Place place = DataPlace(arguments, streams);
+  const auto report = [&](const Fault& fault) {
     streams.out << NameOf(fault.kind) << ": " << fault.text << "\n";
-  });
+  };
+  ProgressLines progress(streams.err);
+  const int64_t faults = place.OnServer()
+                             ? CheckServer(place, progress.Hook(), report)
+                             : CheckData(*OpenSqlite(DataFile(place).string(), {}), report);
   streams.out << (faults == 0 ? "no faults" : std::to_string(faults) + " faults") << "\n";
   return faults > 0 ? 1 : 0;
+}
+
+int Copy(const Words& words, const QvdbStreams& streams) {
+  const Arguments arguments(words, {});
+  if (arguments.Words().size() != 2) throw UsageError("copy takes a source and a target");
+  ProgressLines progress(streams.err);
+  CopyPlace(PlaceWithPassword(arguments.Words()[0], streams.ask_password),
+            PlaceWithPassword(arguments.Words()[1], streams.ask_password), progress.Hook(),
+            streams.out);
+  return 0;
 }
 
 void PrintUsage(std::ostream& to) {
@@ -248,6 +286,7 @@ int Run(const Words& words, const QvdbStreams& streams) {
   if (command == "demo") return Demo(rest, streams);
   if (command == "import") return Import(rest, streams);
   if (command == "check") return Check(rest, streams);
+  if (command == "copy") return Copy(rest, streams);
   if (command == "user") {
     return RunUserCommand(rest, streams.ask_password, streams.out, streams.err);
   }
