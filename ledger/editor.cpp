@@ -64,10 +64,10 @@ void LinkClicked(frmZj& form) {
 }
 
 void CheckAmount(ui::TextBox& box, bool& cancel) {
-  const std::string& text = box.Text();
   cancel = !MayLeaveText(box);
   if (cancel) return;
-  box.SetText(basic::IsNumeric(text) ? basic::FormatFixed(basic::Val(text), 2) : "0.00");
+  const std::string number = PlainNumber(box.Text());
+  box.SetText(basic::IsNumeric(number) ? basic::FormatFixed(basic::Val(number), 2) : "0.00");
 }
 
 /// A field that is left with the rate gone gets the currency's present rate back.

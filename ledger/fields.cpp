@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/basic/text.h"
 #include "screen/keys.h"
 #include "services/query.h"
 
@@ -14,7 +15,40 @@ void FitInserted(const ui::EditBox& box, std::string& inserted) {
   FitInsertion(box.Text(), box.SelText(), inserted, box.MaxLength());
 }
 
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// Exactly three digits behind `comma`?
+bool GroupFollows(const std::string& text, size_t comma) {
+  const size_t end = comma + 4;
+  for (size_t i = comma + 1; i < end; ++i) {
+    if (i >= text.size() || !IsDigit(text[i])) return false;
+  }
+  return end == text.size() || !IsDigit(text[end]);
+}
+
+std::string HalfWidth(const std::string& text) {
+  constexpr char32_t kFirst = U'！';
+  constexpr char32_t kLast = U'～';
+  constexpr char32_t kDistance = kFirst - U'!';
+  std::string plain;
+  for (const char32_t code : basic::CodePoints(text)) {
+    plain += basic::FromCodePoint(code >= kFirst && code <= kLast ? code - kDistance : code);
+  }
+  return plain;
+}
+
 }  // namespace
+
+std::string PlainNumber(const std::string& text) {
+  const std::string grouped = HalfWidth(text);
+  std::string plain;
+  for (size_t i = 0; i < grouped.size(); ++i) {
+    const bool behind_digit = i > 0 && IsDigit(grouped[i - 1]);
+    if (grouped[i] == ',' && behind_digit && GroupFollows(grouped, i)) continue;
+    plain += grouped[i];
+  }
+  return plain;
+}
 
 void ConnectKeys(ui::TextBox& box, bool numeric) {
   box.onKeyPress = [&box, numeric](int& key) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/ui/widgets.h"
 
 /// Rules that the fields of the form share.
@@ -16,5 +18,8 @@ void ConnectKeys(ui::ComboBox& box);
 void RefuseQuotes(ui::EditBox& box);
 /// The check of RefuseQuotes alone; true when the field may be left.
 bool MayLeaveText(const ui::EditBox& box);
+/// An amount as people write it, as a plain number: characters that an input method made full-width
+/// become plain ones, and commas between groups of three digits go. Any other text stays no number.
+std::string PlainNumber(const std::string& text);
 
 }  // namespace qvzj

@@ -244,6 +244,22 @@ TEST_F(EntryEditor, FormatsAmountsWhenTheyAreLeft) {
   EXPECT_EQ(form.txtAcnt2(4).Text(), "0.00");
 }
 
+TEST_F(EntryEditor, ReadsAmountsAsPeopleWriteThem) {
+  frmZj& form = Open();
+  form.UserClick(form.cmdAction(1));
+  const std::vector<std::pair<std::string, std::string>> amounts = {
+      {"1,234.5", "1234.50"}, {"-12,345,678.9", "-12345678.90"},
+      {"１２．５", "12.50"},  {"１，２３４", "1234.00"},
+      {"－３", "-3.00"},      {"12,5x", "0.00"},
+      {",", "0.00"},          {" 7 ", "7.00"},
+  };
+  for (const auto& [typed, shown] : amounts) {
+    world.Type(form.txtAcnt2(4), typed);
+    form.SendTab();
+    EXPECT_EQ(form.txtAcnt2(4).Text(), shown) << typed;
+  }
+}
+
 TEST_F(EntryEditor, RefusesASingleQuoteInEveryTextUntilEscTakesItBack) {
   frmZj& form = Open();
   form.UserClick(form.cmdAction(1));
