@@ -7,6 +7,7 @@
 #include "register/grid.h"
 #include "register/list.h"
 #include "register/table.h"
+#include "screen/design.h"
 #include "screen/frmZj.h"
 #include "screen/keys.h"
 #include "services/connect.h"
@@ -93,7 +94,9 @@ std::string WhatRefersTo(const frmZj& form, const std::string& id) {
   const auto rows = [](const char* table, const std::string& condition) {
     return CountRows(table, condition) >= 1;
   };
-  if (rows("tAccountDetail", "fCompID=" + id + " And fType1=" + std::to_string(form.mode))) {
+  // -1 is also the answer for more entries than the count can say.
+  if (CountRows("tAccountDetail", "fCompID=" + id + " And fType1=" + std::to_string(form.mode)) !=
+      0) {
     return "：已有帐目存在，必须先删除所有相关帐目，才能够" + form.cmdKhSave.Caption() + "！";
   }
   if (rows("tTaskList", "taskID=" + id + " And fType=1")) {
@@ -128,14 +131,6 @@ std::optional<Commit> Prepare(const frmZj& form) {
   return Commit{};  // the empty statement is refused by the connection and reported as an error
 }
 
-void SaveRecord(frmZj& form) {
-  const std::optional<Commit> commit = Prepare(form);
-  if (!commit) return;
-  Data().Execute(commit->statement);
-  Message(commit->name + ":" + form.cmdKhSave.Caption() + LoadText(49) + "！", box::kInformation);
-  LoadRegister(form, form.registerCondition);
-}
-
 void EmptyRecord(frmZj& form) {
   for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetText("");
 }
@@ -149,8 +144,25 @@ void ShowRecordButtons(frmZj& form, bool visible) {
   form.cmdKhCancel.SetVisible(visible);
 }
 
+// The boxes show the register's row again, or nothing where there is none.
+void ShowRecord(frmZj& form) {
+  if (form.Grid1.ActiveRow() > 0) {
+    ShowRegisterRow(form, form.Grid1.ActiveRow());
+  } else {
+    EmptyRecord(form);
+  }
+}
+
+// Nothing is armed: a second press cannot repeat what was done.
+void DisarmRecord(frmZj& form) {
+  ShowRecordButtons(form, false);
+  LockRecord(form, true);
+}
+
 // Arms `action` (1 add, 2 change, 3 delete) on the record page.
 void ArmRecordAction(frmZj& form, int action) {
+  // An action that was armed before may have emptied or changed the boxes.
+  if (form.cmdKhSave.Visible()) ShowRecord(form);
   form.cmdKhSave.SetTag(std::to_string(action));
   form.cmdKhSave.SetCaption(form.mnuKhManage(action).Caption());
   ShowRecordButtons(form, true);
@@ -160,14 +172,20 @@ void ArmRecordAction(frmZj& form, int action) {
   form.SetFocus(form.txtAcnt(0));
 }
 
+void SaveRecord(frmZj& form) {
+  const std::optional<Commit> commit = Prepare(form);
+  if (!commit) return;
+  Data().Execute(commit->statement);
+  Message(commit->name + ":" + form.cmdKhSave.Caption() + LoadText(49) + "！", box::kInformation);
+  DisarmRecord(form);
+  // A record that is gone must not stay current where no other takes its place.
+  if (form.cmdKhSave.Tag() == kDelete) ForgetRecord(form);
+  LoadRegister(form, form.registerCondition);
+}
+
 void LeaveRecordEditing(frmZj& form) {
-  ShowRecordButtons(form, false);
-  LockRecord(form, true);
-  if (form.Grid1.ActiveRow() > 0) {
-    ShowRegisterRow(form, form.Grid1.ActiveRow());
-  } else {
-    EmptyRecord(form);
-  }
+  DisarmRecord(form);
+  ShowRecord(form);
   form.SSTab1.SetTab(0);
   form.SetFocus(form.Grid1);
 }

@@ -176,15 +176,11 @@ void DesignTabOrder(frmZj& form) {
 
 void ResetRegister(frmZj& form) {
   form.registerCondition.clear();
-  form.lblKhName.SetCaption("客户名称");
-  form.lblKhName.SetTag("0");
+  ForgetRecord(form);
   form.SSTab1.SetTab(0);
   form.Grid1.SetRowCount(0);
   form.Grid1.SetSortKey(0, ui::SortOrder::None);
-  for (int i = 0; i < form.txtAcnt.Count(); ++i) {
-    form.txtAcnt(i).SetText("");
-    form.txtAcnt(i).SetLocked(true);
-  }
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetLocked(true);
   form.optKhType(0).Select();
   form.cmdKhSave.SetTag("");
   form.cmdKhSave.SetVisible(false);
@@ -196,7 +192,6 @@ void ResetRegister(frmZj& form) {
   form.optSeek(0).Select();
   form.chkSeek2.SetValue(0);
   form.fraKhMemo.SetVisible(false);
-  form.txtKhMemo.SetText("");
   form.cmdSave.SetEnabled(false);
 }
 
@@ -270,6 +265,13 @@ void DesignCaptions(frmZj& form, int16_t language) {
   form.chkUser(0).SetCaption(text("登录人:", "登錄人:"));
   form.chkUser(1).SetCaption(text("经办人:", "經辦人:"));
   form.chkUser(2).SetCaption(text("审核人:", "審核人:"));
+}
+
+void ForgetRecord(frmZj& form) {
+  form.lblKhName.SetCaption("客户名称");
+  form.lblKhName.SetTag("0");
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetText("");
+  form.txtKhMemo.SetText("");
 }
 
 void ResetForm(frmZj& form) {

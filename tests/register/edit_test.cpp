@@ -260,6 +260,74 @@ TEST_F(RegisterEdit, ReportsABrokenStatementAndKeepsTheRegister) {
   EXPECT_EQ(form.SSTab1.Tab(), 1);
 }
 
+TEST_F(RegisterEdit, GoesBackToRestAfterASavedAction) {
+  Customers();
+  for (const int action : {1, 2, 3}) {
+    frmZj& form = Arm(action);
+    if (action == 1) {
+      world.Type(form.txtAcnt(0), "0009");
+      world.Type(form.txtAcnt(1), "新客户");
+    }
+    world.Answer("ok");
+    Save();
+    EXPECT_FALSE(form.cmdKhSave.Visible()) << action;
+    EXPECT_FALSE(form.cmdKhCancel.Visible()) << action;
+    EXPECT_TRUE(form.txtAcnt(0).Locked()) << action;
+    EXPECT_EQ(form.txtAcnt(1).Text(), form.lblKhName.Caption()) << action;
+    EXPECT_EQ(form.Focused(), &form.Grid1) << action;
+  }
+  EXPECT_EQ(Count("cards"), "3");
+}
+
+TEST_F(RegisterEdit, StaysArmedWhenTheStatementFails) {
+  Customers();
+  frmZj& form = Arm(2);
+  world.Type(form.txtAcnt(1), "O'Neil");
+  world.Answer("ok");
+  EXPECT_FALSE(form.UserClick(form.cmdKhSave));
+  world.headless.boxes.TakeErrors();
+  EXPECT_TRUE(form.cmdKhSave.Visible());
+  EXPECT_FALSE(form.txtAcnt(1).Locked());
+}
+
+TEST_F(RegisterEdit, HasNoCurrentRecordAfterTheLastOneWasDeleted) {
+  world.Sql("Delete From cards Where fID<>2;");
+  Customers();
+  frmZj& form = Arm(3);
+  world.Answer("ok");
+  Save();
+  EXPECT_EQ(form.Grid1.RowCount(), 0);
+  EXPECT_EQ(form.lblKhName.Caption(), "客户名称");
+  EXPECT_EQ(form.lblKhName.Tag(), "0");
+  EXPECT_EQ(form.txtAcnt(1).Text(), "");
+}
+
+TEST_F(RegisterEdit, ShowsTheCurrentRecordAgainWhenAnotherActionIsArmedAfterAnAdd) {
+  Customers();
+  GoTo("大地五金");
+  for (const int action : {2, 3}) {
+    Arm(1);
+    frmZj& form = Arm(action);
+    EXPECT_EQ(form.txtAcnt(0).Text(), "0002");
+    EXPECT_EQ(form.txtAcnt(1).Text(), "大地五金");
+    EXPECT_EQ(form.lblKhName.Tag(), "3");
+  }
+}
+
+TEST_F(RegisterEdit, KeepsARecordWithMoreEntriesThanACountCanSay) {
+  world.Sql(
+      "With Recursive n(i) As (Select 1 Union All Select i+1 From n Where i<32768)"
+      " Insert Into tAccountDetail (fDate,fCompID,fType1,fType2,fAcntNo,fInit,fMoneyA,fMoneyB)"
+      " Select '2024-03-01',2,0,1,i,0,1,0 From n;");
+  Customers();
+  GoTo("华东电子");
+  Arm(3);
+  Save();
+  EXPECT_EQ(world.Messages(),
+            (Texts{"华东电子：已有帐目存在，必须先删除所有相关帐目，才能够客户删除！"}));
+  EXPECT_EQ(Count("cards"), "3");
+}
+
 TEST_F(RegisterEdit, ReportsAnUnknownActionAsAnError) {
   Customers();
   frmZj& form = Arm(2);
