@@ -4,8 +4,12 @@
 #include <QDir>
 #include <QPixmap>
 #include <cstdio>
+#include <optional>
+#include <string>
+#include <utility>
 
 #include "hosts/demo/demo_host.h"
+#include "platform/surroundings.h"
 
 namespace qvzj::demo {
 
@@ -39,6 +43,46 @@ class Camera {
   QString folder_;
 };
 
+/// Nobody is there to answer while the screens are drawn: what a box has to say goes to standard
+/// error, and every question is answered by giving up.
+class SayingBoxes : public Boxes {
+ public:
+  SayingBoxes() : before_(std::exchange(Around().boxes, this)) {}
+  ~SayingBoxes() override { Around().boxes = before_; }
+  SayingBoxes(const SayingBoxes&) = delete;
+  SayingBoxes& operator=(const SayingBoxes&) = delete;
+
+  /// True once a box was to be shown.
+  bool Said() const { return said_; }
+
+  Answer Show(const std::string& text, int style, const std::string& title) override {
+    Say(text, title);
+    switch (style & box::kButtonsMask) {
+      case 0:
+        return Answer::Ok;
+      case 4:
+        return Answer::No;
+      default:
+        return Answer::Cancel;
+    }
+  }
+  std::optional<std::string> Input(const std::string& prompt, const std::string& title,
+                                   const std::string&) override {
+    Say(prompt, title);
+    return std::nullopt;
+  }
+  void Error(const std::string& text, const std::string& title) override { Say(text, title); }
+
+ private:
+  void Say(const std::string& text, const std::string& title) {
+    said_ = true;
+    std::fprintf(stderr, "qvzj-demo: %s: %s\n", title.c_str(), text.c_str());
+  }
+
+  Boxes* before_;
+  bool said_ = false;
+};
+
 bool ShootScreens(DemoHost& host, Camera& camera, int16_t mode, const QString& name) {
   host.Open(mode);
   frmZj* form = host.Control().Form();
@@ -64,17 +108,17 @@ bool ShootScreens(DemoHost& host, Camera& camera, int16_t mode, const QString& n
 
 bool TakeShots(DemoHost& host, const QString& folder) {
   if (!QDir().mkpath(folder)) return false;
+  SayingBoxes boxes;
   Camera camera(host, folder);
-  bool good = true;
   for (int16_t language : kLanguages) {
     host.SetLanguage(language);
     for (int16_t mode : kModes) {
       const QString name = QString(mode == 0 ? "customers" : "accounts") +
                            (language == 0 ? "-simplified" : "-traditional");
-      good = ShootScreens(host, camera, mode, name) && good;
+      if (!ShootScreens(host, camera, mode, name) || boxes.Said()) return false;
     }
   }
-  return good;
+  return true;
 }
 
 }  // namespace qvzj::demo
