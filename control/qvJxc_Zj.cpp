@@ -11,6 +11,7 @@
 #include "services/messages.h"
 #include "services/query.h"
 #include "services/strings.h"
+#include "services/text_ids.h"
 
 namespace qvzj {
 namespace {
@@ -67,12 +68,14 @@ void qvJxc_Zj::Open(int16_t run_mode, int16_t show_mode) {
   Context& shared = Shared();
   if (shared.UserPath.empty() && shared.SQLData == 0) return;
   if (!MayOpen()) {
-    Message(shared.CompName + ": " + LoadText(105) + LoadText(42) + " !", box::kCritical);
+    Message(
+        shared.CompName + ": " + LoadText(text_id::kNoRight) + LoadText(text_id::kManage) + " !",
+        box::kCritical);
     return;
   }
   shared.DateQuote = shared.SQLData == 0 ? "#" : "'";
   TakePathOfUser();
-  shared.Title = LoadText(run_mode == 0 ? 101 : 102);
+  shared.Title = LoadText(run_mode == 0 ? text_id::kCustomersTitle : text_id::kAccountsTitle);
   if (!LedgerIsThere()) {
     CloseData();
     Message("系统数据库 " + ShownPath(shared.UserPath) + " 属早期版本，无 [" + shared.Title +

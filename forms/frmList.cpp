@@ -8,6 +8,7 @@
 #include "services/connect.h"
 #include "services/context.h"
 #include "services/strings.h"
+#include "services/text_ids.h"
 
 namespace qvzj {
 namespace {
@@ -51,10 +52,10 @@ frmList::frmList() : ui::Form("frmList") {
 }
 
 void frmList::Load() {
-  SetCaption(LoadText(60) + LoadText(19));
-  lblList.SetCaption(LoadText(60) + LoadText(19) + ":");
-  cmdLogOK.SetCaption(LoadText(28) + "(&S)");
-  cmdCancel.SetCaption(LoadText(22) + ">>");
+  SetCaption(LoadText(text_id::kHandler) + LoadText(text_id::kList));
+  lblList.SetCaption(LoadText(text_id::kHandler) + LoadText(text_id::kList) + ":");
+  cmdLogOK.SetCaption(LoadText(text_id::kConfirm) + "(&S)");
+  cmdCancel.SetCaption(LoadText(text_id::kExit) + ">>");
   OpenData();
   data::Recordset rows = Data().Open("select * from employees order by employcode");
   std::vector<std::string> items;

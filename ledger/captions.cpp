@@ -3,119 +3,124 @@
 #include "platform/basic/text.h"
 #include "screen/frmZj.h"
 #include "services/strings.h"
+#include "services/text_ids.h"
 
 namespace qvzj {
 namespace {
 
-std::string S(int16_t id) { return LoadText(id); }
+using namespace text_id;
 
 /// The noun that the mode's captions are made of: customer or account.
-std::string ModeWord(const frmZj& form) { return S(form.mode == kCustomers ? 5 : 6); }
+std::string ModeWord(const frmZj& form) {
+  return LoadText(form.mode == kCustomers ? kCustomer : kAccount);
+}
 
 /// "按[…]排序": order by what stands in the brackets.
-std::string OrderItem(const std::string& by) { return S(50) + "[" + by + "]" + S(20); }
+std::string OrderItem(const std::string& by) {
+  return LoadText(kBy) + "[" + by + "]" + LoadText(kSort);
+}
 
 void CaptionButtons(frmZj& form) {
-  const std::string entry = S(7);
-  form.cmdKhSeek.SetCaption(S(23) + "(&S)");
-  form.cmdKhMemo.SetCaption(S(21) + "(&M)");
-  form.cmdKhPrint.SetCaption(S(27) + "(&P)");
+  const std::string entry = LoadText(kEntry);
+  form.cmdKhSeek.SetCaption(LoadText(kSearch) + "(&S)");
+  form.cmdKhMemo.SetCaption(LoadText(kDetail) + "(&M)");
+  form.cmdKhPrint.SetCaption(LoadText(kPrint) + "(&P)");
   form.cmdAction(0).SetCaption(entry + "查看(&V)");
-  form.cmdAction(1).SetCaption(entry + S(24) + "(&N)");
-  form.cmdAction(2).SetCaption(entry + S(25) + "(&E)");
-  form.cmdAction(3).SetCaption(entry + S(26) + "(&D)");
-  form.cmdAction(4).SetCaption(entry + S(63) + "(&K)");
-  form.cmdPrint.SetCaption(entry + S(27) + "(&P)");
-  form.cmdAcntRefresh.SetCaption(S(30) + "(&R)");
-  form.cmdExit.SetCaption(S(22) + ">>");
-  form.cmdSave.SetCaption(S(16) + "(&S)");
+  form.cmdAction(1).SetCaption(entry + LoadText(kAdd) + "(&N)");
+  form.cmdAction(2).SetCaption(entry + LoadText(kChange) + "(&E)");
+  form.cmdAction(3).SetCaption(entry + LoadText(kDelete) + "(&D)");
+  form.cmdAction(4).SetCaption(entry + LoadText(kCheck) + "(&K)");
+  form.cmdPrint.SetCaption(entry + LoadText(kPrint) + "(&P)");
+  form.cmdAcntRefresh.SetCaption(LoadText(kRefresh) + "(&R)");
+  form.cmdExit.SetCaption(LoadText(kExit) + ">>");
+  form.cmdSave.SetCaption(LoadText(kSave) + "(&S)");
   form.cmdAcntSave.SetCaption(form.cmdSave.Caption());
-  form.cmdCancel.SetCaption(S(29) + ">>");
+  form.cmdCancel.SetCaption(LoadText(kCancel) + ">>");
   form.cmdKhCancel.SetCaption(form.cmdCancel.Caption());
   form.cmdAcntCancel.SetCaption(form.cmdCancel.Caption());
-  form.cboKhOrder.SetItems({OrderItem(S(51))});
+  form.cboKhOrder.SetItems({OrderItem(LoadText(kCode))});
 }
 
 void CaptionAccountsMode(frmZj& form) {
-  form.SetCaption(S(102));
-  form.SSTab2.SetTabCaption(0, S(48));
-  form.SSTab2.SetTabCaption(1, S(46));
-  form.SSTab2.SetTabCaption(2, S(47));
-  form.lblTotal(0).SetCaption(S(45) + ":");
-  form.lblTotal(1).SetCaption(S(46) + S(8) + ":");
-  form.lblTotal(4).SetCaption(S(47) + S(8) + ":");
-  form.lblTotal(5).SetCaption(S(6) + S(9) + ":");
-  form.lblAcnt2(3).SetCaption(S(45));
+  form.SetCaption(LoadText(kAccountsTitle));
+  form.SSTab2.SetTabCaption(0, LoadText(kAccountLedger));
+  form.SSTab2.SetTabCaption(1, LoadText(kIn));
+  form.SSTab2.SetTabCaption(2, LoadText(kOut));
+  form.lblTotal(0).SetCaption(LoadText(kOpening) + ":");
+  form.lblTotal(1).SetCaption(LoadText(kIn) + LoadText(kAmount) + ":");
+  form.lblTotal(4).SetCaption(LoadText(kOut) + LoadText(kAmount) + ":");
+  form.lblTotal(5).SetCaption(LoadText(kAccount) + LoadText(kBalance) + ":");
+  form.lblAcnt2(3).SetCaption(LoadText(kOpening));
 }
 
 void CaptionCustomersMode(frmZj& form) {
-  form.SetCaption(S(101));
-  form.SSTab1.SetTabCaption(2, S(31));
-  form.SSTab2.SetTabCaption(0, S(14));
-  form.SSTab2.SetTabCaption(1, S(10) + "/" + S(12));
-  form.SSTab2.SetTabCaption(2, S(11) + "/" + S(13));
-  form.lblTotal(0).SetCaption(S(10) + S(8) + ":");
-  form.lblTotal(1).SetCaption(S(12) + S(8) + ":");
-  form.lblTotal(2).SetCaption(S(10) + S(9) + ":");
-  form.lblTotal(3).SetCaption(S(11) + S(8) + ":");
-  form.lblTotal(4).SetCaption(S(13) + S(8) + ":");
-  form.lblTotal(5).SetCaption(S(11) + S(9) + ":");
+  form.SetCaption(LoadText(kCustomersTitle));
+  form.SSTab1.SetTabCaption(2, LoadText(kSearchPage));
+  form.SSTab2.SetTabCaption(0, LoadText(kCustomerLedger));
+  form.SSTab2.SetTabCaption(1, LoadText(kReceivable) + "/" + LoadText(kReceived));
+  form.SSTab2.SetTabCaption(2, LoadText(kPayable) + "/" + LoadText(kPaid));
+  form.lblTotal(0).SetCaption(LoadText(kReceivable) + LoadText(kAmount) + ":");
+  form.lblTotal(1).SetCaption(LoadText(kReceived) + LoadText(kAmount) + ":");
+  form.lblTotal(2).SetCaption(LoadText(kReceivable) + LoadText(kBalance) + ":");
+  form.lblTotal(3).SetCaption(LoadText(kPayable) + LoadText(kAmount) + ":");
+  form.lblTotal(4).SetCaption(LoadText(kPaid) + LoadText(kAmount) + ":");
+  form.lblTotal(5).SetCaption(LoadText(kPayable) + LoadText(kBalance) + ":");
 }
 
 void CaptionRegister(frmZj& form) {
   const std::string word = ModeWord(form);
-  for (int i = 1; i <= 3; ++i) {
-    form.mnuKhManage(i).SetCaption(word + S(static_cast<int16_t>(23 + i)));
-  }
-  form.mnuKhContact.SetCaption(word + S(17) + "(&T)");
-  form.SSTab1.SetTabCaption(0, word + S(19));
-  form.SSTab1.SetTabCaption(1, word + S(42));
-  form.lblKhMemo.SetCaption(word + S(21) + ":");
+  form.mnuKhManage(1).SetCaption(word + LoadText(kAdd));
+  form.mnuKhManage(2).SetCaption(word + LoadText(kChange));
+  form.mnuKhManage(3).SetCaption(word + LoadText(kDelete));
+  form.mnuKhContact.SetCaption(word + LoadText(kContact) + "(&T)");
+  form.SSTab1.SetTabCaption(0, word + LoadText(kList));
+  form.SSTab1.SetTabCaption(1, word + LoadText(kManage));
+  form.lblKhMemo.SetCaption(word + LoadText(kDetail) + ":");
   form.cmdManage.SetCaption(word + "(&A)");
-  form.lblKhOrder.SetCaption(S(20) + ":");
-  form.OptSelect(0).SetCaption(S(32) + word);
-  form.OptSelect(1).SetCaption(S(33) + word);
-  form.OptSelect(2).SetCaption(S(34) + word);
+  form.lblKhOrder.SetCaption(LoadText(kSort) + ":");
+  form.OptSelect(0).SetCaption(LoadText(kAll) + word);
+  form.OptSelect(1).SetCaption(LoadText(kSelected) + word);
+  form.OptSelect(2).SetCaption(LoadText(kSingle) + word);
 }
 
 void CaptionFilter(frmZj& form) {
-  form.chkDate(0).SetCaption(S(35) + ":");
-  form.chkDate(1).SetCaption(S(36) + ":");
-  form.chkVerify(0).SetCaption(S(40));
-  form.chkVerify(1).SetCaption(S(41));
-  form.chkID(0).SetCaption(S(37) + ":");
-  form.chkID(1).SetCaption(S(38) + ":");
-  form.chkID(2).SetCaption(S(39) + ":");
-  form.chkBrief.SetCaption(S(53) + ":");
+  form.chkDate(0).SetCaption(LoadText(kFromDate) + ":");
+  form.chkDate(1).SetCaption(LoadText(kToDate) + ":");
+  form.chkVerify(0).SetCaption(LoadText(kCheckedState));
+  form.chkVerify(1).SetCaption(LoadText(kUncheckedState));
+  form.chkID(0).SetCaption(LoadText(kVoucher) + ":");
+  form.chkID(1).SetCaption(LoadText(kDocument) + ":");
+  form.chkID(2).SetCaption(LoadText(kOrder) + ":");
+  form.chkBrief.SetCaption(LoadText(kSummary) + ":");
 }
 
 void CaptionEditor(frmZj& form) {
   const bool customers = form.mode == kCustomers;
-  form.optType2(1).SetCaption(S(46));
-  form.optType2(2).SetCaption(S(47));
-  form.chkAcntInit.SetCaption(S(45));
-  form.lblAcnt2(0).SetCaption(S(65));
-  form.lblAcnt2(1).SetCaption(S(37));
-  form.lblAcnt2(2).SetCaption(ModeWord(form) + (customers ? S(55) : ""));
-  form.lblAcnt2(4).SetCaption(form.optType2(1).Caption() + S(8));
-  form.lblAcnt2(6).SetCaption(S(53));
-  form.lblAcnt2(7).SetCaption(S(38));
-  form.lblAcnt2(8).SetCaption(S(39));
-  form.lblAcnt2(9).SetCaption(S(61));
-  form.lblAcnt2(10).SetCaption(S(60));
-  form.lblAcnt2(11).SetCaption(S(62));
+  form.optType2(1).SetCaption(LoadText(kIn));
+  form.optType2(2).SetCaption(LoadText(kOut));
+  form.chkAcntInit.SetCaption(LoadText(kOpening));
+  form.lblAcnt2(0).SetCaption(LoadText(kDate));
+  form.lblAcnt2(1).SetCaption(LoadText(kVoucher));
+  form.lblAcnt2(2).SetCaption(ModeWord(form) + (customers ? LoadText(kUnit) : ""));
+  form.lblAcnt2(4).SetCaption(form.optType2(1).Caption() + LoadText(kAmount));
+  form.lblAcnt2(6).SetCaption(LoadText(kSummary));
+  form.lblAcnt2(7).SetCaption(LoadText(kDocument));
+  form.lblAcnt2(8).SetCaption(LoadText(kOrder));
+  form.lblAcnt2(9).SetCaption(LoadText(kUser));
+  form.lblAcnt2(10).SetCaption(LoadText(kHandler));
+  form.lblAcnt2(11).SetCaption(LoadText(kChecker));
 }
 
 void CaptionRecordPage(frmZj& form) {
-  form.lblAcnt(0).SetCaption(S(51));
+  form.lblAcnt(0).SetCaption(LoadText(kCode));
   form.lblAcnt(1).SetCaption(form.lblAcnt2(2).Caption());
-  form.lblAcnt(4).SetCaption(S(56));
-  form.lblAcnt(5).SetCaption(S(53));
-  form.lblAcnt(6).SetCaption(S(43));
-  form.lblAcnt(7).SetCaption(S(44));
-  form.lblAcnt(8).SetCaption(S(57));
-  form.lblAcnt(9).SetCaption(S(58));
-  form.lblAcnt(10).SetCaption(S(59));
+  form.lblAcnt(4).SetCaption(LoadText(kAccountNumber));
+  form.lblAcnt(5).SetCaption(LoadText(kSummary));
+  form.lblAcnt(6).SetCaption(LoadText(kRegion));
+  form.lblAcnt(7).SetCaption(LoadText(kCity));
+  form.lblAcnt(8).SetCaption(LoadText(kPostcode));
+  form.lblAcnt(9).SetCaption(LoadText(kTelephone));
+  form.lblAcnt(10).SetCaption(LoadText(kFax));
 }
 
 /// One column a label under the label's caption, and hidden ones behind them.

@@ -7,17 +7,18 @@
 #include "screen/frmZj.h"
 #include "services/context.h"
 #include "services/strings.h"
+#include "services/text_ids.h"
 
 namespace qvzj {
 namespace {
 
 namespace col = ledger_column;
 
-std::string S(int16_t id) { return LoadText(id); }
+using namespace text_id;
 
 /// The two directions' words as one header: "进帐(+)/出帐(-)".
 std::string BothDirections(int16_t plus, int16_t minus) {
-  return S(plus) + "(+)/" + S(minus) + "(-)";
+  return LoadText(plus) + "(+)/" + LoadText(minus) + "(-)";
 }
 
 /// Null where the program gives no order for the language: texts then order by their bytes.
@@ -66,13 +67,14 @@ void ConnectLedgerGrid(frmZj& form) {
 
 void WriteAmountHeaders(frmZj& form) {
   const int tab = form.SSTab2.Tab();
-  std::string money_a = S(45);
-  std::string money_b = tab == 0 ? BothDirections(46, 47) : S(tab == 1 ? 46 : 47);
-  std::string balance = S(9);
+  std::string money_a = LoadText(kOpening);
+  std::string money_b = tab == 0 ? BothDirections(kIn, kOut) : LoadText(tab == 1 ? kIn : kOut);
+  std::string balance = LoadText(kBalance);
   if (form.mode == kCustomers) {
-    money_a = tab == 0 ? BothDirections(10, 11) : S(tab == 1 ? 10 : 11);
-    money_b = tab == 0 ? BothDirections(12, 13) : S(tab == 1 ? 12 : 13);
-    balance = S(tab == 2 ? 11 : 10) + S(9);
+    money_a = tab == 0 ? BothDirections(kReceivable, kPayable)
+                       : LoadText(tab == 1 ? kReceivable : kPayable);
+    money_b = tab == 0 ? BothDirections(kReceived, kPaid) : LoadText(tab == 1 ? kReceived : kPaid);
+    balance = LoadText(tab == 2 ? kPayable : kReceivable) + LoadText(kBalance);
   }
   form.Grid2.SetHeader(col::kMoneyA, money_a);
   form.Grid2.SetHeader(col::kMoneyB, money_b);

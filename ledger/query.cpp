@@ -195,6 +195,7 @@ void LoadLedger(frmZj& form, const std::string& condition) {
   form.SetMousePointer(ui::MousePointer::Hourglass);
   form.Grid2.SetRowCount(0);
   form.Grid2.SetVisible(false);
+  WriteTotals(form, {});  // what an error leaves behind goes with the empty grid
   // Everything that can fail comes before the first cell is filled.
   Ledger ledger = TakeRows(Data().Open(LedgerStatement(form, condition)));
   SignAndBalance(ledger, form.mode == kCustomers, payable_tab);

@@ -12,11 +12,10 @@
 #include "services/messages.h"
 #include "services/query.h"
 #include "services/strings.h"
+#include "services/text_ids.h"
 
 namespace qvzj {
 namespace {
-
-constexpr int16_t kDoneText = 49;
 
 bool NumberIsZero(const std::string& text) { return basic::Val(text) == 0; }
 
@@ -93,7 +92,8 @@ void Report(const frmZj& form, const Commit& commit) {
   if (commit.counter_entry) {
     text += "\r\n\r\n同时，系统已经自动产生相同票号的[" + form.chkAcntName.Caption() + "凭证] 。";
   }
-  Message(text, box::kInformation, form.lblAcntTitle.Caption() + " " + LoadText(kDoneText) + "！");
+  Message(text, box::kInformation,
+          form.lblAcntTitle.Caption() + " " + LoadText(text_id::kDone) + "！");
 }
 
 void CancelEntry(frmZj& form) {

@@ -7,16 +7,13 @@
 #include "screen/frmZj.h"
 #include "services/connect.h"
 #include "services/strings.h"
+#include "services/text_ids.h"
 
 // Copies a row of the ledger grid into the entry editor.
 namespace qvzj {
 namespace {
 
 namespace col = ledger_column;
-
-constexpr int16_t kEntryText = 7;
-constexpr int16_t kCheckText = 63;
-constexpr int16_t kUncheckText = 64;
 
 std::string CellText(const frmZj& form, int32_t column, int32_t row) {
   return form.Grid2.Stored(column).Text(form.Grid2.StoredRow(row));
@@ -114,7 +111,8 @@ void OfferActions(frmZj& form, int32_t row) {
   form.cmdAction(2).SetEnabled(!checked);
   form.cmdAction(3).SetEnabled(!checked);
   ui::Button& check = form.cmdAction(4);
-  check.SetCaption(LoadText(kEntryText) + LoadText(checked ? kUncheckText : kCheckText) +
+  check.SetCaption(LoadText(text_id::kEntry) +
+                   LoadText(checked ? text_id::kUncheck : text_id::kCheck) +
                    basic::Right(check.Caption(), 4));
 }
 

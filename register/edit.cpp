@@ -14,6 +14,7 @@
 #include "services/messages.h"
 #include "services/query.h"
 #include "services/strings.h"
+#include "services/text_ids.h"
 
 namespace qvzj {
 namespace {
@@ -176,7 +177,8 @@ void SaveRecord(frmZj& form) {
   const std::optional<Commit> commit = Prepare(form);
   if (!commit) return;
   Data().Execute(commit->statement);
-  Message(commit->name + ":" + form.cmdKhSave.Caption() + LoadText(49) + "！", box::kInformation);
+  Message(commit->name + ":" + form.cmdKhSave.Caption() + LoadText(text_id::kDone) + "！",
+          box::kInformation);
   DisarmRecord(form);
   // A record that is gone must not stay current where no other takes its place.
   if (form.cmdKhSave.Tag() == kDelete) ForgetRecord(form);

@@ -8,6 +8,7 @@
 #include "services/context.h"
 #include "services/messages.h"
 #include "services/strings.h"
+#include "services/text_ids.h"
 
 namespace qvzj {
 namespace {
@@ -57,8 +58,8 @@ bool LoggedIn() {
 
 // "修改-" or "删除-" before the function's name in a refusal; nothing for plain opening.
 std::string ActionLabel(int16_t offset) {
-  if (offset == 2) return LoadText(25) + "-";
-  if (offset == 3) return LoadText(26) + "-";
+  if (offset == 2) return LoadText(text_id::kChange) + "-";
+  if (offset == 3) return LoadText(text_id::kDelete) + "-";
   return "";
 }
 
@@ -81,7 +82,8 @@ int16_t ModuleGate(std::string name, int16_t offset, bool check) {
   if (!check) return result;
 
   if (serial != -1 && !HasRight(result)) {
-    Message(LoadText(105) + ":" + ActionLabel(offset) + display + " !", box::kExclamation);
+    Message(LoadText(text_id::kNoRight) + ":" + ActionLabel(offset) + display + " !",
+            box::kExclamation);
     return basic::MultiplyInt16(result, -1);
   }
   if (!PasswordGate(password)) return basic::MultiplyInt16(result, -1);

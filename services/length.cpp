@@ -6,13 +6,11 @@
 #include "services/messages.h"
 #include "services/query.h"
 #include "services/strings.h"
+#include "services/text_ids.h"
 
 // Length limits of text fields, counted in bytes of the Chinese code page as the tables count.
 namespace qvzj {
 namespace {
-
-constexpr int16_t kTooLong = 140;
-constexpr int16_t kDigitsOnly = 130;
 
 // The longest leading part of `text` that fits into `room` bytes of the code page.
 std::string LeadingBytes(const std::string& text, int32_t room) {
@@ -61,10 +59,10 @@ void LimitKeys(const ui::EditBox& box, int& key, int16_t max, bool numeric) {
   const std::string kept = basic::Left(box.Text(), box.SelStart()) + inserted +
                            basic::Mid(box.Text(), box.SelStart() + box.SelLength() + 1);
   if (numeric && !LooksNumeric(kept)) {
-    if (pasting) Message(LoadText(kDigitsOnly), box::kInformation);
+    if (pasting) Message(LoadText(text_id::kDigitsOnly), box::kInformation);
     key = 0;
   } else if (ByteLen(kept) > max) {
-    Message(LoadText(kTooLong), box::kInformation);
+    Message(LoadText(text_id::kTooLong), box::kInformation);
     key = 0;
   }
 }
@@ -75,7 +73,7 @@ void FitInsertion(const std::string& text, const std::string& selected, std::str
   const int32_t room = max - (ByteLen(text) - ByteLen(selected));
   if (ByteLen(inserted) <= room) return;
   inserted = LeadingBytes(inserted, room);
-  Message(LoadText(kTooLong), box::kInformation);
+  Message(LoadText(text_id::kTooLong), box::kInformation);
 }
 
 }  // namespace qvzj

@@ -8,6 +8,7 @@
 #include "services/connect.h"
 #include "services/messages.h"
 #include "services/strings.h"
+#include "services/text_ids.h"
 
 namespace qvzj {
 
@@ -52,7 +53,7 @@ std::string LikePattern(const std::string& text) {
 
 bool NoQuote(const std::string& text) {
   if (text.find('\'') == std::string::npos) return true;
-  Message(LoadText(183), box::kExclamation);
+  Message(LoadText(text_id::kNoQuotes), box::kExclamation);
   return false;
 }
 

@@ -277,12 +277,15 @@ TEST_F(LedgerQuery, FailsOnANullAmountAndLeavesNoHalfFilledGrid) {
   EXPECT_EQ(form.Grid2.RowCount(), 2);
 }
 
-TEST_F(LedgerQuery, ShowsTheEnginesErrorForAStatementItRefuses) {
+TEST_F(LedgerQuery, ShowsTheEnginesErrorForAStatementItRefusesAndNoOldTotals) {
+  Add({.a = "5"});
   frmZj& form = Open();
   form.registerCondition = "a.nosuch=1";
   form.UserClick(form.OptSelect(1));
   EXPECT_EQ(world.headless.boxes.TakeErrors().size(), 1u);
   EXPECT_TRUE(form.Grid2.Visible());
+  EXPECT_EQ(form.Grid2.RowCount(), 0);
+  EXPECT_EQ(Total(form, 0), "0.00");
 }
 
 TEST_F(LedgerQuery, ForgetsTheSortedOrderAtAReload) {
