@@ -24,7 +24,7 @@ std::unique_ptr<ControlView> MakeView(FormWindow& window, ui::Control& control, 
       return Make<ButtonView, ui::Button>(window, control, parent);
     case ui::Kind::TextBox:
       return static_cast<ui::TextBox&>(control).MultiLine()
-                 ? Make<PageView, ui::TextBox>(window, control, parent)
+                 ? Make<MemoView, ui::TextBox>(window, control, parent)
                  : Make<LineView, ui::TextBox>(window, control, parent);
     case ui::Kind::ComboBox:
       return Make<ComboView, ui::ComboBox>(window, control, parent);

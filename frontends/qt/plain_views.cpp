@@ -56,16 +56,22 @@ TextFit IndicatorFit(const QAbstractButton& button, const ui::Control& control,
 
 }  // namespace
 
+void ElidedLabel::SetCaption(const std::string& caption) {
+  setText(FromUtf8(caption));
+  whole_ = FromUtf8(ui::ShownCaption(caption));
+}
+
 void ElidedLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
-  style()->drawItemText(&painter, rect(), static_cast<int>(alignment()), palette(), isEnabled(),
-                        shown, foregroundRole());
+  const QString shown =
+      fontMetrics().elidedText(text(), Qt::ElideRight, width(), Qt::TextShowMnemonic);
+  style()->drawItemText(&painter, rect(), static_cast<int>(alignment()) | Qt::TextShowMnemonic,
+                        palette(), isEnabled(), shown, foregroundRole());
 }
 
 bool ElidedLabel::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip) {
-    setToolTip(fontMetrics().horizontalAdvance(text()) > width() ? text() : QString());
+    setToolTip(fontMetrics().horizontalAdvance(whole_) > width() ? whole_ : QString());
   }
   return QLabel::event(event);
 }
@@ -89,7 +95,7 @@ QWidget* LabelView::Widget() const { return label_; }
 void LabelView::Mirror(ui::Aspect aspect) {
   ControlView::Mirror(aspect);
   if (aspect == ui::Aspect::Caption) {
-    label_->setText(FromUtf8(ui::ShownCaption(GetControl().Caption())));
+    label_->SetCaption(GetControl().Caption());
   }
 }
 

@@ -17,10 +17,15 @@ namespace qvzj::qt {
 class ElidedLabel : public QLabel {
  public:
   using QLabel::QLabel;
+  /// A caption with its access-key mark.
+  void SetCaption(const std::string& caption);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   bool event(QEvent* event) override;
+
+ private:
+  QString whole_;  // the caption without the mark
 };
 
 class LabelView : public ControlView {

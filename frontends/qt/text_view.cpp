@@ -54,7 +54,7 @@ bool LineView::IsModelKey(const ui::Key& key) const {
 
 void LineView::SendKey(const ui::Key& key) { link_->Key(key); }
 
-PageView::PageView(FormWindow& window, ui::TextBox& box, QWidget* parent)
+MemoView::MemoView(FormWindow& window, ui::TextBox& box, QWidget* parent)
     : ControlView(window, box), box_(box), page_(new QPlainTextEdit(parent)) {
   Adopt(page_, page_->viewport());
   page_->setTabChangesFocus(true);
@@ -64,9 +64,9 @@ PageView::PageView(FormWindow& window, ui::TextBox& box, QWidget* parent)
   connect(page_, &QPlainTextEdit::cursorPositionChanged, this, [this] { Selected(); });
 }
 
-QWidget* PageView::Widget() const { return page_; }
+QWidget* MemoView::Widget() const { return page_; }
 
-void PageView::Mirror(ui::Aspect aspect) {
+void MemoView::Mirror(ui::Aspect aspect) {
   ControlView::Mirror(aspect);
   switch (aspect) {
     case ui::Aspect::Text:
@@ -89,12 +89,12 @@ void PageView::Mirror(ui::Aspect aspect) {
   }
 }
 
-bool PageView::IsModelKey(const ui::Key& key) const {
+bool MemoView::IsModelKey(const ui::Key& key) const {
   // A new line is an edit like any other and comes in through the text.
   return key.name != ui::Key::Name::Enter && IsFormKey(key);
 }
 
-void PageView::ShowText() {
+void MemoView::ShowText() {
   const QString wanted = FromUtf8(box_.Text());
   if (page_->toPlainText() == wanted) return;
   const QSignalBlocker quiet(page_);
@@ -108,7 +108,7 @@ void PageView::ShowText() {
   ShowSelection();
 }
 
-void PageView::ShowSelection() {
+void MemoView::ShowSelection() {
   const QString text = page_->toPlainText();
   const int start = Utf16Position(text, box_.SelStart());
   const int end = Utf16Position(text, box_.SelStart() + box_.SelLength());
@@ -120,7 +120,7 @@ void PageView::ShowSelection() {
   page_->setTextCursor(cursor);
 }
 
-void PageView::Edited() {
+void MemoView::Edited() {
   if (!Live() || editing_) return;
   const QString text = page_->toPlainText();
   const std::string utf8 = ToUtf8(text);
@@ -132,7 +132,7 @@ void PageView::Edited() {
   editing_ = false;
 }
 
-void PageView::Selected() {
+void MemoView::Selected() {
   if (!Live() || editing_) return;
   const QString text = page_->toPlainText();
   if (text != FromUtf8(box_.Text())) return;

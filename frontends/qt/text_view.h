@@ -30,9 +30,9 @@ class LineView : public ControlView {
 };
 
 /// A text box of several lines.
-class PageView : public ControlView {
+class MemoView : public ControlView {
  public:
-  PageView(FormWindow& window, ui::TextBox& box, QWidget* parent);
+  MemoView(FormWindow& window, ui::TextBox& box, QWidget* parent);
   QWidget* Widget() const override;
   void Mirror(ui::Aspect aspect) override;
 

@@ -2,123 +2,145 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QMenu>
 #include <QPixmap>
+#include <QTimer>
 #include <cstdio>
-#include <optional>
-#include <string>
+#include <functional>
 #include <utility>
 
+#include "forms/frmList.h"
 #include "hosts/demo/demo_host.h"
-#include "platform/surroundings.h"
+#include "hosts/demo/saying_boxes.h"
+#include "hosts/demo/small_png.h"
+#include "suite/login.h"
 
 namespace qvzj::demo {
 
 namespace {
 
+constexpr QSize kShotSize(1200, 760);
 constexpr int16_t kModes[] = {0, 1};
 constexpr int16_t kLanguages[] = {0, 1};
 
-constexpr QSize kShotSize(1200, 760);
-
+/// Draws widgets into files of one folder.
 class Camera {
  public:
-  Camera(DemoHost& host, const QString& folder) : host_(host), folder_(folder) {}
+  explicit Camera(const QString& folder) : folder_(folder) {}
 
-  bool Shoot(const QString& name) {
-    QApplication::processEvents();
-    frmZj* form = host_.Control().Form();
-    qt::FormWindow* window = form == nullptr ? nullptr : host_.Windows().WindowOf(*form);
-    if (window == nullptr) return false;
-    window->resize(kShotSize);
-    QApplication::processEvents();
-    const QString file = QDir(folder_).absoluteFilePath(name + ".png");
-    // Few colours make a small file, and flat drawing loses nothing by it.
-    const bool written = window->grab().toImage().save(file, "PNG", 10);
-    std::printf("%s\n", qPrintable(file));
-    return written;
-  }
+  bool Good() const { return good_; }
 
- private:
-  DemoHost& host_;
-  QString folder_;
-};
-
-/// Nobody is there to answer while the screens are drawn: what a box has to say goes to standard
-/// error, and every question is answered by giving up.
-class SayingBoxes : public Boxes {
- public:
-  SayingBoxes() : before_(std::exchange(Around().boxes, this)) {}
-  ~SayingBoxes() override { Around().boxes = before_; }
-  SayingBoxes(const SayingBoxes&) = delete;
-  SayingBoxes& operator=(const SayingBoxes&) = delete;
-
-  /// True once a box was to be shown.
-  bool Said() const { return said_; }
-
-  Answer Show(const std::string& text, int style, const std::string& title) override {
-    Say(text, title);
-    switch (style & box::kButtonsMask) {
-      case 0:
-        return Answer::Ok;
-      case 4:
-        return Answer::No;
-      default:
-        return Answer::Cancel;
+  void Shoot(QWidget* widget, const QString& name) {
+    if (widget == nullptr) {
+      good_ = false;
+      std::fprintf(stderr, "%s: there is no such window\n", qPrintable(name));
+      return;
     }
+    const QString file = QDir(folder_).absoluteFilePath(name + ".png");
+    good_ = SaveSmallPng(widget->grab().toImage(), file) && good_;
+    std::printf("%s\n", qPrintable(file));
   }
-  std::optional<std::string> Input(const std::string& prompt, const std::string& title,
-                                   const std::string&) override {
-    Say(prompt, title);
-    return std::nullopt;
+
+  /// Does what opens a modal window, draws that and closes it.
+  void ShootModal(const QString& name, const std::function<void()>& open) {
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+      QWidget* modal = QApplication::activeModalWidget();
+      Shoot(modal, name);
+      if (modal != nullptr) modal->close();
+    });
+    timer.start(400);
+    open();
+    if (timer.isActive()) Shoot(nullptr, name);  // nothing was opened
+    QApplication::processEvents();
   }
-  void Error(const std::string& text, const std::string& title) override { Say(text, title); }
 
  private:
-  void Say(const std::string& text, const std::string& title) {
-    said_ = true;
-    std::fprintf(stderr, "qvzj-demo: %s: %s\n", title.c_str(), text.c_str());
-  }
-
-  Boxes* before_;
-  bool said_ = false;
+  QString folder_;
+  bool good_ = true;
 };
 
-bool ShootScreens(DemoHost& host, Camera& camera, int16_t mode, const QString& name) {
-  host.Open(mode);
-  frmZj* form = host.Control().Form();
-  if (form == nullptr) return false;
-  bool good = camera.Shoot(name);
-  form->UserClick(form->cmdAction(1));
-  good = camera.Shoot(name + "-entry") && good;
-  form->UserClick(form->cmdAcntCancel);
-  form->UserTab(form->SSTab1, 1);
-  form->UserClick(form->cmdKhMemo);
-  good = camera.Shoot(name + "-record") && good;
-  form->UserClick(form->cmdKhMemo);
-  form->UserTab(form->SSTab1, 2);
-  good = camera.Shoot(name + "-search") && good;
-  form->UserClick(form->OptSelect(0));
-  form->UserClick(form->cmdAcntRefresh);
-  good = camera.Shoot(name + "-all") && good;
-  host.Close();
-  return good;
-}
+/// The screens of one mode in one language, as a user goes through them.
+class Walk {
+ public:
+  Walk(DemoHost& host, SayingBoxes& boxes, Camera& camera, const QString& name)
+      : form_(*host.Control().Form()),
+        window_(*host.Windows().WindowOf(form_)),
+        boxes_(boxes),
+        camera_(camera),
+        name_(name) {
+    window_.resize(kShotSize);
+  }
+
+  void Screens() {
+    Shoot("");
+    form_.UserClick(form_.cmdAction(1));
+    Shoot("-entry");
+    form_.UserClick(form_.cmdAcntCancel);
+    form_.UserTab(form_.SSTab1, 1);
+    form_.UserClick(form_.cmdKhMemo);
+    Shoot("-record");
+    form_.UserClick(form_.cmdKhMemo);
+    form_.UserTab(form_.SSTab1, 2);
+    Shoot("-search");
+  }
+
+  void Dialogs() {
+    form_.UserTab(form_.SSTab1, 0);
+    form_.UserPress(form_.cmdManage, 0, 0);
+    QApplication::processEvents();
+    camera_.Shoot(QApplication::activePopupWidget(), name_ + "-menu");
+    if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+    camera_.ShootModal(name_ + "-visits", [&] { form_.UserClick(form_.mnuKhContact); });
+    camera_.ShootModal(name_ + "-print", [&] { form_.UserClick(form_.cmdPrint); });
+    form_.UserClick(form_.cmdAction(4));
+    camera_.ShootModal(name_ + "-question", [&] {
+      Boxes* const silent = std::exchange(Around().boxes, &boxes_.Before());
+      form_.UserClick(form_.cmdAcntSave);
+      Around().boxes = silent;
+    });
+    frmList list;
+    list.Load();
+    camera_.ShootModal(name_ + "-staff", [&] { Around().presenter->Show(list, true); });
+  }
+
+ private:
+  void Shoot(const QString& screen) {
+    QApplication::processEvents();
+    camera_.Shoot(&window_, name_ + screen);
+  }
+
+  frmZj& form_;
+  qt::FormWindow& window_;
+  SayingBoxes& boxes_;
+  Camera& camera_;
+  QString name_;
+};
 
 }  // namespace
 
 bool TakeShots(DemoHost& host, const QString& folder) {
   if (!QDir().mkpath(folder)) return false;
   SayingBoxes boxes;
-  Camera camera(host, folder);
+  Camera camera(folder);
   for (int16_t language : kLanguages) {
+    const QString suffix = language == 0 ? "-simplified" : "-traditional";
     host.SetLanguage(language);
+    camera.ShootModal("login" + suffix, [&] {
+      FormLogin().Ask(language, [](const std::string&, const std::string&) { return false; });
+    });
     for (int16_t mode : kModes) {
-      const QString name = QString(mode == 0 ? "customers" : "accounts") +
-                           (language == 0 ? "-simplified" : "-traditional");
-      if (!ShootScreens(host, camera, mode, name) || boxes.Said()) return false;
+      host.Open(mode);
+      if (host.Control().Form() == nullptr) return false;
+      Walk walk(host, boxes, camera, (mode == 0 ? "customers" : "accounts") + suffix);
+      walk.Screens();
+      if (mode == 0) walk.Dialogs();
+      host.Close();
+      if (boxes.Said()) return false;
     }
   }
-  return true;
+  return camera.Good();
 }
 
 }  // namespace qvzj::demo

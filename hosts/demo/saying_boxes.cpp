@@ -1,0 +1,32 @@
+#include "hosts/demo/saying_boxes.h"
+
+#include <cstdio>
+
+namespace qvzj::demo {
+
+Answer SayingBoxes::Show(const std::string& text, int style, const std::string& title) {
+  Say(text, title);
+  switch (style & box::kButtonsMask) {
+    case 0:
+      return Answer::Ok;
+    case 4:
+      return Answer::No;
+    default:
+      return Answer::Cancel;
+  }
+}
+
+std::optional<std::string> SayingBoxes::Input(const std::string& prompt, const std::string& title,
+                                              const std::string&) {
+  Say(prompt, title);
+  return std::nullopt;
+}
+
+void SayingBoxes::Error(const std::string& text, const std::string& title) { Say(text, title); }
+
+void SayingBoxes::Say(const std::string& text, const std::string& title) {
+  said_ = true;
+  std::fprintf(stderr, "qvzj-demo: %s: %s\n", title.c_str(), text.c_str());
+}
+
+}  // namespace qvzj::demo

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+namespace qvzj::demo {
+
+/// Writes a picture of a screen as a small PNG file: with a palette of its 256 most used colours,
+/// which flat drawing hardly exceeds. False when the file cannot be written.
+bool SaveSmallPng(const QImage& image, const QString& file);
+
+}  // namespace qvzj::demo
