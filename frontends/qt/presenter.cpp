@@ -21,8 +21,9 @@ void QtPresenter::Place(FormWindow& window, const QWidget* owner) const {
       window.restoreGeometry(options_.layouts->Place(window.objectName()))) {
     return;
   }
-  const QRect room =
-      owner != nullptr ? owner->frameGeometry() : window.screen()->availableGeometry();
+  // Dialogs of a fixed size stand in the middle of the screen, wherever their owner is.
+  const bool over_owner = owner != nullptr && window.Resizable();
+  const QRect room = over_owner ? owner->frameGeometry() : window.screen()->availableGeometry();
   window.move(room.center() - QRect(QPoint(), window.size()).center());
 }
 

@@ -8,6 +8,7 @@
 #include <QTabBar>
 #include <QTimer>
 
+#include "forms/frmList.h"
 #include "frontends/qt/presenter.h"
 #include "frontends/qt/theme.h"
 #include "tests/frontends/qt/window_world.h"
@@ -169,6 +170,27 @@ TEST(Presenter, ReturnsFromAModalFormWhenItIsClosed) {
   presenter.Show(form, true);
   EXPECT_EQ(presenter.WindowOf(form), nullptr);
   EXPECT_FALSE(form.Loaded());
+}
+
+TEST(PickList, StandsInTheMiddleOfTheScreenAndAnswersTheChosenName) {
+  WindowWorld world;
+  world.Show();
+  world.Window().move(300, 200);
+  frmList list;
+  list.Load();
+  qt::QtPresenter presenter({});
+  Presenter* before = std::exchange(Around().presenter, &presenter);
+  QPoint middle;
+  QTimer::singleShot(0, [&] {
+    qt::FormWindow* window = presenter.WindowOf(list);
+    middle = window->frameGeometry().center() - window->screen()->availableGeometry().center();
+    list.UserChoose(list.List1, 0);
+    list.UserClick(list.cmdLogOK);
+  });
+  presenter.Show(list, true);
+  Around().presenter = before;
+  EXPECT_LE(middle.manhattanLength(), 20);  // the window system's frame shifts it a little
+  EXPECT_EQ(Shared().myName, "张三");
 }
 
 TEST(Theme, CarriesARowColourOverToADarkPage) {
