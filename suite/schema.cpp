@@ -26,6 +26,8 @@ create table if not exists tAccountDetail (
   fID2 integer, fMoneyCode {text}, fMoneyRate {real});
 -- the ledger of one customer or account, in the order in which it is shown
 create index if not exists iLedgerRecord on tAccountDetail (fCompID, fType1, fDate, fAcntNo);
+-- the ledger of everyone between two dates
+create index if not exists iLedgerDate on tAccountDetail (fDate);
 -- the next voucher number under a stem
 create index if not exists iLedgerNumber on tAccountDetail ({key fAcntNo});
 -- the counter-entries of a customer entry

@@ -70,6 +70,12 @@ TEST_F(Plans, ReadTheWholeLedgerOnceAndLookEveryRecordUpByItsId) {
   EXPECT_EQ(plan.find("SCAN a"), std::string::npos) << plan;
 }
 
+TEST_F(Plans, FindTheLedgerOfEveryoneBetweenTwoDatesThroughTheIndex) {
+  ExpectServedBy(Ledger("cards", "b.fType1=0 and b.fDate>=#03/01/2024# And b.fDate<=#03/31/2024#",
+                        kByCode),
+                 "SEARCH b USING INDEX iLedgerDate (fDate>? AND fDate<?)");
+}
+
 TEST_F(Plans, FindTheNextNumberFromTheEndOfItsStem) {
   for (const char* statement :
        {"select max(mid(fAcntNo,9,5)) as invID from tAccountDetail where "
