@@ -29,6 +29,8 @@ test  libbenchmark-dev     every benchmark also runs once as a test
 test  fonts-noto-cjk       the window's tests measure Chinese text
 test  xvfb                 an X server without a screen, for the test by real keys
 test  xdotool              presses those keys
+test  postgresql-15        a private server for the tests of the server dialect
+test  odbc-postgresql      the driver through which it is reached
 bench libbenchmark-dev     the benchmark framework
 bench libgtest-dev         the release preset builds the tests with the benchmarks
 LIST
