@@ -52,6 +52,8 @@ class XlsxWriter {
     format_set_bold(head_);
     format_set_align(head_, LXW_ALIGN_CENTER);
     format_set_bg_color(head_, 0xE8EEF4);
+    amount_ = workbook_add_format(book_.get());
+    format_set_num_format(amount_, "0.00");
     date_ = workbook_add_format(book_.get());
     format_set_num_format(date_, "yyyy-mm-dd");
     for (int32_t column = 1; column <= grid_.ColumnCount(); ++column) {
@@ -138,7 +140,7 @@ class XlsxWriter {
     lxw_row_t at = next_row_ + 1;
     for (size_t i = 0; i + 1 < request_.totals.size(); i += 2, ++at) {
       Text(at, 0, request_.totals[i], head_);
-      worksheet_write_number(sheet_, at, 1, basic::Val(request_.totals[i + 1]), nullptr);
+      worksheet_write_number(sheet_, at, 1, basic::Val(request_.totals[i + 1]), amount_);
     }
   }
 
@@ -152,6 +154,7 @@ class XlsxWriter {
   std::unique_ptr<lxw_workbook, Discard> book_;
   lxw_worksheet* sheet_ = nullptr;
   lxw_format* head_ = nullptr;
+  lxw_format* amount_ = nullptr;  // of the totals
   lxw_format* date_ = nullptr;
   std::vector<SheetColumn> columns_;
   lxw_row_t next_row_ = 1;
