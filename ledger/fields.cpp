@@ -56,7 +56,10 @@ void ConnectKeys(ui::TextBox& box, bool numeric) {
   };
   // No key press announces what an input method commits.
   box.onEdit = [&box, numeric](std::string& inserted) {
-    if (numeric) std::erase_if(inserted, [](char c) { return !InNumber(c); });
+    if (numeric) {
+      inserted = HalfWidth(inserted);
+      std::erase_if(inserted, [](char c) { return !InNumber(c); });
+    }
     FitInserted(box, inserted);
   };
 }

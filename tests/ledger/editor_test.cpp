@@ -363,6 +363,15 @@ TEST_F(EntryEditor, ReadsTheRateOfTheChosenCurrency) {
   EXPECT_EQ(world.Statements(), Texts{"Select MoneyRate from Moneys where MoneyCode='USD'"});
 }
 
+TEST_F(EntryEditor, TakesAFullWidthRateFromAnInputMethod) {
+  frmZj& form = Open();
+  form.UserClick(form.cmdAction(1));
+  form.UserFocus(form.txtHbRate);
+  form.UserSelect(form.txtHbRate, 0, 20);
+  form.UserInsert(form.txtHbRate, "７．１２");
+  EXPECT_EQ(form.txtHbRate.Text(), "7.12");
+}
+
 TEST_F(EntryEditor, TakesOnlyNumberKeysIntoTheRate) {
   frmZj& form = Open();
   form.UserClick(form.cmdAction(1));
