@@ -51,6 +51,13 @@ bool RequiredAreFilled(const frmZj& form) {
   return true;
 }
 
+// A change or delete without a record would report what it has not done.
+bool RecordIsChosen(const frmZj& form) {
+  if (HasCurrentRecord(form)) return true;
+  Message("请选择[" + form.lblAcnt(1).Caption() + "] !", box::kExclamation);
+  return false;
+}
+
 std::string InsertStatement(const frmZj& form) {
   std::string columns;
   std::string values;
@@ -85,7 +92,7 @@ std::optional<Commit> Add(const frmZj& form) {
 
 std::optional<Commit> Change(const frmZj& form) {
   const std::string name = form.lblKhName.Caption();
-  if (!RequiredAreFilled(form) || !Confirmed("修改", name)) return {};
+  if (!RequiredAreFilled(form) || !RecordIsChosen(form) || !Confirmed("修改", name)) return {};
   return Commit{UpdateStatement(form), name};
 }
 
@@ -113,6 +120,7 @@ std::string WhatRefersTo(const frmZj& form, const std::string& id) {
 }
 
 std::optional<Commit> Delete(const frmZj& form) {
+  if (!RecordIsChosen(form)) return {};
   const std::string id = form.lblKhName.Tag();
   const std::string name = form.lblKhName.Caption();
   const std::string refusal = WhatRefersTo(form, id);

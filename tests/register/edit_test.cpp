@@ -314,6 +314,21 @@ TEST_F(RegisterEdit, ShowsTheCurrentRecordAgainWhenAnotherActionIsArmedAfterAnAd
   }
 }
 
+TEST_F(RegisterEdit, AsksForARecordWhereNoneIsCurrent) {
+  world.Sql("Delete From cards;");
+  Customers();
+  for (const int action : {2, 3}) {
+    frmZj& form = Arm(action);
+    if (action == 2) {
+      world.Type(form.txtAcnt(0), "0009");
+      world.Type(form.txtAcnt(1), "新客户");
+    }
+    Save();
+    EXPECT_EQ(world.Messages(), (Texts{"请选择[客户单位] !"}));
+    EXPECT_FALSE(Ran(action == 2 ? "Update" : "Delete"));
+  }
+}
+
 TEST_F(RegisterEdit, KeepsARecordWithMoreEntriesThanACountCanSay) {
   world.Sql(
       "With Recursive n(i) As (Select 1 Union All Select i+1 From n Where i<32768)"
