@@ -43,6 +43,13 @@ void DemoHost::Open(int16_t run_mode) {
   control_.refresh(run_mode, 0);
 }
 
+void DemoHost::OpenCustomer(int id, const QString& name) {
+  constexpr int16_t kOneCustomerRunMode = 9;
+  control_.setMyTaskID(id);
+  control_.setMyName(qt::ToUtf8(name));
+  Open(kOneCustomerRunMode);
+}
+
 void DemoHost::Close() {
   if (frmZj* form = control_.Form()) form->UserClose();
 }

@@ -20,6 +20,8 @@ class DemoHost {
   bool LogIn();
   /// Opens the control in a run mode; an open one in another mode or language is closed first.
   void Open(int16_t run_mode);
+  /// Opens the customers on one of them, as another screen of the suite names it.
+  void OpenCustomer(int id, const QString& name);
   void Close();
   /// 0 simplified, 1 traditional Chinese; an open control is closed, as its texts are set once.
   void SetLanguage(int16_t language);

@@ -3,8 +3,11 @@
 #include <QWidget>
 
 class QComboBox;
+class QGridLayout;
 class QLabel;
+class QLineEdit;
 class QPushButton;
+class QSpinBox;
 
 namespace qvzj::demo {
 
@@ -19,6 +22,7 @@ class SuiteWindow : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void AddOtherWays(QGridLayout& grid);
   void Caption();
   void ChooseAppearance(int index);
 
@@ -26,6 +30,11 @@ class SuiteWindow : public QWidget {
   QLabel* title_;
   QPushButton* customers_;
   QPushButton* accounts_;
+  QPushButton* fund_customers_;  // the same registers under the fund system's title
+  QPushButton* fund_accounts_;
+  QSpinBox* customer_id_;        // a customer that another screen of the suite names
+  QLineEdit* customer_name_;
+  QPushButton* open_customer_;
   QComboBox* language_;
   QComboBox* appearance_;
 };
