@@ -6,6 +6,7 @@
 
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/print/page_output.h"
+#include "frontends/qt/scale.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 #include "platform/basic/errors.h"
@@ -38,14 +39,32 @@ QtPictures::Running& QtPictures::Start() {
   return *running_;
 }
 
-void QtPictures::Screenshot(ui::Form& form, const std::string& file) {
-  Start();
+namespace {
+
+/// The form as a window of its size shows it, larger than the offscreen screen where it must be.
+QImage Draw(ui::Form& form) {
   qt::WindowOptions options;
   options.language = [] { return int{Shared().Language}; };
   qt::FormWindow window(form, options);
+  if (window.Resizable()) {
+    window.resize(qt::ToPixels(form.Width(), window.logicalDpiX()),
+                  qt::ToPixels(form.Height(), window.logicalDpiY()));
+  }
   window.show();
   QApplication::processEvents();
-  const QImage picture = window.grab().toImage();
+  return window.grab().toImage();
+}
+
+}  // namespace
+
+void QtPictures::Screenshot(ui::Form& form, const std::string& file) {
+  Start();
+  const int32_t width = form.Width();
+  const int32_t height = form.Height();
+  const ui::WindowState state = form.GetWindowState();
+  const QImage picture = Draw(form);
+  // Whole pixels are not whole twips: who looks must not move anything.
+  if (form.Width() != width || form.Height() != height) form.UserResize(width, height, state);
   if (!picture.save(qt::FromUtf8(file), "PNG")) throw Error(file + ": cannot be written");
 }
 
