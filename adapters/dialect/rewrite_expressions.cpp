@@ -80,6 +80,7 @@ void RewriteFunctions(Tokens& tokens, const Target& target) {
 
 void RewriteConcatenation(Tokens& tokens, const Target& target) {
   const auto wrap = [&](size_t first, size_t last) {
+    if (first == last) return;  // nothing stands there: the engine says so
     if (last == first + 1 && !IsName(tokens[first])) return;  // a literal or done already
     ReplaceByRaw(tokens, first, last, Wrap(target.joined, Render(tokens, first, last)));
   };

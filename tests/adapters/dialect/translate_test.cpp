@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <string>
+#include <vector>
+
 #include "platform/basic/errors.h"
 #include "tests/adapters/dialect/suite_schema.h"
 
@@ -160,6 +164,43 @@ TEST(Translation, SwapsARightJoinOnlyBetweenTwoTables) {
 TEST(Translation, OrdersTextsByTheReadersLanguageAndLeavesOtherKeys) {
   EXPECT_EQ(Sqlite("select * from cards order by compname desc, fID asc,[CompCode]"),
             "select * from cards order by compname COLLATE zh desc, fID asc,[CompCode] COLLATE zh");
+}
+
+TEST(Translation, SurvivesEveryBrokenStatement) {
+  const std::vector<std::string> pieces = {"select",    "max",     "(",
+                                           ")",         "mid",     "left",
+                                           "IsNumeric", "fAcntNo", "tAccountDetail",
+                                           "from",      "where",   "and",
+                                           "=",         "<>",      "&",
+                                           "'ab'",      "''",      "#1/2/2003#",
+                                           "#x#",       "1",       ",",
+                                           ".",         "b",       "[fDate]",
+                                           "like",      "not",     "order",
+                                           "by",        "desc",    "distinct",
+                                           "Right",     "Join",    "On",
+                                           "update",    "set",     "insert",
+                                           "into",      "values",  "fDate",
+                                           "between",   "in",      "alter",
+                                           "table",     "add",     "Column",
+                                           "long",      "-",       ";",
+                                           "'",         "[",       "a.CompCode"};
+  std::mt19937 random(7);
+  std::uniform_int_distribution<size_t> piece(0, pieces.size() - 1);
+  std::uniform_int_distribution<int> length(0, 25);
+  int translated = 0;
+  for (int round = 0; round < 30000; ++round) {
+    std::string statement;
+    for (int i = length(random); i > 0; --i) statement += pieces[piece(random)] + " ";
+    for (const Target& target : {SqliteTarget("zh"), PostgresTarget("zh"), TransactSqlTarget()}) {
+      try {
+        Translate(statement, target, test::SuiteSchema());
+        ++translated;
+      } catch (const DataError&) {
+        // Refused in words, as it should be.
+      }
+    }
+  }
+  EXPECT_GT(translated, 0);
 }
 
 TEST(Translation, LeavesTheServersOwnDialectToTheServer) {
