@@ -95,6 +95,7 @@ void Form::MoveFocus(Control* control) {
   if (old == control) return;
   focused_ = control;
   if (EditBox* const box = AsEditBox(control)) box->valid_text_ = box->Text();
+  if (EditBox* const box = AsEditBox(old)) box->Select(box->Caret(), 0);
   if (old) Notify(*old, Aspect::Focus);
   if (control) Notify(*control, Aspect::Focus);
   if (old) Raise(old->onLostFocus);

@@ -19,6 +19,15 @@ TEST(Focus, GoesFromTheLeftFieldToTheEnteredOne) {
   EXPECT_EQ(screen.Told(screen.memo, Aspect::Focus), 1);
 }
 
+TEST(Focus, LeavesNoSelectionBehindInAField) {
+  Screen screen;
+  screen.text.SetText("202403PZ00001");
+  screen.text.onGotFocus = [&] { screen.text.SelectAll(); };
+  screen.SetFocus(screen.text);
+  screen.SetFocus(screen.button);
+  EXPECT_EQ(screen.text.SelLength(), 0);
+}
+
 TEST(Focus, StaysInAFieldThatFailsValidation) {
   Screen screen;
   screen.text.onValidate = [](bool& cancel) { cancel = true; };
