@@ -24,6 +24,8 @@ class MonkeyChecks {
   std::string CompareData();
 
  private:
+  /// The user is in the midst of a text that could not be left.
+  bool FocusedTextHasQuote() const;
   std::string CheckErrors(const std::vector<std::string>& printed) const;
   std::string FollowStatements(const std::string& line, bool failed);
   std::string CheckScreen();
@@ -42,6 +44,7 @@ class MonkeyChecks {
   std::string ledger_;                 // statement of the last act that filled the ledger
   std::string register_;               // and the register
   std::string fields_before_;
+  bool host_interrupts_ = false;  // the host searches before the user has left such a text
 };
 
 }  // namespace qvzj::endurance
