@@ -2,6 +2,7 @@
 
 #include "frontends/script/command.h"
 #include "frontends/script/host_properties.h"
+#include "frontends/script/json.h"
 #include "frontends/script/property_store.h"
 #include "frontends/script/script.h"
 #include "frontends/script/script_error.h"
@@ -67,7 +68,7 @@ void Sql(Script& script, const Arguments& arguments) {
     std::string line = "sql: ";
     for (int field = 0; field < rows.FieldCount(); ++field) {
       if (field > 0) line += '\t';
-      line += rows.IsNull(field) ? "NULL" : rows.Text(field);
+      line += rows.IsNull(field) ? "NULL" : LineField(rows.Text(field));
     }
     script.Print(line);
   }

@@ -14,6 +14,26 @@ std::string JsonTexts(const std::vector<std::string>& texts) {
   return nlohmann::json(texts).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
+std::string LineField(std::string_view text) {
+  std::string field;
+  for (const char c : text) {
+    switch (c) {
+      case '\n':
+        field += "\\n";
+        break;
+      case '\r':
+        field += "\\r";
+        break;
+      case '\t':
+        field += "\\t";
+        break;
+      default:
+        field += c;
+    }
+  }
+  return field;
+}
+
 std::string ReadJsonText(std::string_view json) {
   const auto value = nlohmann::json::parse(json, nullptr, false);
   if (!value.is_string()) throw ScriptError("not a JSON string: " + std::string(json));

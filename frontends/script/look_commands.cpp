@@ -63,7 +63,7 @@ void PrintGrid(Script& script, const Arguments& arguments) {
     std::string line = target.name + " " + std::to_string(row) + ":";
     for (int32_t column = 1; column <= target.grid.ColumnCount(); ++column) {
       line += '\t';
-      line += target.grid.CellText(column, row);
+      line += LineField(target.grid.CellText(column, row));
     }
     script.Print(line);
   }

@@ -74,20 +74,25 @@ ui::Key KeyFor(char32_t code) {
   return key;
 }
 
-/// Replaces the whole text `old` of a field by typing, unless the focus cannot get there.
-void TypeInto(const Target& target, const std::string& old, const std::string& text) {
+/// What stands in a field for text. Throws ScriptError for any other control.
+const std::string& TextOf(const Target& target) {
+  if (const auto* box = dynamic_cast<ui::TextBox*>(&target.control)) return box->Text();
+  return Kind<ui::ComboBox>(target, "field for text").Text();
+}
+
+/// Replaces the whole text of a field by typing, unless the focus cannot get there. Leaving another
+/// field may fill this one, so its text is looked at when the focus is in it.
+void TypeInto(const Target& target, const std::string& text) {
+  TextOf(target);
   if (!target.form.UserFocus(target.control)) return;
   if (target.form.Focused() != &target.control) return;
-  target.form.UserSelect(target.control, 0, basic::Len(old));
+  target.form.UserSelect(target.control, 0, basic::Len(TextOf(target)));
   if (text.empty()) target.form.UserKey(ui::Key::Named(ui::Key::Name::Delete));
   for (const char32_t code : basic::CodePoints(text)) target.form.UserKey(KeyFor(code));
 }
 
 void Type(Script& script, const Arguments& arguments) {
-  const Target target = Act(script, arguments[0]);
-  const auto* box = dynamic_cast<ui::TextBox*>(&target.control);
-  const std::string old = box ? box->Text() : Kind<ui::ComboBox>(target, "field for text").Text();
-  TypeInto(target, old, arguments[1].text);
+  TypeInto(Act(script, arguments[0]), arguments[1].text);
 }
 
 /// Index of the item that a script names by number or text.
@@ -120,7 +125,7 @@ void Choose(Script& script, const Arguments& arguments) {
   if (index >= 0 || combo.Clearable()) {
     target.form.UserChoose(combo, index);
   } else if (combo.Editable()) {
-    TypeInto(target, combo.Text(), "");
+    TypeInto(target, "");
   } else {
     throw ScriptError(target.name + " cannot be cleared");
   }

@@ -145,6 +145,20 @@ TEST_F(ScriptTest, TypingReplacesTheWholeTextKeyByKey) {
             (Lines{"txtBrief.text=\"a b\"", "txtBrief.text=\"\""}));
 }
 
+TEST_F(ScriptTest, TypingReplacesATextThatLeavingAnotherFieldPutThere) {
+  AddCustomer("1", "甲");
+  Play("refresh 0 0\nclick cmdAction(1)");
+  EXPECT_EQ(Play("focus\ntype txtAcnt2(1) \"X1\"\nshow txtAcnt2(1)"),
+            (Lines{"focus=dtpAcntDate", "txtAcnt2(1).text=\"X1\""}));
+}
+
+TEST_F(ScriptTest, KeepsAFieldWithLineFeedsOnItsLine) {
+  AddCustomer("1", "甲\n乙");
+  const Lines rows = Play("refresh 0 0\ngrid Grid1 1");
+  ASSERT_EQ(rows.size(), 1u);
+  EXPECT_TRUE(rows[0].starts_with("Grid1 1:\tC1\t甲\\n乙\t")) << rows[0];
+}
+
 TEST_F(ScriptTest, AFieldThatFailsItsCheckKeepsTheFocusWithoutAnError) {
   AddCustomer("1", "甲");
   EXPECT_EQ(Play("refresh 0 0\nclick chkBrief\ntype txtBrief \"'\"\nclick cmdAcntRefresh\nfocus"),
