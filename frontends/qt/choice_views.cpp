@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
+#include <QToolButton>
+#include <utility>
 
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/keys.h"
@@ -24,6 +26,19 @@ QDate ToNative(basic::Date date) { return {date.Year(), date.Month(), date.Day()
 
 basic::Date FromNative(const QDate& date) {
   return basic::Date::FromYmd(date.year(), date.month(), date.day());
+}
+
+/// Plain marks in place of the toolkit's coloured arrows.
+void DressCalendar(QCalendarWidget& calendar) {
+  calendar.setGridVisible(false);
+  calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  for (const auto& [name, mark] :
+       {std::pair{"qt_calendar_prevmonth", "‹"}, std::pair{"qt_calendar_nextmonth", "›"}}) {
+    auto* button = calendar.findChild<QToolButton*>(name);
+    if (button == nullptr) continue;
+    button->setIcon(QIcon());
+    button->setText(mark);
+  }
 }
 
 }  // namespace
@@ -175,8 +190,7 @@ DateView::DateView(FormWindow& window, ui::DatePicker& picker, QWidget* parent)
   native_->setKeyboardTracking(false);  // a date half typed is no date
   native_->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
   native_->setLocale(QLocale(QLocale::Chinese));
-  native_->calendarWidget()->setGridVisible(false);
-  native_->calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  DressCalendar(*native_->calendarWidget());
   Adopt(native_, native_->findChild<QLineEdit*>());
   connect(native_, &QDateEdit::userDateChanged, this, [this](QDate date) {
     if (!Live() || !date.isValid()) return;

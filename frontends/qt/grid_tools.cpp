@@ -40,6 +40,7 @@ GridTools::GridTools(GridView& view) : view_(view), summary_(new QLabel(view.Tab
       [this] { view_.Table()->setFocus(Qt::OtherFocusReason); });
   summary_->setAutoFillBackground(true);
   summary_->setMargin(4);
+  summary_->setFrameShape(QFrame::StyledPanel);
   summary_->setBackgroundRole(QPalette::Button);
   summary_->setAttribute(Qt::WA_TransparentForMouseEvents);
   summary_->hide();
