@@ -41,23 +41,30 @@ Target AskTarget(FormWindow& window, const QString& title, const NativeTexts& te
   return target;
 }
 
+std::string TitleOf(const FormWindow& window, const ui::Grid& grid) {
+  return grid.offers.title ? grid.offers.title() : window.GetForm().Caption();
+}
+
 }  // namespace
 
 void ExportGrid(FormWindow& window, const ui::Grid& grid, const NativeTexts& texts) {
+  const Target target = AskTarget(window, FromUtf8(TitleOf(window, grid)), texts);
+  if (!target.path.isEmpty()) WriteGrid(window, grid, texts, target.path, target.format);
+}
+
+void WriteGrid(FormWindow& window, const ui::Grid& grid, const NativeTexts& texts,
+               const QString& path, ExportFormat format) {
   ExportRequest request;
   request.grid = &grid;
-  request.title = grid.offers.title ? grid.offers.title() : window.GetForm().Caption();
-  const QString title = FromUtf8(request.title);
-  const Target target = AskTarget(window, title, texts);
-  if (target.path.isEmpty()) return;
+  request.title = TitleOf(window, grid);
   if (grid.offers.totals) request.totals = grid.offers.totals();
-  request.path = ToUtf8(target.path);
-  WorkDialog work(&window, title);
+  request.path = ToUtf8(path);
+  WorkDialog work(&window, FromUtf8(request.title));
   request.progress = work.AsProgress();
   try {
-    const ExportResult result = Around().exporter->Export(request, target.format);
+    const ExportResult result = Around().exporter->Export(request, format);
     if (result.cancelled) return;
-    QString said = texts.exported.arg(result.rows).arg(target.path);
+    QString said = texts.exported.arg(result.rows).arg(path);
     if (result.lost_characters > 0) said += "\n" + texts.lost.arg(result.lost_characters);
     Around().boxes->Show(ToUtf8(said), box::kInformation, request.title);
   } catch (const std::exception& error) {

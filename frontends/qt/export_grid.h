@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QString>
+
+#include "platform/table_export.h"
 #include "platform/ui/grid.h"
 
 namespace qvzj::qt {
@@ -10,5 +13,9 @@ struct NativeTexts;
 /// Asks for a file and writes the grid into it, as an Excel workbook or as CSV; says how it went.
 /// Needs Around().exporter.
 void ExportGrid(FormWindow& window, const ui::Grid& grid, const NativeTexts& texts);
+
+/// The part of it after the question: writes the grid into the file and says how it went.
+void WriteGrid(FormWindow& window, const ui::Grid& grid, const NativeTexts& texts,
+               const QString& path, ExportFormat format);
 
 }  // namespace qvzj::qt

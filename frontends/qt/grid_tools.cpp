@@ -59,7 +59,7 @@ bool GridTools::HandleKey(const QKeyEvent& event) {
   const bool finds = event.matches(QKeySequence::Find);
   const bool again = event.key() == Qt::Key_F3;
   if (event.type() == QEvent::KeyPress) {
-    if (copies) QGuiApplication::clipboard()->setText(SelectedText());
+    if (copies) Copy();
     if (finds) OpenFind();
     if (again) find_bar_->Next();
   }
@@ -103,6 +103,12 @@ QString GridTools::SelectedText() const {
     add_line([&](int column) { return view_.Model().Text(row, column); });
   }
   return text;
+}
+
+void GridTools::Copy() {
+  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  QGuiApplication::clipboard()->setText(SelectedText());
+  QGuiApplication::restoreOverrideCursor();
 }
 
 QString GridTools::Summary() const {
@@ -177,8 +183,7 @@ void GridTools::ShowMenu(const QPoint& at) {
         },
         Qt::QueuedConnection);
   };
-  add(texts.copy_rows, filled, QKeySequence::Copy,
-      [this] { QGuiApplication::clipboard()->setText(SelectedText()); });
+  add(texts.copy_rows, filled, QKeySequence::Copy, [this] { Copy(); });
   add(texts.find, filled, QKeySequence::Find, [this] { OpenFind(); });
   add(texts.find_next, filled, QKeySequence(Qt::Key_F3), [this] { find_bar_->Next(); });
   menu->addSeparator();

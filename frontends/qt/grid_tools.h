@@ -33,6 +33,7 @@ class GridTools : public QObject {
  private:
   void ShowMenu(const QPoint& at);
   void ShowSummary();
+  void Copy();
   void OpenFind();
   void Export();
   void Print();

@@ -8,7 +8,7 @@
 namespace qvzj::qt {
 
 QtPresenter::~QtPresenter() {
-  for (auto& [form, shown] : shown_) delete shown.window;
+  for (auto& [form, shown] : shown_) delete shown.window.data();
 }
 
 FormWindow* QtPresenter::WindowOf(const ui::Form& form) const {
@@ -29,22 +29,24 @@ void QtPresenter::Place(FormWindow& window, const QWidget* owner) const {
 
 void QtPresenter::Show(ui::Form& form, bool modal) {
   if (FormWindow* open = WindowOf(form)) {
-    open->showNormal();
+    if (open->isMinimized()) open->showNormal();
     open->raise();
     open->activateWindow();
     return;
   }
-  QWidget* owner = modal ? QApplication::activeWindow() : nullptr;
+  const QPointer<QWidget> owner = modal ? QApplication::activeWindow() : nullptr;
   auto* window = new FormWindow(form, options_, owner);
   if (modal) window->setWindowModality(Qt::ApplicationModal);
   Place(*window, owner);
-  shown_[&form] = {window, nullptr};
+  QEventLoop loop;
+  shown_[&form] = {window, modal ? &loop : nullptr};
   window->show();
   window->activateWindow();
   if (!modal) return;
-  QEventLoop loop;
-  shown_[&form].loop = &loop;
+  // A host that deletes the owner takes the window along.
+  QObject::connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
   loop.exec();
+  if (owner) owner->activateWindow();
 }
 
 void QtPresenter::Closed(ui::Form& form) {
@@ -52,12 +54,14 @@ void QtPresenter::Closed(ui::Form& form) {
   if (found == shown_.end()) return;
   const Shown shown = found->second;
   shown_.erase(found);
-  if (options_.layouts != nullptr && shown.window->windowFlags().testFlag(Qt::Window)) {
-    options_.layouts->KeepPlace(shown.window->objectName(), shown.window->saveGeometry());
+  if (shown.window) {
+    if (options_.layouts != nullptr && form.onResize) {
+      options_.layouts->KeepPlace(shown.window->objectName(), shown.window->saveGeometry());
+    }
+    shown.window->Detach();
+    shown.window->hide();
+    shown.window->deleteLater();
   }
-  shown.window->Detach();
-  shown.window->hide();
-  shown.window->deleteLater();
   if (shown.loop != nullptr) shown.loop->quit();
 }
 

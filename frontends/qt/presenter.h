@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QEventLoop>
+#include <QPointer>
 #include <unordered_map>
 
 #include "frontends/qt/form_window.h"
@@ -23,7 +24,7 @@ class QtPresenter : public Presenter {
 
  private:
   struct Shown {
-    FormWindow* window = nullptr;
+    QPointer<FormWindow> window;
     QEventLoop* loop = nullptr;  // of a modal form
   };
 

@@ -10,6 +10,7 @@
 #include <QSpinBox>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <exception>
 
 #include "frontends/qt/print/paint_page.h"
@@ -21,6 +22,8 @@ namespace {
 constexpr double kZoomStep = 1.25;
 constexpr double kSmallest = 0.4;
 constexpr double kLargest = 5;
+constexpr QSize kWindow(960, 760);
+constexpr int kBesidePage = 60;  // pixels for the desk and the scroll bar
 
 }  // namespace
 
@@ -44,7 +47,8 @@ PreviewWindow::PreviewWindow(const PageSource& pages, const QString& title, cons
   layout->addWidget(scroll);
   connect(view_, &PageView::CurrentChanged, this, &PreviewWindow::Leaf);
   Leaf(0);
-  resize(960, 760);
+  resize(kWindow);
+  view_->SetZoom(std::min(view_->Zoom(), (kWindow.width() - kBesidePage) / pages.PageWidth()));
 }
 
 QString PreviewWindow::Said(const char* simplified, const char* traditional) const {

@@ -3,12 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QFile>
 #include <QHeaderView>
 #include <QMenu>
 #include <QSettings>
 
+#include "frontends/qt/export_grid.h"
 #include "frontends/qt/find_text.h"
 #include "frontends/qt/layout_store.h"
+#include "frontends/qt/native_texts.h"
+#include "suite/export/suite_exporter.h"
 #include "tests/frontends/qt/window_world.h"
 
 namespace qvzj::test {
@@ -120,6 +124,27 @@ TEST_F(Tools, OfferPrintingByTheFormsOwnButton) {
   world_.Settle();
   ASSERT_EQ(world_.headless.print.jobs.size(), 1U);
   EXPECT_EQ(world_.headless.print.jobs[0].grid, &form_.Grid2);
+}
+
+TEST_F(Tools, ExportTheGridAndSayHowManyRows) {
+  SuiteExporter exporter;
+  Around().exporter = &exporter;
+  const QString file = QString::fromStdString((world_.folder.Path() / "out.csv").string());
+  qt::WriteGrid(world_.Window(), form_.Grid2, qt::TextsOf(0), file, ExportFormat::CsvUtf8);
+  QFile written(file);
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(QString::fromUtf8(written.readAll()).contains("XP3"));
+  const std::vector<std::string> said = world_.Messages();
+  ASSERT_EQ(said.size(), 1U);
+  EXPECT_EQ(said[0].rfind("已导出 3 行", 0), 0U) << said[0];
+}
+
+TEST_F(Tools, SayWhyAnExportFailed) {
+  SuiteExporter exporter;
+  Around().exporter = &exporter;
+  qt::WriteGrid(world_.Window(), form_.Grid2, qt::TextsOf(0), "/nowhere/out.csv",
+                ExportFormat::CsvUtf8);
+  EXPECT_EQ(world_.headless.boxes.TakeErrors().size(), 1U);
 }
 
 TEST(FindText, LooksIntoNumbersAsTheyAreShown) {

@@ -1,0 +1,127 @@
+#include "frontends/qt/boxes.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTimer>
+
+#include "frontends/qt/native_texts.h"
+#include "frontends/qt/services.h"
+#include "tests/frontends/qt/window_world.h"
+
+namespace qvzj::test {
+namespace {
+
+/// Does something to the modal box that is about to come up.
+void WhenBoxComes(const std::function<void(QDialog&)>& act) {
+  QTimer::singleShot(50, [act] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    act(*dialog);
+  });
+}
+
+QStringList ButtonTexts(const QDialog& dialog) {
+  QStringList texts;
+  for (const QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
+    if (button->isVisible()) texts << button->text();
+  }
+  texts.sort();
+  return texts;
+}
+
+TEST(Boxes, BearSimplifiedButtonTexts) {
+  qt::QtBoxes boxes([] { return 0; });
+  QStringList texts;
+  WhenBoxComes([&](QDialog& dialog) {
+    texts = ButtonTexts(dialog);
+    dialog.reject();
+  });
+  EXPECT_EQ(boxes.Show("a", box::kQuestionOkCancel, "t"), Answer::Cancel);
+  EXPECT_EQ(texts, (QStringList{"取消", "确定"}));
+}
+
+TEST(Boxes, BearTraditionalButtonTexts) {
+  qt::QtBoxes boxes([] { return 1; });
+  QStringList texts;
+  WhenBoxComes([&](QDialog& dialog) {
+    texts = ButtonTexts(dialog);
+    dialog.accept();
+  });
+  boxes.Show("a", box::kExclamation, "t");
+  EXPECT_EQ(texts, (QStringList{"確定"}));
+}
+
+TEST(Boxes, AnswerOkWithEnter) {
+  qt::QtBoxes boxes([] { return 0; });
+  WhenBoxComes([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+  EXPECT_EQ(boxes.Show("a", box::kQuestionOkCancel, "t"), Answer::Ok);
+}
+
+TEST(Boxes, AnswerCancelWithEscape) {
+  qt::QtBoxes boxes([] { return 0; });
+  WhenBoxComes([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+  EXPECT_EQ(boxes.Show("a", box::kExclamationOkCancel, "t"), Answer::Cancel);
+}
+
+TEST(Boxes, AskYesOrNoWhereTheStyleSaysSo) {
+  qt::QtBoxes boxes([] { return 0; });
+  QStringList texts;
+  WhenBoxComes([&](QDialog& dialog) {
+    texts = ButtonTexts(dialog);
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  EXPECT_EQ(boxes.Show("a", 36, "t"), Answer::Yes);
+  EXPECT_EQ(texts, (QStringList{"否", "是"}));
+}
+
+TEST(Boxes, ShowATextAsItIs) {
+  qt::QtBoxes boxes([] { return 0; });
+  QString text;
+  WhenBoxComes([&](QDialog& dialog) {
+    text = static_cast<QMessageBox&>(dialog).text();
+    dialog.reject();
+  });
+  boxes.Show("<b>甲</b>", box::kPlain, "t");
+  EXPECT_EQ(text, "<b>甲</b>");
+}
+
+TEST(Boxes, TakeALineOfText) {
+  qt::QtBoxes boxes([] { return 0; });
+  WhenBoxComes([](QDialog& dialog) {
+    static_cast<QInputDialog&>(dialog).setTextValue("第二口令");
+    dialog.accept();
+  });
+  EXPECT_EQ(boxes.Input("口令", "t", "preset"), "第二口令");
+}
+
+TEST(Boxes, AnswerNothingWhenTheInputIsCancelled) {
+  qt::QtBoxes boxes([] { return 0; });
+  WhenBoxComes([](QDialog& dialog) { dialog.reject(); });
+  EXPECT_EQ(boxes.Input("口令", "t", "preset"), std::nullopt);
+}
+
+TEST(Settings, IgnoreTheCaseOfTheirNames) {
+  const TemporaryFolder folder;
+  QSettings store(QString::fromStdString((folder.Path() / "s.ini").string()), QSettings::IniFormat);
+  qt::QtSettings settings(store);
+  settings.Set("Tessary", "qv2000", "JbrFrom", "1");
+  EXPECT_EQ(settings.Get("tessary", "QV2000", "jbrfrom", "0"), "1");
+  EXPECT_EQ(settings.Get("tessary", "QV2000", "other", "0"), "0");
+}
+
+TEST(NativeTexts, TranslateTheEditMenuByLanguage) {
+  int language = 0;
+  const qt::NativeTranslator translator([&] { return language; });
+  EXPECT_EQ(translator.translate("QLineEdit", "&Copy", nullptr, -1), "复制(&C)");
+  language = 1;
+  EXPECT_EQ(translator.translate("QLineEdit", "&Copy", nullptr, -1), "複製(&C)");
+  EXPECT_TRUE(translator.translate("Elsewhere", "&Copy", nullptr, -1).isEmpty());
+}
+
+}  // namespace
+}  // namespace qvzj::test
