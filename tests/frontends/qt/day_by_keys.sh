@@ -1,6 +1,7 @@
 #!/bin/bash
 # A short working day by real keys and mouse clicks in the demo host's window: keys an entry,
-# approves it, searches a customer and keys an entry for it, and looks in the data file after each.
+# approves it, searches a customer and keys an entry for it, exports the ledger and prints it to a
+# PDF file, and looks in the data file and for the files after each.
 #
 #   day_by_keys.sh DEMO QVDB SCRIPT    the three programs
 #
@@ -54,6 +55,8 @@ windows() { xdotool search --onlyvisible --name "$1" 2>/dev/null | wc -l; }
 shows() { [ "$(windows "$1")" -ge "$2" ]; }
 # The suite's window and the customers' window are there all the time; a third one is a box.
 box() { [ "$(windows .)" -ge 3 ]; }
+boxes_of() { [ "$(windows .)" -ge $((2 + $1)) ]; }
+no_window() { [ "$(windows "$1")" -eq 0 ]; }
 no_box() { [ "$(windows .)" -le 2 ]; }
 answer_of() { printf 'sql %s\n' "\"$1\"" | "$script" --data "$work/data" -; }
 answers() { [ "$(answer_of "$1")" = "sql: $2" ]; }
@@ -126,7 +129,37 @@ confirm "the report of the second entry"
 until_true 20 "the second entry in the data file" answers \
   "select count(*) from tAccountDetail where fCompID=5 and fMoneyA=77" 1
 
+echo "Exporting the ledger"
+click "$main" 450 300
+xdotool mousemove --window "$main" 450 300 click 3
+sleep 0.5
+press e
+until_true 20 "the question for the file" box
+sleep 0.5
+press ctrl+a
+put "$work/ledger.xlsx"
+press Return
+until_true 20 "the workbook" test -s "$work/ledger.xlsx"
+confirm "the report of the export"
+until_true 20 "the end of the boxes" no_box
+
+echo "Printing the ledger to PDF"
+click "$main" 780 17
+until_true 20 "the preview" box
+sleep 0.5
+press ctrl+s
+until_true 20 "the question for the file" boxes_of 2
+sleep 0.5
+press ctrl+a
+put "$work/ledger.pdf"
+press Return
+until_true 20 "the PDF file" grep -q '%%EOF' "$work/ledger.pdf"
+press Escape
+until_true 20 "the end of the preview" no_box
+
 echo "Closing"
-press alt+F4 Escape
-xdotool windowclose "$suite"
-echo "PASSED: the day's entries are in the data file"
+xdotool windowfocus "$main"
+sleep 0.2
+click "$main" 938 17
+until_true 20 "the end of the customers' window" no_window "$title"
+echo "PASSED: the day's entries are in the data file, the lists in their files"
