@@ -1,0 +1,94 @@
+#include "tests/adapters/odbc/server.h"
+#include "tests/support/world.h"
+
+// The module on a server that fails under it.
+namespace qvzj::test {
+namespace {
+
+class ModuleOnAServer : public testing::Test {
+ protected:
+  void SetUp() override {
+    QV_NEEDS_SERVER();
+    database_ = Server().MakeDatabase();
+    Server().RunAll(database_,
+                    {"insert into cards (fID,CompCode,compname,fType0) values (1,'K1','甲公司',0)",
+                     "insert into Moneys (MoneyCode,MoneyRate,MoneyType) values ('RMB',1,1)",
+                     "insert into tAccountDetail (fDate,fCompID,fType1,fType2,fAcntNo,fMoneyA,"
+                     "fMoneyB,fChecker) values ('2024-03-01',1,0,1,'A1',10,0,'')"});
+    world_.control.setSQLData(1);
+    world_.control.setUserPath(Server().Address());
+    world_.control.setUserID(PrivatePostgres::kUser);
+    world_.control.setPassword(PrivatePostgres::kPassword);
+    world_.control.setDefault(database_);
+    world_.Open(0);
+  }
+
+  /// Keys a new entry up to its save button.
+  void KeyEntry() {
+    frmZj& form = world_.Form();
+    form.UserClick(form.cmdAction(1));
+    world_.Type(form.txtAcnt2(1), "A2");
+    world_.Type(form.txtAcnt2(3), "5");
+  }
+  std::string Entries() {
+    const ServerLogin login = LoginTo(database_);
+    return OpenNativeServer(login, {})("select count(*) from tAccountDetail").Text(0);
+  }
+  /// All that was reported as an error since the last call.
+  std::string Errors() {
+    std::string all;
+    for (const std::string& error : world_.headless.boxes.TakeErrors()) all += error + "\n";
+    return all;
+  }
+
+  std::string database_;
+  World world_;
+};
+
+TEST_F(ModuleOnAServer, ShowsTheErrorWhileTheServerIsAwayAndTheDataOnceItIsBack) {
+  frmZj& form = world_.Form();
+  Server().Kill();
+  form.UserClick(form.cmdAcntRefresh);
+  EXPECT_NE(Errors(), "");
+  EXPECT_TRUE(form.Grid1.Visible());
+  EXPECT_TRUE(form.Grid2.Visible());
+  Server().Start();
+  form.UserClick(form.cmdAcntRefresh);
+  EXPECT_EQ(Errors(), "");
+  EXPECT_EQ(form.Grid2.RowCount(), 1);
+}
+
+TEST_F(ModuleOnAServer, SaysThatNobodyKnowsWhetherAnEntryWasStored) {
+  frmZj& form = world_.Form();
+  KeyEntry();
+  Server().Kill();
+  Server().Start();
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_NE(Errors().find("无法确定这次修改是否已经保存"), std::string::npos);
+  EXPECT_EQ(Entries(), "1");
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_EQ(Errors(), "");
+  EXPECT_EQ(Entries(), "2");
+  EXPECT_EQ(form.Grid2.RowCount(), 2);
+}
+
+TEST_F(ModuleOnAServer, KeepsWhatWasKeyedWhenTheServerHasNoRoomLeft) {
+  frmZj& form = world_.Form();
+  Server().RunAll(database_,
+                  {"create function no_room() returns trigger language plpgsql as $$ begin raise "
+                   "exception 'could not extend file: no space left on device' using errcode = "
+                   "'disk_full'; end $$",
+                   "create trigger full_disk before insert on tAccountDetail "
+                   "execute function no_room()"});
+  KeyEntry();
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_NE(Errors().find("no space left"), std::string::npos);
+  EXPECT_EQ(form.txtAcnt2(1).Text(), "A2");
+  EXPECT_TRUE(form.Grid2.Visible());
+  Server().Run(database_, "drop trigger full_disk on tAccountDetail");
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_EQ(Entries(), "2");
+}
+
+}  // namespace
+}  // namespace qvzj::test
