@@ -28,15 +28,16 @@ constexpr std::array<RegisterField, 11> kRegisterFields = {{{"CompCode", "编号
 
 struct SearchField {
   const char* column;
-  const char* caption;
+  const char* simplified;
+  const char* traditional;
 };
-constexpr std::array<SearchField, 7> kSearchFields = {{{"CompCode", "客户编号:"},
-                                                       {"compname", "客户单位:"},
-                                                       {"name", "联系人:"},
-                                                       {"province", "所属地区:"},
-                                                       {"cityname", "所属城市:"},
-                                                       {"postcode", "邮编:"},
-                                                       {"telphone", "电话:"}}};
+constexpr std::array<SearchField, 7> kSearchFields = {{{"CompCode", "客户编号:", "客戶編號:"},
+                                                       {"compname", "客户单位:", "客戶單位:"},
+                                                       {"name", "联系人:", "聯系人:"},
+                                                       {"province", "所属地区:", "所屬地區:"},
+                                                       {"cityname", "所属城市:", "所屬城市:"},
+                                                       {"postcode", "邮编:", "郵編:"},
+                                                       {"telphone", "电话:", "電話:"}}};
 
 constexpr std::array<int32_t, 13> kRegisterWidths = {1000, 2400, 1000, 1800, 1800, 1800, 900,
                                                      900,  900,  1500, 1500, 600,  600};
@@ -47,7 +48,6 @@ constexpr std::array<int32_t, 18> kLedgerWidths = {1170, 1560, 2040, 1395, 1395,
 void DesignRegister(frmZj& form) {
   form.lblKhName.SetHeading(true);
   form.fraSeekKh.SetOutlined(false);
-  form.mnuKh.SetCaption("客户");
   form.mnuSep1.SetCaption("-");
   form.lblKhMemo.SetCaption("客户详情：");
   for (int i = 0; i < static_cast<int>(kRegisterFields.size()); ++i) {
@@ -56,20 +56,12 @@ void DesignRegister(frmZj& form) {
     form.lblAcnt(i).SetTag(field.column);
     form.txtAcnt(i).SetMaxLength(field.bytes);
   }
-  const std::array types = {"供销商", "供应商", "销售商", "代销商"};
-  for (int i = 0; i < form.optKhType.Count(); ++i) {
-    form.optKhType(i).SetCaption(types[static_cast<size_t>(i)]);
-    form.optSeek(i).SetCaption(i == 0 ? "全部" : types[static_cast<size_t>(i)]);
-  }
   for (int i = 0; i < form.chkSeek.Count(); ++i) {
-    form.chkSeek(i).SetCaption(kSearchFields[static_cast<size_t>(i)].caption);
     form.chkSeek(i).SetTag(kSearchFields[static_cast<size_t>(i)].column);
   }
-  form.chkSeek2.SetCaption("限定：已发生[往来帐目]的客户");
   form.txtSeekMsg.SetMultiLine(true);
   form.txtSeekMsg.SetLocked(true);
   form.txtSeekMsg.SetTabStop(false);
-  form.txtSeekMsg.SetText("<供销商>可任意归入\n\n----<供应商> <销售商> <代销商>");
   form.txtKhMemo.SetMultiLine(true);
   form.Grid1.SetColumnCount(static_cast<int32_t>(kRegisterWidths.size()));
   for (int32_t column = 1; column <= form.Grid1.ColumnCount(); ++column) {
@@ -233,6 +225,25 @@ void ResetFilter(frmZj& form) {
   form.cboHb2.SetListIndex(-1);
 }
 
+// Customer types and the search page, which shows the rule that goes with them.
+void CaptionSearch(frmZj& form, bool traditional) {
+  using Types = std::array<const char*, 4>;
+  const Types types = traditional ? Types{"供銷商", "供應商", "銷售商", "代銷商"}
+                                  : Types{"供销商", "供应商", "销售商", "代销商"};
+  for (int i = 0; i < form.optKhType.Count(); ++i) {
+    form.optKhType(i).SetCaption(types[static_cast<size_t>(i)]);
+    form.optSeek(i).SetCaption(i == 0 ? "全部" : types[static_cast<size_t>(i)]);
+  }
+  for (int i = 0; i < form.chkSeek.Count(); ++i) {
+    const SearchField& field = kSearchFields[static_cast<size_t>(i)];
+    form.chkSeek(i).SetCaption(traditional ? field.traditional : field.simplified);
+  }
+  form.chkSeek2.SetCaption(traditional ? "限定：已發生[往来帳目]的客戶"
+                                       : "限定：已发生[往来帐目]的客户");
+  form.txtSeekMsg.SetText(traditional ? "<供銷商>可任意歸入\n\n----<供應商> <銷售商> <代銷商>"
+                                      : "<供销商>可任意归入\n\n----<供应商> <销售商> <代销商>");
+}
+
 }  // namespace
 
 void frmZj::Design() {
@@ -254,6 +265,8 @@ void DesignCaptions(frmZj& form, int16_t language) {
   const auto text = [language](const char* simplified, const char* traditional) {
     return language == 1 ? traditional : simplified;
   };
+  CaptionSearch(form, language == 1);
+  form.mnuKh.SetCaption(text("客户", "客戶"));
   form.cmdAction(0).SetCaption(text("帐目查看(&V)", "帳目查看(&V)"));
   form.SSTab1.SetTabCaption(2, text("条件查询", "條件查詢"));
   form.fraKhType.SetCaption(text("客户类型", "客戶類型"));

@@ -122,6 +122,22 @@ TEST(DesignCaptions, WritesItsOwnCaptionsInTheLanguageAndKeepsTheFixedOnes) {
   EXPECT_EQ(form.lblAcnt2(5).Caption(), "余额");
 }
 
+TEST(DesignCaptions, WritesTheSearchPageAndTheTypesInTheLanguage) {
+  frmZj form;
+  DesignCaptions(form, 1);
+  EXPECT_EQ(form.chkSeek(0).Caption(), "客戶編號:");
+  EXPECT_EQ(form.chkSeek(6).Caption(), "電話:");
+  EXPECT_EQ(form.chkSeek2.Caption(), "限定：已發生[往来帳目]的客戶");
+  EXPECT_EQ(form.optSeek(1).Caption(), "供應商");
+  EXPECT_EQ(form.optKhType(0).Caption(), "供銷商");
+  EXPECT_EQ(form.txtSeekMsg.Text(), "<供銷商>可任意歸入\n\n----<供應商> <銷售商> <代銷商>");
+  DesignCaptions(form, 0);
+  EXPECT_EQ(form.chkSeek(0).Caption(), "客户编号:");
+  EXPECT_EQ(form.chkSeek2.Caption(), "限定：已发生[往来帐目]的客户");
+  EXPECT_EQ(form.optSeek(0).Caption(), "全部");
+  EXPECT_EQ(form.optKhType(3).Caption(), "代销商");
+}
+
 TEST(ResetForm, TakesBackWhatWorkHasChanged) {
   frmZj form;
   form.lblKhName.SetTag("17");
