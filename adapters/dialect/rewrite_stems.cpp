@@ -55,6 +55,42 @@ std::string RangeCondition(const StemTest& test, const Target& target) {
   return "(" + condition + ")";
 }
 
+/// The parts of `select max(substring(c,L+1,n)) [as name] from t where left(c,L)='stem' …`.
+struct GreatestUnderStem {
+  size_t call_end;  ///< after the substring call that begins at token 3
+  size_t from;      ///< the word "from"
+  std::string column;
+};
+
+/// True when nothing after `at` orders, groups or widens the condition.
+bool OnlyNarrowsFrom(const Tokens& tokens, size_t at) {
+  for (; at < tokens.size(); ++at) {
+    for (const char* word : {"order", "group", "or"}) {
+      if (IsWord(tokens[at], word)) return false;
+    }
+  }
+  return true;
+}
+
+std::optional<GreatestUnderStem> FindGreatestUnderStem(const Tokens& tokens, const Scope& scope) {
+  const bool greatest = WordAt(tokens, 0, "select") && WordAt(tokens, 1, "max") &&
+                        SymbolAt(tokens, 2, "(") &&
+                        (WordAt(tokens, 3, "mid") || WordAt(tokens, 3, "substring"));
+  const auto column = greatest && SymbolAt(tokens, 4, "(") ? ColumnAt(tokens, 5) : std::nullopt;
+  if (!column) return std::nullopt;
+  const auto start = WholeNumberAt(tokens, column->last + 1);
+  GreatestUnderStem parts{AfterClosing(tokens, 4), 0, Render(tokens, column->first, column->last)};
+  parts.from = parts.call_end + 1;  // after the ")" of max
+  if (WordAt(tokens, parts.from, "as")) parts.from += 2;
+  const auto test = StemTestAt(tokens, parts.from + 3, scope);
+  const bool formed =
+      start && SymbolAt(tokens, parts.call_end, ")") && WordAt(tokens, parts.from, "from") &&
+      WordAt(tokens, parts.from + 2, "where") && test && test->column == parts.column &&
+      *start == test->length + 1 && OnlyNarrowsFrom(tokens, test->last);
+  if (!formed) return std::nullopt;
+  return parts;
+}
+
 }  // namespace
 
 void RewriteStems(Tokens& tokens, const Scope& scope, const Target& target) {
@@ -64,43 +100,23 @@ void RewriteStems(Tokens& tokens, const Scope& scope, const Target& target) {
   }
 }
 
-bool RewriteGreatestUnderStem(Tokens& tokens, const Scope& scope, const Target& target) {
-  const bool greatest = WordAt(tokens, 0, "select") && WordAt(tokens, 1, "max") &&
-                        SymbolAt(tokens, 2, "(") &&
-                        (WordAt(tokens, 3, "mid") || WordAt(tokens, 3, "substring"));
-  if (!greatest || !SymbolAt(tokens, 4, "(")) return false;
-  const auto column = ColumnAt(tokens, 5);
-  if (!column) return false;
-  const auto start = WholeNumberAt(tokens, column->last + 1);
-  const size_t call_end = AfterClosing(tokens, 4);
-  size_t from = call_end + 1;  // after the ")" of max
-  if (WordAt(tokens, from, "as")) from += 2;
-  const auto test = StemTestAt(tokens, from + 3, scope);
-  const bool formed = start && SymbolAt(tokens, call_end, ")") && WordAt(tokens, from, "from") &&
-                      WordAt(tokens, from + 2, "where") && test &&
-                      test->column == Render(tokens, column->first, column->last) &&
-                      *start == test->length + 1;
-  if (!formed) return false;
-  for (size_t i = test->last; i < tokens.size(); ++i) {
-    if (IsWord(tokens[i], "order") || IsWord(tokens[i], "group") || IsWord(tokens[i], "or")) {
-      return false;
-    }
-  }
+void RewriteGreatestUnderStem(Tokens& tokens, const Scope& scope, const Target& target) {
+  const auto parts = FindGreatestUnderStem(tokens, scope);
+  if (!parts) return;
+  const auto at = [&](size_t i) {
+    return tokens.begin() + static_cast<Tokens::difference_type>(i);
+  };
   // select (select substring(…) from … where … order by column desc limit 1) [as name]
-  Tokens inner(tokens.begin() + 3, tokens.begin() + static_cast<Tokens::difference_type>(call_end));
-  inner.front().blank = true;
-  inner.insert(inner.begin(), {{Kind::Symbol, "(", true}, {Kind::Word, "select", false}});
-  inner.insert(inner.end(), tokens.begin() + static_cast<Tokens::difference_type>(from),
-               tokens.end());
-  inner.push_back(
-      {Kind::Raw, "order by " + Wrap(target.compared_key, test->column) + " desc limit 1", true});
-  inner.push_back({Kind::Symbol, ")", false});
-  const Tokens name(tokens.begin() + static_cast<Tokens::difference_type>(call_end + 1),
-                    tokens.begin() + static_cast<Tokens::difference_type>(from));
-  tokens.resize(1);
-  tokens.insert(tokens.end(), inner.begin(), inner.end());
-  tokens.insert(tokens.end(), name.begin(), name.end());
-  return true;
+  Tokens nested{
+      {Kind::Word, "select", false}, {Kind::Symbol, "(", true}, {Kind::Word, "select", false}};
+  nested.insert(nested.end(), at(3), at(parts->call_end));
+  nested[3].blank = true;
+  nested.insert(nested.end(), at(parts->from), tokens.end());
+  nested.push_back(
+      {Kind::Raw, "order by " + Wrap(target.compared_key, parts->column) + " desc limit 1", true});
+  nested.push_back({Kind::Symbol, ")", false});
+  nested.insert(nested.end(), at(parts->call_end + 1), at(parts->from));
+  tokens = std::move(nested);
 }
 
 }  // namespace qvzj::dialect

@@ -22,9 +22,8 @@ void SwapRightJoin(Tokens& tokens);
 void RewriteDates(Tokens& tokens, const Scope& scope, const Target& target);
 
 /// `select max(substring(c,L+1,n)) … where left(c,L)='stem' and …` becomes the first such value
-/// in descending order of c, which an index finds without walking the whole stem. True when the
-/// statement had that form.
-bool RewriteGreatestUnderStem(Tokens& tokens, const Scope& scope, const Target& target);
+/// in descending order of c, which an index finds without walking the whole stem.
+void RewriteGreatestUnderStem(Tokens& tokens, const Scope& scope, const Target& target);
 /// `left(c,n)='stem'` with a stem of n characters becomes a range of c.
 void RewriteStems(Tokens& tokens, const Scope& scope, const Target& target);
 

@@ -103,6 +103,7 @@ data::Recordset OdbcSession::Query(std::string_view statement) {
   const dialect::Translation translation = Translate(statement);
   if (translation.text.empty()) throw DataError("Command text was not set for the command object");
   if (translation.added) {
+    schema_.Forget();  // another session may have added it meanwhile
     const auto& [table, column] = *translation.added;
     if (schema_.TypeOf(table, column) != dialect::ColumnType::Unknown) return {{}, {}};
     schema_.Forget();

@@ -70,6 +70,7 @@ void SqliteSession::Execute(std::string_view statement) { Query(statement); }
 data::Recordset SqliteSession::Query(std::string_view statement) {
   const dialect::Translation translation = Translate(statement);
   if (translation.added) {
+    schema_->Forget();  // another process may have added it meanwhile
     const auto& [table, column] = *translation.added;
     if (schema_->TypeOf(table, column) != dialect::ColumnType::Unknown) return {{}, {}};
     schema_->Forget();

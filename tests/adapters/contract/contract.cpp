@@ -221,6 +221,13 @@ TEST_P(SessionContract, TakesAnAddedColumnThatIsThereAsDone) {
   EXPECT_EQ(Column("select fExtra from tAccountDetail"), "7");
 }
 
+TEST_P(SessionContract, TakesAColumnThatAnotherSessionAddedAsDone) {
+  AddEntry(5, "03/15/2003", "A1");
+  database->Open()->Execute("AlTER TABLE tAccountDetail add Column [fExtra] long");
+  Do("AlTER TABLE tAccountDetail add Column [fExtra] long");
+  EXPECT_EQ(Column("select count(*) from tAccountDetail Where fExtra>0"), "0");
+}
+
 TEST_P(SessionContract, ReadsNumbersAsNumbersToTheLastBit) {
   for (const char* amount : {"0.1", "-0.07", "123456789012.34", "0", "214044268.12"}) {
     AddEntry(5, "03/15/2003", "A");

@@ -71,9 +71,9 @@ TEST_F(Plans, ReadTheWholeLedgerOnceAndLookEveryRecordUpByItsId) {
 }
 
 TEST_F(Plans, FindTheLedgerOfEveryoneBetweenTwoDatesThroughTheIndex) {
-  ExpectServedBy(Ledger("cards", "b.fType1=0 and b.fDate>=#03/01/2024# And b.fDate<=#03/31/2024#",
-                        kByCode),
-                 "SEARCH b USING INDEX iLedgerDate (fDate>? AND fDate<?)");
+  ExpectServedBy(
+      Ledger("cards", "b.fType1=0 and b.fDate>=#03/01/2024# And b.fDate<=#03/31/2024#", kByCode),
+      "SEARCH b USING INDEX iLedgerDate (fDate>? AND fDate<?)");
 }
 
 TEST_F(Plans, FindTheNextNumberFromTheEndOfItsStem) {
