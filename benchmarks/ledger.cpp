@@ -16,7 +16,7 @@ void LoadLedgerOfAll(benchmark::State& state, int32_t customers, int32_t entries
   const std::string sql = world.Translated(kLedgerStatement);
   const std::string condition = LedgerCondition(form);
   Compare(
-      state, 1.5, [&] { world.Step(sql); }, [&] { LoadLedger(form, condition); });
+      state, 1.5, [&] { world.engine.Step(sql); }, [&] { LoadLedger(form, condition); });
   form.Grid2.SetRowCount(0);
   const size_t before = HeapBytes();
   LoadLedger(form, condition);
@@ -44,7 +44,7 @@ void RowChange(benchmark::State& state, int32_t customers, int32_t entries) {
   form.UserCell(form.Grid1, 2, row);
   const std::string sql = world.Translated(kLedgerStatement);
   Compare(
-      state, 1.5, [&] { world.Step(sql); },
+      state, 1.5, [&] { world.engine.Step(sql); },
       [&] {
         form.Grid1.SetActive(2, other);  // the program's: loads nothing
         form.UserCell(form.Grid1, 2, row);

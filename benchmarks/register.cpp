@@ -19,8 +19,8 @@ void LoadRegisterOfCustomers(benchmark::State& state, int32_t customers) {
   Compare(
       state, 1.5,
       [&] {
-        world.Step(customers_sql);
-        world.Step(ledger_sql);
+        world.engine.Step(customers_sql);
+        world.engine.Step(ledger_sql);
       },
       [&] { LoadRegister(form, form.registerCondition); });
   form.Grid1.SetRowCount(0);

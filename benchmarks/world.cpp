@@ -58,44 +58,16 @@ fs::path DataFolder(int32_t customers, int32_t entries) {
   return folder;
 }
 
-World::World(int32_t customers, int32_t entries) {
-  const fs::path folder = DataFolder(customers, entries);
-  engine_ = Open(folder, false);
-  ResetShared();
-  headless_.Install(connections_);
-  // Programs that run a statement a million times must not keep them all.
-  Around().statement_watcher = [this](data::StatementKind, std::string_view statement) {
-    ran_.emplace_back(statement);
-    if (ran_.size() > 20) ran_.pop_front();
-  };
-  headless_.clock.Set(basic::Date::FromYmd(2025, 12, 31));
-  control_.InitProperties();
-  control_.setUserPath(folder.string());
-  control_.setMyModel("11111111111");
-  control_.setUserName("admin");
-  control_.setZgName("admin");
-  control_.refresh(0, 0);
-  if (!control_.Form()) throw std::runtime_error("the main form did not open");
-  Form().UserClick(Form().OptSelect(0));
+Engine::Engine(const fs::path& folder) : session_(Open(folder, false)) {}
+
+std::string Engine::Translate(std::string_view statement) const {
+  return session_->Translate(statement).text;
 }
 
-World::~World() {
-  Form().UserClose();
-  ResetShared();
-  Around() = {};
-}
-
-std::string World::Translated(std::string_view start) const {
-  for (auto statement = ran_.rbegin(); statement != ran_.rend(); ++statement) {
-    if (statement->starts_with(start)) return engine_->Translate(*statement).text;
-  }
-  throw std::runtime_error("no statement that begins with " + std::string(start));
-}
-
-void World::Step(const std::string& sql) {
+void Engine::Step(const std::string& sql) {
   sqlite3_stmt* statement = nullptr;
-  if (sqlite3_prepare_v2(engine_->Handle(), sql.c_str(), -1, &statement, nullptr) != SQLITE_OK) {
-    throw std::runtime_error(sqlite3_errmsg(engine_->Handle()));
+  if (sqlite3_prepare_v2(session_->Handle(), sql.c_str(), -1, &statement, nullptr) != SQLITE_OK) {
+    throw std::runtime_error(sqlite3_errmsg(session_->Handle()));
   }
   const int columns = sqlite3_column_count(statement);
   while (sqlite3_step(statement) == SQLITE_ROW) {
@@ -115,6 +87,42 @@ void World::Step(const std::string& sql) {
     }
   }
   sqlite3_finalize(statement);
+}
+
+void AllowEverything(qvJxc_Zj& control, const std::string& folder) {
+  control.InitProperties();
+  control.setUserPath(folder);
+  control.setMyModel("11111111111");
+  control.setUserName("admin");
+  control.setZgName("admin");
+}
+
+World::World(int32_t customers, int32_t entries) : engine(DataFolder(customers, entries)) {
+  ResetShared();
+  headless_.Install(connections_);
+  // Programs that run a statement a million times must not keep them all.
+  Around().statement_watcher = [this](data::StatementKind, std::string_view statement) {
+    ran_.emplace_back(statement);
+    if (ran_.size() > 20) ran_.pop_front();
+  };
+  headless_.clock.Set(basic::Date::FromYmd(2025, 12, 31));
+  AllowEverything(control_, DataFolder(customers, entries).string());
+  control_.refresh(0, 0);
+  if (!control_.Form()) throw std::runtime_error("the main form did not open");
+  Form().UserClick(Form().OptSelect(0));
+}
+
+World::~World() {
+  Form().UserClose();
+  ResetShared();
+  Around() = {};
+}
+
+std::string World::Translated(std::string_view start) const {
+  for (auto statement = ran_.rbegin(); statement != ran_.rend(); ++statement) {
+    if (statement->starts_with(start)) return engine.Translate(*statement);
+  }
+  throw std::runtime_error("no statement that begins with " + std::string(start));
 }
 
 size_t HeapBytes() {

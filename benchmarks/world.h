@@ -22,6 +22,22 @@ std::filesystem::path DataFolder(int32_t customers, int32_t entries);
 /// The name of the customer with the 1,000 entries.
 inline constexpr const char* kBenchCustomer = "Bench";
 
+/// The engine alone on such a folder.
+class Engine {
+ public:
+  explicit Engine(const std::filesystem::path& folder);
+  /// A statement of the module in the engine's own language.
+  std::string Translate(std::string_view statement) const;
+  /// Steps a statement in the engine's own language to its end and reads every column.
+  void Step(const std::string& sql);
+
+ private:
+  std::unique_ptr<SqliteSession> session_;
+};
+
+/// Gives a control the data folder and a user who may do everything.
+void AllowEverything(qvJxc_Zj& control, const std::string& folder);
+
 /// A control opened without a window on such a folder, in customers mode, showing all entries, and
 /// a second connection to measure the engine alone.
 class World {
@@ -32,19 +48,16 @@ class World {
   World& operator=(const World&) = delete;
 
   frmZj& Form() { return *control_.Form(); }
-  /// The last statement that answered rows and begins with `start` as the module built it, in the
-  /// engine's own language.
+  /// The last statement that begins with `start` as the module built it, in the engine's own
+  /// language.
   std::string Translated(std::string_view start) const;
-  /// Steps a statement in the engine's own language to its end and reads every column.
-  void Step(const std::string& sql);
-  SqliteSession& Engine() { return *engine_; }
+  Engine engine;
 
  private:
   Headless headless_;
   SuiteConnections connections_;
   std::deque<std::string> ran_;  ///< the last statements, as the module built them
   qvJxc_Zj control_;
-  std::unique_ptr<SqliteSession> engine_;
 };
 
 /// Bytes that the process holds on its heap.

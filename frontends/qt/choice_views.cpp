@@ -183,14 +183,40 @@ void ListView::ShowItems() {
   native_->setCurrentRow(list_.ListIndex());
 }
 
+namespace {
+
+/// A date field that makes its calendar when it is first dropped: a calendar takes longer to make
+/// than all the other fields of a screen together.
+class DateEdit : public QDateEdit {
+ public:
+  using QDateEdit::QDateEdit;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    if (!calendar_) MakeCalendar();
+    QDateEdit::mousePressEvent(event);
+  }
+
+ private:
+  void MakeCalendar() {
+    calendar_ = calendarWidget();
+    DressCalendar(*calendar_);
+    calendar_->setStyle(style());
+    for (QWidget* part : calendar_->findChildren<QWidget*>()) part->setStyle(style());
+  }
+
+  QCalendarWidget* calendar_ = nullptr;
+};
+
+}  // namespace
+
 DateView::DateView(FormWindow& window, ui::DatePicker& picker, QWidget* parent)
-    : ControlView(window, picker), picker_(picker), native_(new QDateEdit(parent)) {
+    : ControlView(window, picker), picker_(picker), native_(new DateEdit(parent)) {
   native_->setDisplayFormat("yyyy-MM-dd");
   native_->setCalendarPopup(true);
   native_->setKeyboardTracking(false);  // a date half typed is no date
   native_->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
   native_->setLocale(QLocale(QLocale::Chinese));
-  DressCalendar(*native_->calendarWidget());
   Adopt(native_, native_->findChild<QLineEdit*>());
   connect(native_, &QDateEdit::userDateChanged, this, [this](QDate date) {
     if (!Live() || !date.isValid()) return;

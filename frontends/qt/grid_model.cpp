@@ -1,5 +1,7 @@
 #include "frontends/qt/grid_model.h"
 
+#include <QFontMetrics>
+
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 
@@ -13,6 +15,7 @@ void GridModel::Refresh() {
   if (resized) beginResetModel();
   rows_ = grid_->RowCount();
   columns_ = grid_->ColumnCount();
+  row_number_size_ = HeaderSize(QString::number(rows_));
   numeric_.assign(static_cast<size_t>(columns_), false);
   for (int column = 0; column < columns_; ++column) {
     const Column::Kind kind = grid_->Stored(column + 1).GetKind();
@@ -40,6 +43,17 @@ void GridModel::Detach() {
 void GridModel::SetPalette(const QPalette& palette, const QColor& negative) {
   palette_ = palette;
   negative_ = negative;
+}
+
+void GridModel::SetHeaderLook(const QFont& font, int margin) {
+  header_font_ = font;
+  header_margin_ = margin;
+}
+
+QSize GridModel::HeaderSize(const QString& text) const {
+  const QFontMetrics metrics(header_font_);
+  return {metrics.horizontalAdvance(text) + 2 * header_margin_,
+          metrics.height() + 2 * header_margin_};
 }
 
 bool GridModel::IsNumeric(int column) const { return numeric_.at(static_cast<size_t>(column)); }
@@ -99,6 +113,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation == Qt::Vertical) {
     if (role == Qt::DisplayRole) return section + 1;
+    if (role == Qt::SizeHintRole) return row_number_size_;
     if (role == Qt::ForegroundRole)
       return QBrush(palette_.color(QPalette::Disabled, QPalette::Text));
     if (role == Qt::TextAlignmentRole)
@@ -106,6 +121,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     return {};
   }
   if (role == Qt::DisplayRole) return Header(section);
+  if (role == Qt::SizeHintRole) return HeaderSize(Header(section));
   if (role == Qt::TextAlignmentRole) {
     const bool numeric = section < columns_ && IsNumeric(section);
     return QVariant::fromValue(Qt::AlignVCenter | (numeric ? Qt::AlignRight : Qt::AlignLeft));

@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 #include <QColor>
+#include <QFont>
 #include <QPalette>
 #include <vector>
 
@@ -21,6 +22,9 @@ class GridModel : public QAbstractTableModel {
   void Detach();
   /// The colours that cells get from the theme.
   void SetPalette(const QPalette& palette, const QColor& negative);
+  /// Font of the headers and the pixels around their texts. With them the model answers the sizes
+  /// that the views ask for again and again, some hundred header sections at a time.
+  void SetHeaderLook(const QFont& font, int margin);
 
   /// True for a column of numbers.
   bool IsNumeric(int column) const;
@@ -37,6 +41,7 @@ class GridModel : public QAbstractTableModel {
 
  private:
   bool Inside(int row, int column) const;
+  QSize HeaderSize(const QString& text) const;
 
   ui::Grid* grid_;
   int rows_ = 0;  // as the views were last told; the grid itself may be ahead
@@ -44,6 +49,9 @@ class GridModel : public QAbstractTableModel {
   std::vector<bool> numeric_;
   QPalette palette_;
   QColor negative_;
+  QFont header_font_;
+  int header_margin_ = 0;
+  QSize row_number_size_;  // of the greatest one
 };
 
 }  // namespace qvzj::qt

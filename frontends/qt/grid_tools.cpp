@@ -35,9 +35,6 @@ QString PlainHeader(const ui::Grid& grid, int column) {
 
 GridTools::GridTools(GridView& view) : view_(view), summary_(new QLabel(view.Table())) {
   GridTable* table = view_.Table();
-  find_bar_ = new FindBar(
-      table, Texts(), [this](const QString& text, bool back) { return Find(text, back); },
-      [this] { view_.Table()->setFocus(Qt::OtherFocusReason); });
   summary_->setAutoFillBackground(true);
   summary_->setMargin(4);
   summary_->setFrameShape(QFrame::StyledPanel);
@@ -48,6 +45,18 @@ GridTools::GridTools(GridView& view) : view_(view), summary_(new QLabel(view.Tab
           [this] { ShowSummary(); });
   connect(table, &QWidget::customContextMenuRequested, this,
           [this](const QPoint& at) { ShowMenu(at); });
+}
+
+FindBar& GridTools::Bar() {
+  if (!find_bar_) {
+    find_bar_ = new FindBar(
+        view_.Table(), Texts(), [this](const QString& text, bool back) { return Find(text, back); },
+        [this] { view_.Table()->setFocus(Qt::OtherFocusReason); });
+    // What is made with the window gets the window's style there; this comes later.
+    find_bar_->setStyle(view_.Table()->style());
+    for (QWidget* part : find_bar_->findChildren<QWidget*>()) part->setStyle(find_bar_->style());
+  }
+  return *find_bar_;
 }
 
 const NativeTexts& GridTools::Texts() const {
@@ -61,7 +70,7 @@ bool GridTools::HandleKey(const QKeyEvent& event) {
   if (event.type() == QEvent::KeyPress) {
     if (copies) Copy();
     if (finds) OpenFind();
-    if (again) find_bar_->Next();
+    if (again) Bar().Next();
   }
   return copies || finds || again;
 }
@@ -152,7 +161,7 @@ bool GridTools::Find(const QString& text, bool backwards) {
 
 void GridTools::OpenFind() {
   ui::Grid& grid = view_.GetGrid();
-  if (view_.Window().Act([&] { return grid.GetForm().UserFocus(grid); })) find_bar_->Open();
+  if (view_.Window().Act([&] { return grid.GetForm().UserFocus(grid); })) Bar().Open();
 }
 
 void GridTools::Export() { ExportGrid(view_.Window(), view_.GetGrid(), Texts()); }
@@ -185,7 +194,7 @@ void GridTools::ShowMenu(const QPoint& at) {
   };
   add(texts.copy_rows, filled, QKeySequence::Copy, [this] { Copy(); });
   add(texts.find, filled, QKeySequence::Find, [this] { OpenFind(); });
-  add(texts.find_next, filled, QKeySequence(Qt::Key_F3), [this] { find_bar_->Next(); });
+  add(texts.find_next, filled, QKeySequence(Qt::Key_F3), [this] { Bar().Next(); });
   menu->addSeparator();
   if (Around().exporter != nullptr) add(texts.export_grid, filled, {}, [this] { Export(); });
   if (grid.offers.print != nullptr) {

@@ -35,6 +35,8 @@ class GridTools : public QObject {
   void ShowSummary();
   void Copy();
   void OpenFind();
+  /// The bar, made when it is first asked for.
+  FindBar& Bar();
   void Export();
   void Print();
   /// 0-based columns from left to right as the user sees them.
@@ -44,7 +46,7 @@ class GridTools : public QObject {
 
   GridView& view_;
   QLabel* summary_;
-  FindBar* find_bar_;
+  FindBar* find_bar_ = nullptr;
 };
 
 }  // namespace qvzj::qt

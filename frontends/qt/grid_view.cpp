@@ -145,6 +145,8 @@ void GridView::Refresh() {
   if (contents_stale_) {
     contents_stale_ = false;
     model_->SetPalette(table_->palette(), ColorsFor(table_->palette()).negative);
+    model_->SetHeaderLook(table_->horizontalHeader()->font(),
+                          table_->style()->pixelMetric(QStyle::PM_HeaderMargin));
     model_->Refresh();
     ShowColumns();
     ShowSortIndicator();

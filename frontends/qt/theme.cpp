@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QPointer>
+#include <optional>
 
 #include "frontends/qt/calm_style.h"
 
@@ -73,7 +74,11 @@ QPalette ThemePalette(Appearance appearance) {
   return PaletteOf(appearance == Appearance::Dark ? kDark : kLight);
 }
 
-QFont ThemeFont(bool traditional) {
+namespace {
+
+/// The first of the wanted families that is installed and whose digits stand under each other; ""
+/// when there is none. Every family looked at is a font file to load, so the search ends there.
+QString ThemeFamily(bool traditional) {
   const QStringList simplified_families{"Noto Sans CJK SC", "Source Han Sans SC",
                                         "Microsoft YaHei UI", "PingFang SC"};
   const QStringList traditional_families{"Noto Sans CJK TC", "Source Han Sans TC",
@@ -83,12 +88,20 @@ QFont ThemeFont(bool traditional) {
   wanted << "WenQuanYi Micro Hei"
          << "DejaVu Sans";
   const QStringList installed = QFontDatabase::families();
-  QStringList families;
   for (const QString& family : wanted) {
-    if (installed.contains(family) && DigitsAlign(QFont(family, 9))) families << family;
+    if (installed.contains(family) && DigitsAlign(QFont(family, 9))) return family;
   }
+  return {};
+}
+
+}  // namespace
+
+QFont ThemeFont(bool traditional) {
+  static std::optional<QString> families[2];
+  std::optional<QString>& family = families[traditional ? 1 : 0];
+  if (!family) family = ThemeFamily(traditional);
   QFont font = QGuiApplication::font();
-  if (!families.isEmpty()) font.setFamilies(families);
+  if (!family->isEmpty()) font.setFamily(*family);
   font.setPointSizeF(9);
   font.setStyleHint(QFont::SansSerif);
   return font;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QCalendarWidget>
 #include <QClipboard>
 #include <QInputMethodEvent>
 
@@ -31,6 +32,17 @@ class Editing : public ::testing::Test {
   WindowWorld world_;
   frmZj& form_;
 };
+
+TEST_F(Editing, DropsACalendarThatIsMadeWhenItIsFirstAskedFor) {
+  auto& edit = world_.Native<QDateEdit>(form_.dtpAcntDate);
+  EXPECT_EQ(edit.findChild<QCalendarWidget*>(), nullptr);
+  QTest::mouseClick(&edit, Qt::LeftButton, {}, QPoint(edit.width() - 6, edit.height() / 2));
+  auto* calendar = edit.findChild<QCalendarWidget*>();
+  ASSERT_NE(calendar, nullptr);
+  EXPECT_TRUE(calendar->isVisible());
+  EXPECT_EQ(calendar->verticalHeaderFormat(), QCalendarWidget::NoVerticalHeader);
+  calendar->parentWidget()->close();
+}
 
 TEST_F(Editing, TakesTypedTextIntoTheForm) {
   QLineEdit& line = Enter(form_.txtAcnt2(6));
