@@ -120,6 +120,20 @@ TEST_F(StartUp, AddsTheLinkToAnOlderLedgerOnceAndOnlyForCustomers) {
   EXPECT_FALSE(Ran(upgrade));
 }
 
+TEST_F(StartUp, OpensALedgerWithMoreLinksThanACountCanSay) {
+  world.Sql(
+      "With Recursive n(i) As (Select 1 Union All Select i+1 From n Where i<32768)"
+      " Insert Into tAccountDetail (fDate,fCompID,fType1,fType2,fAcntNo,fInit,fMoneyA,fMoneyB,"
+      "fChecker,fID2) Select '2024-03-01',1,0,1,i,0,1,0,'',1 From n;");
+  frmZj& form = world.Open(0);
+  EXPECT_TRUE(Ran("AlTER TABLE tAccountDetail add Column [fID2] long"));
+  EXPECT_TRUE(world.headless.boxes.TakeErrors().empty());
+  form.UserClick(form.OptSelect(0));
+  EXPECT_EQ(form.Grid2.RowCount(), 32768);
+  EXPECT_TRUE(form.UserCell(form.Grid2, 1, 32768));
+  EXPECT_EQ(form.txtTotal(0).Text(), "32768.00");
+}
+
 TEST_F(StartUp, ReportsAFailedStatementAndDoesNotOpen) {
   world.Sql("Drop Table Moneys;");
   world.control.refresh(0, 0);
