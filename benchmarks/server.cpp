@@ -174,7 +174,7 @@ class Bench {
     const std::string database = server_.MakeDatabase();
     const ServerLogin login{server_.Address(), test::PrivatePostgres::kUser,
                             test::PrivatePostgres::kPassword, database};
-    Fill(OpenNativeServer(login, {}), size);
+    Fill(OpenNative(1, login, {}), size);
     const auto session = OpenServer(login, {});
     for (const Statement& statement : Statements()) {
       const auto work = [&] {

@@ -7,6 +7,7 @@
 #include <iostream>
 #include <stdexcept>
 
+#include "adapters/sqlite/sqlite_session.h"
 #include "services/context.h"
 #include "suite/demo.h"
 #include "suite/schema.h"

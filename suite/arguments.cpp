@@ -7,9 +7,9 @@
 namespace qvzj {
 
 Arguments::Arguments(const std::vector<std::string>& words,
-                     std::initializer_list<std::string_view> options,
-                     std::initializer_list<std::string_view> switches) {
-  const auto listed = [](std::initializer_list<std::string_view> list, const std::string& name) {
+                     const std::vector<std::string_view>& options,
+                     const std::vector<std::string_view>& switches) {
+  const auto listed = [](const std::vector<std::string_view>& list, const std::string& name) {
     return std::find(list.begin(), list.end(), name) != list.end();
   };
   for (size_t i = 0; i < words.size(); ++i) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -23,8 +22,8 @@ class Arguments {
  public:
   /// `options` take a value, `switches` none. Throws UsageError for any other option and for a
   /// value that is missing. After "--" every word is a plain one.
-  Arguments(const std::vector<std::string>& words, std::initializer_list<std::string_view> options,
-            std::initializer_list<std::string_view> switches = {});
+  Arguments(const std::vector<std::string>& words, const std::vector<std::string_view>& options,
+            const std::vector<std::string_view>& switches = {});
 
   const std::vector<std::string>& Words() const { return words_; }
   bool Has(std::string_view option) const;

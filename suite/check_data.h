@@ -6,7 +6,9 @@
 
 namespace qvzj {
 
-class SqliteSession;
+namespace data {
+class Store;
+}
 
 /// Kinds of faults that data can have, in the order in which they are looked for.
 enum class FaultKind {
@@ -30,7 +32,8 @@ struct Fault {
 };
 
 /// Looks for every fault of the data and reports each; answers how many there are. Nothing is
-/// changed. Throws DataError when a table is missing or the engine fails.
-int64_t CheckData(SqliteSession& session, const std::function<void(const Fault&)>& report);
+/// changed. Throws DataError when a table is missing or the engine fails. Knows SQLite and
+/// PostgreSQL.
+int64_t CheckData(data::Store& store, const std::function<void(const Fault&)>& report);
 
 }  // namespace qvzj

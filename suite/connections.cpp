@@ -52,9 +52,13 @@ void SuiteConnections::Open(uint8_t kind, data::Connection& connection, ServerLo
 
 NativeStatements OpenNative(uint8_t kind, const ServerLogin& login,
                             const ConnectionOptions& options) {
-  if (kind != 0) return OpenNativeServer(login, options);
-  const std::shared_ptr<SqliteSession> session = OpenFolder(login.address, options);
-  return [session](std::string_view sql) { return session->Native(sql); };
+  std::shared_ptr<data::Store> store;
+  if (kind == 0) {
+    store = OpenFolder(login.address, options);
+  } else {
+    store = OpenServer(login, options);
+  }
+  return [store](std::string_view sql) { return store->Native(sql); };
 }
 
 }  // namespace qvzj

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/data/connection.h"
+#include "platform/data/store.h"
 #include "suite/server_address.h"
 
 namespace qvzj {
@@ -60,9 +60,6 @@ NativeStatements OpenNative(uint8_t kind, const ServerLogin& login,
                             const ConnectionOptions& options);
 
 /// A session on a server. Throws DataError; its text holds no credentials.
-std::unique_ptr<data::Session> OpenServer(const ServerLogin& login,
-                                          const ConnectionOptions& options);
-/// Statements in the language of a server, on a session of their own. Throws DataError likewise.
-NativeStatements OpenNativeServer(const ServerLogin& login, const ConnectionOptions& options);
+std::unique_ptr<data::Store> OpenServer(const ServerLogin& login, const ConnectionOptions& options);
 
 }  // namespace qvzj

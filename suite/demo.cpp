@@ -4,9 +4,9 @@
 #include <string>
 
 #include "platform/basic/errors.h"
+#include "platform/data/store.h"
 #include "suite/demo_ledger.h"
 #include "suite/demo_names.h"
-#include "suite/row_writer.h"
 
 namespace qvzj {
 namespace {
@@ -15,8 +15,8 @@ constexpr int32_t kStaff = 12;
 
 class DemoMaker {
  public:
-  DemoMaker(SqliteSession& session, const DemoOptions& options)
-      : session_(session), options_(options), dice_(options.seed) {}
+  DemoMaker(data::Transaction& transaction, const DemoOptions& options)
+      : transaction_(transaction), options_(options), dice_(options.seed) {}
 
   void Run(const RowProgress& progress) {
     WriteCurrencies();
@@ -26,13 +26,13 @@ class DemoMaker {
     WriteAccounts();
     WriteCustomers();
     WriteVisitsAndOrders();
-    WriteDemoLedger(session_, options_, registers_, dice_, progress);
+    WriteDemoLedger(transaction_, options_, registers_, dice_, progress);
   }
 
  private:
   /// Lists show currencies by falling type, so the local one has the highest.
   void WriteCurrencies() {
-    RowWriter table(session_, "Moneys", {"MoneyCode", "MoneyRate", "MoneyType"});
+    data::RowWriter& table = transaction_.Into("Moneys", {"MoneyCode", "MoneyRate", "MoneyType"});
     auto type = static_cast<int64_t>(std::size(kDemoCurrencies));
     for (const DemoCurrency& currency : kDemoCurrencies) {
       table.Add({currency.code, currency.rate, type--});
@@ -40,8 +40,8 @@ class DemoMaker {
   }
 
   void WriteStaff() {
-    RowWriter employees(session_, "Employees", {"employee", "employCode"});
-    RowWriter personnel(session_, "tRsBasic", {"fName"});
+    data::RowWriter& employees = transaction_.Into("Employees", {"employee", "employCode"});
+    data::RowWriter& personnel = transaction_.Into("tRsBasic", {"fName"});
     for (int32_t i = 1; i <= kStaff; ++i) {
       registers_.staff.push_back(names_.Person());
       employees.Add({registers_.staff.back(), Numbered("", i, 4)});
@@ -50,7 +50,8 @@ class DemoMaker {
   }
 
   void WriteTemplates() {
-    RowWriter table(session_, "tJXC_InvSet", {"fSetNo", "fSetNoUse_", "fRowID", "fSetAutoNo"});
+    data::RowWriter& table =
+        transaction_.Into("tJXC_InvSet", {"fSetNo", "fSetNoUse_", "fRowID", "fSetAutoNo"});
     const std::string digits(static_cast<size_t>(DemoNumberWidth(options_)), 'X');
     table.Add({int64_t{51}, int64_t{1}, int64_t{1}, "PZyymmXXXX"});  // switched off
     table.Add({int64_t{51}, int64_t{0}, int64_t{2}, "yyyymmPZ" + digits});
@@ -69,9 +70,9 @@ class DemoMaker {
         {23, "mnuCardPlan", "拜访计划", "拜訪計劃"},   {24, "mnuCardPrint", "客户打印", "客戶列印"},
         {25, "mnuZjComp", "客户往来帐", "客戶往來帳"}, {26, "mnuZjAcnt", "资金帐户", "資金帳戶"},
     };
-    RowWriter table(session_, "tSysFunc",
-                    {"SerialNo", "model_Name", "Model_Name_0", "Model_Name_1", "SecondPass",
-                     "password", "NoUse_"});
+    data::RowWriter& table =
+        transaction_.Into("tSysFunc", {"SerialNo", "model_Name", "Model_Name_0", "Model_Name_1",
+                                       "SecondPass", "password", "NoUse_"});
     for (const Function& f : kFunctions) {
       table.Add({f.number, f.name, f.simplified, f.traditional, int64_t{0}, "", int64_t{0}});
     }
@@ -93,9 +94,9 @@ class DemoMaker {
         {"中国银行美元户", "中国银行深圳分行", 1},
         {"中国银行港币户", "中国银行深圳分行", 2},
     };
-    RowWriter table(session_, "tAccounts",
-                    {"fID", "CompCode", "compname", "name", "fBank", "fAcntID", "others",
-                     "province", "cityname", "postcode", "telphone", "fax", "fType0", "detail"});
+    data::RowWriter& table = transaction_.Into(
+        "tAccounts", {"fID", "CompCode", "compname", "name", "fBank", "fAcntID", "others",
+                      "province", "cityname", "postcode", "telphone", "fax", "fType0", "detail"});
     for (int32_t i = 0; i < options_.accounts; ++i) {
       const auto& account = kAccounts[static_cast<size_t>(i) % std::size(kAccounts)];
       const auto round = i / static_cast<int32_t>(std::size(kAccounts));
@@ -110,9 +111,9 @@ class DemoMaker {
   }
 
   void WriteCustomers() {
-    RowWriter table(session_, "cards",
-                    {"fID", "CompCode", "compname", "name", "fBank", "fAcntID", "others",
-                     "province", "cityname", "postcode", "telphone", "fax", "fType0", "detail"});
+    data::RowWriter& table = transaction_.Into(
+        "cards", {"fID", "CompCode", "compname", "name", "fBank", "fAcntID", "others", "province",
+                  "cityname", "postcode", "telphone", "fax", "fType0", "detail"});
     const int width = std::max(4, static_cast<int>(std::to_string(options_.customers).size()));
     registers_.customers.reserve(static_cast<size_t>(options_.customers));
     for (int32_t i = 1; i <= options_.customers; ++i) {
@@ -135,21 +136,22 @@ class DemoMaker {
   }
 
   void WriteVisitsAndOrders() {
-    RowWriter visits(session_, "tTaskList", {"taskID", "fType", "fDate", "fUser", "fBrief"});
-    RowWriter orders(session_, "tJXC_CkHt01", {"fKhID"});
+    data::RowWriter& visits =
+        transaction_.Into("tTaskList", {"taskID", "fType", "fDate", "fUser", "fBrief"});
+    data::RowWriter& orders = transaction_.Into("tJXC_CkHt01", {"fKhID"});
     const int32_t few = std::min(options_.customers, 2000);
     for (int32_t id = 1; id <= few; id += 10) WriteVisit(visits, id);
     for (int32_t id = 2; id <= few; id += 20) orders.Add({int64_t{id}});
   }
 
-  void WriteVisit(RowWriter& visits, int32_t customer) {
+  void WriteVisit(data::RowWriter& visits, int32_t customer) {
     static constexpr const char* kSubjects[] = {"上门拜访", "电话回访", "催收货款", "洽谈新订单"};
     const basic::Date day{options_.until.serial - dice_.Between(1, 180)};
     visits.Add({int64_t{customer}, int64_t{1}, day,
                 dice_.Pick(std::span<const std::string>(registers_.staff)), dice_.Pick(kSubjects)});
   }
 
-  SqliteSession& session_;
+  data::Transaction& transaction_;
   const DemoOptions& options_;
   Dice dice_;
   DemoNames names_{dice_};
@@ -164,20 +166,20 @@ void CheckRange(const char* what, int64_t value, int64_t low, int64_t high) {
 
 }  // namespace
 
-void MakeDemoData(SqliteSession& session, const DemoOptions& options, const RowProgress& progress) {
+void MakeDemoData(data::Store& store, const DemoOptions& options, const RowProgress& progress) {
   CheckRange("customers", options.customers, 1, 10'000'000);
   CheckRange("accounts", options.accounts, 1, 1000);
   CheckRange("entries", options.entries, 0, 100'000'000);
   CheckRange("years", options.years, 1, 50);
   for (const char* table : {"cards", "tAccounts", "tAccountDetail"}) {
-    if (CountOf(session, table) > 0) {
+    if (data::CountOf(store, table) > 0) {
       throw Error(std::string("The table ") + table +
                   " holds rows already; demo data goes only "
                   "into an empty database");
     }
   }
-  SqliteTransaction transaction(session);
-  DemoMaker(session, options).Run(progress);
+  data::Transaction transaction(store);
+  DemoMaker(transaction, options).Run(progress);
   transaction.Commit();
 }
 

@@ -7,7 +7,9 @@
 
 namespace qvzj {
 
-class SqliteSession;
+namespace data {
+class Store;
+}
 
 /// How much demo data is made. The same options give the same rows on every machine.
 struct DemoOptions {
@@ -28,6 +30,6 @@ using RowProgress = std::function<void(int64_t done, int64_t all)>;
 /// is written as a whole or not at all. Throws Error when the register or the ledger holds rows
 /// already or an option is out of range (customers 1 to 10,000,000, accounts 1 to 1,000, years 1 to
 /// 50, entries 0 to 100,000,000), DataError when the engine refuses.
-void MakeDemoData(SqliteSession& session, const DemoOptions& options, const RowProgress& progress);
+void MakeDemoData(data::Store& store, const DemoOptions& options, const RowProgress& progress);
 
 }  // namespace qvzj

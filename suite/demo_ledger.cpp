@@ -7,7 +7,6 @@
 #include "adapters/icu/ansi_codec.h"
 #include "suite/counter_brief.h"
 #include "suite/demo_names.h"
-#include "suite/row_writer.h"
 
 namespace qvzj {
 namespace {
@@ -43,19 +42,19 @@ struct Entry {
 
 class LedgerMaker {
  public:
-  LedgerMaker(SqliteSession& session, const DemoOptions& options, const DemoRegisters& registers,
-              Dice& dice, const RowProgress& progress)
+  LedgerMaker(data::Transaction& transaction, const DemoOptions& options,
+              const DemoRegisters& registers, Dice& dice, const RowProgress& progress)
       : options_(options),
         registers_(registers),
         dice_(dice),
         progress_(progress),
         width_(DemoNumberWidth(options)),
-        ledger_(session, "tAccountDetail",
-                {"fID", "fDate", "fCompID", "fType1", "fType2", "fAcntNo", "fInit", "fMoneyA",
-                 "fMoneyB", "fBrief", "fInvID", "fOrderID", "fUser", "fDoneman", "fChecker", "fID2",
-                 "fMoneyCode", "fMoneyRate"}),
-        documents_(session, "tJXC_CkDj01", {"fKhID", "fInvNo", "fInvSHR"}),
-        archive_(session, "tJXC_CkDj_Bak01", {"fKhID", "fInvNo", "fInvSHR"}),
+        ledger_(transaction.Into("tAccountDetail",
+                                 {"fID", "fDate", "fCompID", "fType1", "fType2", "fAcntNo", "fInit",
+                                  "fMoneyA", "fMoneyB", "fBrief", "fInvID", "fOrderID", "fUser",
+                                  "fDoneman", "fChecker", "fID2", "fMoneyCode", "fMoneyRate"})),
+        documents_(transaction.Into("tJXC_CkDj01", {"fKhID", "fInvNo", "fInvSHR"})),
+        archive_(transaction.Into("tJXC_CkDj_Bak01", {"fKhID", "fInvNo", "fInvSHR"})),
         debts_(registers.customers.size() * 2 + 2) {
     for (const DemoAccount& account : registers.accounts) {
       accounts_of_[account.currency].push_back(account.id);
@@ -263,7 +262,7 @@ class LedgerMaker {
     if (documents_written_ >= kMaxDocuments) return;
     ++documents_written_;
     const bool archived = options_.until.serial - entry.date.serial > 365;
-    RowWriter& table = archived ? archive_ : documents_;
+    data::RowWriter& table = archived ? archive_ : documents_;
     table.Add({int64_t{entry.company}, entry.document,
                dice_.Chance(70) ? Someone() : std::string_view{}});
   }
@@ -273,9 +272,9 @@ class LedgerMaker {
   Dice& dice_;
   const RowProgress& progress_;
   const int width_;
-  RowWriter ledger_;
-  RowWriter documents_;
-  RowWriter archive_;
+  data::RowWriter& ledger_;
+  data::RowWriter& documents_;
+  data::RowWriter& archive_;
   IcuAnsiCodec codec_;
   std::vector<basic::Date> workdays_;
   std::vector<int32_t> accounts_of_[std::size(kDemoCurrencies)];
@@ -297,9 +296,10 @@ int DemoNumberWidth(const DemoOptions& options) {
   return width;
 }
 
-void WriteDemoLedger(SqliteSession& session, const DemoOptions& options,
+void WriteDemoLedger(data::Transaction& transaction, const DemoOptions& options,
                      const DemoRegisters& registers, Dice& dice, const RowProgress& progress) {
-  LedgerMaker(session, options, registers, dice, progress).Run();
+  LedgerMaker(transaction, options, registers, dice, progress).Run();
+  transaction.Within().GiveIdsAbove("tAccountDetail", options.entries);
 }
 
 }  // namespace qvzj

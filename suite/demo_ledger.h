@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/data/store.h"
 #include "suite/demo.h"
 #include "suite/dice.h"
 
@@ -39,8 +40,7 @@ struct DemoRegisters {
 int DemoNumberWidth(const DemoOptions& options);
 
 /// Writes the ledger in the order of its days, and warehouse documents for some of its entries.
-/// Runs inside the caller's transaction.
-void WriteDemoLedger(SqliteSession& session, const DemoOptions& options,
+void WriteDemoLedger(data::Transaction& transaction, const DemoOptions& options,
                      const DemoRegisters& registers, Dice& dice, const RowProgress& progress);
 
 }  // namespace qvzj

@@ -1,8 +1,8 @@
 #include "suite/import.h"
 
 #include "adapters/icu/chinese_text.h"
-#include "adapters/sqlite/sqlite_session.h"
 #include "platform/basic/errors.h"
+#include "platform/data/store.h"
 #include "suite/csv.h"
 #include "suite/import_rows.h"
 
@@ -14,7 +14,7 @@ constexpr int64_t kRowsBetweenReports = 1000;
 
 class Import {
  public:
-  Import(SqliteSession& session, std::string_view text, const ImportOptions& options,
+  Import(data::Transaction& transaction, std::string_view text, const ImportOptions& options,
          const std::function<void(const Refusal&)>& refused, ImportReport& report)
       : refused_(refused), report_(report), reader_(text, options.separator) {
     CsvRecord header;
@@ -22,7 +22,7 @@ class Import {
       throw Error("The file is empty; its first row must name the columns");
     if (!header.fault.empty()) throw Error("The first row cannot be read: " + header.fault);
     mapping_.emplace(options.kind, header.fields, options.map, options.set, options.presets);
-    rows_ = MakeImportRows(session, options, *mapping_, report);
+    rows_ = MakeImportRows(transaction, options, *mapping_, report);
   }
 
   void Run(const RowProgress& progress, int64_t size) {
@@ -60,17 +60,19 @@ class Import {
 
 }  // namespace
 
-ImportReport ImportCsv(SqliteSession& session, std::string_view bytes, const ImportOptions& options,
+ImportReport ImportCsv(data::Store& store, std::string_view bytes, const ImportOptions& options,
                        const std::function<void(const Refusal&)>& refused,
                        const RowProgress& progress) {
   ImportReport report;
   const ChineseText text = ReadChineseText(bytes);
   report.encoding = text.encoding;
-  SqliteTransaction transaction(session);
+  data::Transaction transaction(store);
   {
-    Import import(session, text.utf8, options, refused, report);
+    Import import(transaction, text.utf8, options, refused, report);
     import.Run(progress, static_cast<int64_t>(text.utf8.size()));
   }
+  // What is only tried goes to the engine as well.
+  transaction.Flush();
   if (!options.dry_run) transaction.Commit();
   return report;
 }

@@ -12,7 +12,9 @@
 
 namespace qvzj {
 
-class SqliteSession;
+namespace data {
+class Store;
+}
 
 /// What is imported, and how the file is to be understood.
 struct ImportOptions {
@@ -50,7 +52,7 @@ struct ImportReport {
 /// transaction, so that an import that breaks off leaves nothing behind. Values are bound, never
 /// pasted into statements. Throws Error when the file as a whole cannot be understood, DataError
 /// when the engine fails.
-ImportReport ImportCsv(SqliteSession& session, std::string_view bytes, const ImportOptions& options,
+ImportReport ImportCsv(data::Store& store, std::string_view bytes, const ImportOptions& options,
                        const std::function<void(const Refusal&)>& refused,
                        const RowProgress& progress);
 

@@ -5,7 +5,6 @@
 #include "platform/basic/text.h"
 #include "suite/import_rows.h"
 #include "suite/import_texts.h"
-#include "suite/row_writer.h"
 
 namespace qvzj {
 namespace {
@@ -40,8 +39,9 @@ struct Refused {
 /// The records of one register, by id, code and name.
 class Records {
  public:
-  Records(SqliteSession& session, const std::string& table) {
-    const data::Recordset rows = session.Native("select fID,CompCode,compname from " + table);
+  Records(data::Transaction& transaction, const std::string& table) {
+    const data::Recordset rows =
+        transaction.Within().Native("select fID,CompCode,compname from " + table);
     for (size_t row = 0; row < static_cast<size_t>(rows.RecordCount()); ++row) {
       const int32_t id = rows.ColumnAt(0).Integer(row);
       ids_.emplace(id, true);
@@ -85,10 +85,11 @@ struct Currency {
 /// The currency table.
 class Currencies {
  public:
-  explicit Currencies(SqliteSession& session)
-      : writer_(session, "Moneys", {"MoneyCode", "MoneyRate", "MoneyType"}) {
-    const data::Recordset rows =
-        session.Native("select MoneyCode,MoneyRate,MoneyType from Moneys order by MoneyType desc");
+  explicit Currencies(data::Transaction& transaction)
+      : writer_(transaction.Into("Moneys", {"MoneyCode", "MoneyRate", "MoneyType"})) {
+    const data::Recordset rows = transaction.Within().Native(
+        "select MoneyCode,MoneyRate,MoneyType from Moneys order by coalesce(MoneyType,-32768) "
+        "desc");
     for (size_t row = 0; row < static_cast<size_t>(rows.RecordCount()); ++row) {
       const std::string code = rows.ColumnAt(0).Text(row);
       if (row == 0) local_ = code;
@@ -111,7 +112,7 @@ class Currencies {
   }
 
  private:
-  RowWriter writer_;
+  data::RowWriter& writer_;
   std::unordered_map<std::string, Currency> known_;  // by code in lower case
   std::string local_;
   int64_t lowest_type_ = 1;
@@ -119,19 +120,19 @@ class Currencies {
 
 class EntryRows : public ImportRows {
  public:
-  EntryRows(SqliteSession& session, const ImportOptions& options, const ImportMapping& mapping,
-            ImportReport& report)
+  EntryRows(data::Transaction& transaction, const ImportOptions& options,
+            const ImportMapping& mapping, ImportReport& report)
       : options_(options),
         mapping_(mapping),
         report_(report),
         columns_(ColumnsOf(options.kind)),
         texts_(report),
-        records_(session, options.ledger == 0 ? "cards" : "tAccounts"),
-        currencies_(session),
-        writer_(session, "tAccountDetail",
-                {"fDate", "fCompID", "fType1", "fType2", "fAcntNo", "fInit", "fMoneyA", "fMoneyB",
-                 "fBrief", "fInvID", "fOrderID", "fUser", "fDoneman", "fChecker", "fID2",
-                 "fMoneyCode", "fMoneyRate"}) {}
+        records_(transaction, options.ledger == 0 ? "cards" : "tAccounts"),
+        currencies_(transaction),
+        writer_(transaction.Into("tAccountDetail",
+                                 {"fDate", "fCompID", "fType1", "fType2", "fAcntNo", "fInit",
+                                  "fMoneyA", "fMoneyB", "fBrief", "fInvID", "fOrderID", "fUser",
+                                  "fDoneman", "fChecker", "fID2", "fMoneyCode", "fMoneyRate"})) {}
 
   std::string Take(const std::vector<std::string>& fields) override {
     texts_.BeginRow();
@@ -253,15 +254,16 @@ class EntryRows : public ImportRows {
   ImportTexts texts_;
   Records records_;
   Currencies currencies_;
-  RowWriter writer_;
+  data::RowWriter& writer_;
   std::array<std::string, kPlaces> values_;
 };
 
 }  // namespace
 
-std::unique_ptr<ImportRows> MakeEntryRows(SqliteSession& session, const ImportOptions& options,
+std::unique_ptr<ImportRows> MakeEntryRows(data::Transaction& transaction,
+                                          const ImportOptions& options,
                                           const ImportMapping& mapping, ImportReport& report) {
-  return std::make_unique<EntryRows>(session, options, mapping, report);
+  return std::make_unique<EntryRows>(transaction, options, mapping, report);
 }
 
 }  // namespace qvzj

@@ -4,7 +4,6 @@
 #include "platform/basic/text.h"
 #include "suite/import_rows.h"
 #include "suite/import_texts.h"
-#include "suite/row_writer.h"
 
 namespace qvzj {
 namespace {
@@ -19,18 +18,19 @@ const char* TableOf(ImportKind kind) {
 
 class RegisterRows : public ImportRows {
  public:
-  RegisterRows(SqliteSession& session, const ImportOptions& options, const ImportMapping& mapping,
-               ImportReport& report)
+  RegisterRows(data::Transaction& transaction, const ImportOptions& options,
+               const ImportMapping& mapping, ImportReport& report)
       : options_(options),
         mapping_(mapping),
         report_(report),
         columns_(ColumnsOf(options.kind)),
         texts_(report),
-        writer_(session, TableOf(options.kind),
-                {"CompCode", "compname", "name", "fBank", "fAcntID", "others", "province",
-                 "cityname", "postcode", "telphone", "fax", "fType0", "detail", "fID"}) {
+        writer_(transaction.Into(
+            TableOf(options.kind),
+            {"CompCode", "compname", "name", "fBank", "fAcntID", "others", "province", "cityname",
+             "postcode", "telphone", "fax", "fType0", "detail", "fID"})) {
     const std::string table = TableOf(options.kind);
-    const data::Recordset codes = session.Native("SELECT CompCode, fID FROM " + table);
+    const data::Recordset codes = transaction.Within().Native("SELECT CompCode, fID FROM " + table);
     for (size_t row = 0; row < static_cast<size_t>(codes.RecordCount()); ++row) {
       codes_.insert(basic::Lower(codes.ColumnAt(0).Text(row)));
       last_id_ = std::max(last_id_, codes.ColumnAt(1).Integer(row));
@@ -87,7 +87,7 @@ class RegisterRows : public ImportRows {
   ImportReport& report_;
   std::span<const ImportColumn> columns_;
   ImportTexts texts_;
-  RowWriter writer_;
+  data::RowWriter& writer_;
   std::unordered_set<std::string> codes_;
   int32_t last_id_ = 0;
   std::array<std::string, kColumns> values_;
@@ -95,15 +95,18 @@ class RegisterRows : public ImportRows {
 
 }  // namespace
 
-std::unique_ptr<ImportRows> MakeRegisterRows(SqliteSession& session, const ImportOptions& options,
+std::unique_ptr<ImportRows> MakeRegisterRows(data::Transaction& transaction,
+                                             const ImportOptions& options,
                                              const ImportMapping& mapping, ImportReport& report) {
-  return std::make_unique<RegisterRows>(session, options, mapping, report);
+  return std::make_unique<RegisterRows>(transaction, options, mapping, report);
 }
 
-std::unique_ptr<ImportRows> MakeImportRows(SqliteSession& session, const ImportOptions& options,
+std::unique_ptr<ImportRows> MakeImportRows(data::Transaction& transaction,
+                                           const ImportOptions& options,
                                            const ImportMapping& mapping, ImportReport& report) {
-  return options.kind == ImportKind::Entries ? MakeEntryRows(session, options, mapping, report)
-                                             : MakeRegisterRows(session, options, mapping, report);
+  return options.kind == ImportKind::Entries
+             ? MakeEntryRows(transaction, options, mapping, report)
+             : MakeRegisterRows(transaction, options, mapping, report);
 }
 
 }  // namespace qvzj

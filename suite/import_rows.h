@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/data/store.h"
 #include "suite/import.h"
 
 namespace qvzj {
@@ -17,14 +18,17 @@ class ImportRows {
 };
 
 /// The rows of the kind that `options` names. All arguments must outlive the result.
-std::unique_ptr<ImportRows> MakeImportRows(SqliteSession& session, const ImportOptions& options,
+std::unique_ptr<ImportRows> MakeImportRows(data::Transaction& transaction,
+                                           const ImportOptions& options,
                                            const ImportMapping& mapping, ImportReport& report);
 
 /// The rows of customers and money accounts.
-std::unique_ptr<ImportRows> MakeRegisterRows(SqliteSession& session, const ImportOptions& options,
+std::unique_ptr<ImportRows> MakeRegisterRows(data::Transaction& transaction,
+                                             const ImportOptions& options,
                                              const ImportMapping& mapping, ImportReport& report);
 /// The rows of the ledger.
-std::unique_ptr<ImportRows> MakeEntryRows(SqliteSession& session, const ImportOptions& options,
+std::unique_ptr<ImportRows> MakeEntryRows(data::Transaction& transaction,
+                                          const ImportOptions& options,
                                           const ImportMapping& mapping, ImportReport& report);
 
 }  // namespace qvzj

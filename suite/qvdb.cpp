@@ -9,11 +9,11 @@
 
 #include "suite/arguments.h"
 #include "suite/check_data.h"
+#include "suite/copy.h"
+#include "suite/data_place.h"
 #include "suite/demo.h"
 #include "suite/import.h"
-#include "suite/row_writer.h"
 #include "suite/schema.h"
-#include "suite/server_commands.h"
 
 namespace qvzj {
 namespace {
@@ -21,15 +21,16 @@ namespace {
 namespace fs = std::filesystem;
 using Words = std::vector<std::string>;
 
-constexpr const char* kUsage = R"(qvdb - makes, fills and checks the data files of the ledger
+constexpr const char* kUsage = R"(qvdb - makes, fills, checks and copies the databases of the ledger
 
   qvdb init [--currency CODE]...
-      Makes the data folder, the data file and the tables that are missing. The currencies are
-      put into an empty currency table, the first as the local one.
+      Makes the data folder, the data file and the tables that are missing; on a server the
+      tables, in a database that is there. The currencies are put into an empty currency table,
+      the first as the local one.
 
   qvdb demo [--seed N] [--customers N] [--accounts N] [--entries N] [--years N]
             [--until YYYY-MM-DD]
-      Fills an empty data file with made-up data; the same options make the same data.
+      Fills an empty database with made-up data; the same options make the same data.
 
   qvdb import customers|accounts|entries FILE [options]
       Reads a CSV file (UTF-8 or GB18030; "-" is the standard input) whose first row names the
@@ -48,10 +49,11 @@ constexpr const char* kUsage = R"(qvdb - makes, fills and checks the data files 
       Looks for orphans, missing amounts, counter-entries out of step with their customer
       entries, and voucher numbers borne twice.
 
-  qvdb copy SOURCE TARGET
-      Copies all tables of one place into the empty tables of another, and compares both ends
-      value by value. A copy that was broken off goes on when it is started again. Nobody should
-      work in either meanwhile.
+  qvdb copy SOURCE TARGET [--anew]
+      Copies all tables with their record ids and compares both sides value by value. SOURCE and
+      TARGET are each a data folder or server:TEXT, where TEXT names a server as --server does.
+      The target's tables must be empty. A copy that broke off goes on when the command is given
+      again; with --anew it begins again. Nobody should work in either meanwhile.
 
   qvdb user add|passwd|rights|disable|enable|remove|unit|exempt|list|log FILE ...
       Keeps the users of the rights database FILE, or of the one in the folder FILE.
@@ -59,9 +61,18 @@ constexpr const char* kUsage = R"(qvdb - makes, fills and checks the data files 
       disable FILE NAME   enable FILE NAME   remove FILE NAME   log FILE
       unit FILE [TEXT]   exempt FILE [NAME]
 
-Every command but copy and user takes --data PLACE (default: %DATA%).
-A PLACE is a data folder, or a database on a server: postgres://USER@HOST[:PORT]/DATABASE, with
-its password in the variable QVDB_PASSWORD, or asked for. import takes data folders only.
+init, demo, import and check work on --data FOLDER (default: %DATA%)
+or on a server. Options for servers, also of copy:
+  --server TEXT       the server: host, host:port, host\instance, the name of a data source or a
+                      whole ODBC connection string (not with copy)
+  --user USER         database user
+  --password TEXT     database password; "-" asks for it (default: the variable QVDB_PASSWORD,
+                      which other users of the machine cannot read)
+  --database NAME     database on the server
+  --engine ENGINE     postgresql (default) or tsql; on tsql only import works
+  --driver NAME       ODBC driver, when it is not called as usual
+  --require-tls       refuses a connection that is not encrypted
+
 Exit status: 0 done; 1 done, but rows were refused or faults were found; 2 not done.
 )";
 
@@ -85,25 +96,57 @@ class ProgressLines {
   Clock::time_point next_;
 };
 
-Place DataPlace(const Arguments& arguments, const QvdbStreams& streams) {
-  return PlaceWithPassword(arguments.Text("--data", DefaultDataFolder()), streams.ask_password);
+using Names = std::vector<std::string_view>;
+
+/// Options of a command that works on a server, its own and those that say which and how.
+Names WithServer(Names own) {
+  own.insert(own.end(), {"--user", "--password", "--database", "--engine", "--driver"});
+  return own;
 }
 
-fs::path DataFile(const Place& place) { return fs::path(place.folder) / kDataFile; }
+Names WithPlace(Names own) {
+  own.insert(own.end(), {"--data", "--server"});
+  return WithServer(std::move(own));
+}
 
-/// Opens the data file, made with all its tables when it is missing.
-std::unique_ptr<SqliteSession> OpenOrMake(const fs::path& file) {
-  std::error_code failure;
-  fs::create_directories(file.parent_path(), failure);
-  if (failure) {
-    throw Error("The folder " + file.parent_path().string() +
-                " cannot be made: " + failure.message());
+constexpr std::string_view kRequireTls = "--require-tls";
+
+ServerKind EngineOf(const std::string& name) {
+  if (name == "postgresql") return ServerKind::PostgreSql;
+  if (name == "tsql") return ServerKind::TransactSql;
+  throw UsageError("--engine needs postgresql or tsql, not " + name);
+}
+
+/// The server of that address, with what the options say of it.
+DataPlace ServerPlace(const std::string& address, const Arguments& arguments,
+                      const QvdbStreams& streams) {
+  DataPlace place;
+  place.login = {address, arguments.Text("--user"), arguments.Text("--password"),
+                 arguments.Text("--database")};
+  const char* const set = std::getenv("QVDB_PASSWORD");
+  if (set && !arguments.Has("--password")) place.login.password = set;
+  if (place.login.password == "-") place.login.password = streams.ask_password("Password: ");
+  place.server.kind = EngineOf(arguments.Text("--engine", "postgresql"));
+  place.server.driver = arguments.Text("--driver");
+  place.server.require_tls = arguments.Has(kRequireTls);
+  return place;
+}
+
+DataPlace FolderPlace(const std::string& folder) {
+  DataPlace place;
+  place.folder = folder;
+  return place;
+}
+
+DataPlace PlaceOf(const Arguments& arguments, const QvdbStreams& streams) {
+  if (arguments.Has("--server")) {
+    if (arguments.Has("--data")) throw UsageError("--data and --server exclude each other");
+    return ServerPlace(arguments.Text("--server"), arguments, streams);
   }
-  SqliteOptions options;
-  options.create = true;
-  auto session = OpenSqlite(file.string(), options);
-  CreateSchema(*session);
-  return session;
+  for (const std::string_view option : WithServer({})) {
+    if (arguments.Has(option)) throw UsageError(std::string(option) + " needs --server");
+  }
+  return FolderPlace(arguments.Text("--data", DefaultDataFolder()));
 }
 
 void RefuseWords(const Arguments& arguments) {
@@ -111,30 +154,28 @@ void RefuseWords(const Arguments& arguments) {
 }
 
 int Init(const Words& words, const QvdbStreams& streams) {
-  const Arguments arguments(words, {"--data", "--currency"});
+  const Arguments arguments(words, WithPlace({"--currency"}), {kRequireTls});
   RefuseWords(arguments);
-  const Place place = DataPlace(arguments, streams);
+  const DataPlace place = PlaceOf(arguments, streams);
+  const auto store = OpenOrMakePlace(place);
+  CreateSchema(*store);
   const std::vector<std::string> currencies = arguments.Texts("--currency");
-  if (place.OnServer()) {
-    InitServer(place, currencies);
-    streams.out << "ready: " << place.Name() << "\n";
-    return 0;
-  }
-  const fs::path file = DataFile(place);
-  const auto session = OpenOrMake(file);
   if (!currencies.empty()) {
-    if (CountOf(*session, "Moneys") > 0) throw Error("The currency table is not empty");
-    RowWriter table(*session, "Moneys", {"MoneyCode", "MoneyRate", "MoneyType"});
+    if (data::CountOf(*store, "Moneys") > 0) throw Error("The currency table is not empty");
+    data::Transaction transaction(*store);
+    data::RowWriter& table = transaction.Into("Moneys", {"MoneyCode", "MoneyRate", "MoneyType"});
     auto type = static_cast<int64_t>(currencies.size());
     for (const std::string& code : currencies) table.Add({code, 1.0, type--});
+    transaction.Commit();
   }
-  streams.out << "ready: " << file.string() << "\n";
+  streams.out << "ready: " << place.Name() << "\n";
   return 0;
 }
 
 int Demo(const Words& words, const QvdbStreams& streams) {
   const Arguments arguments(
-      words, {"--data", "--seed", "--customers", "--accounts", "--entries", "--years", "--until"});
+      words, WithPlace({"--seed", "--customers", "--accounts", "--entries", "--years", "--until"}),
+      {kRequireTls});
   RefuseWords(arguments);
   DemoOptions options;
   options.seed = static_cast<uint64_t>(arguments.Number("--seed", 1));
@@ -147,17 +188,11 @@ int Demo(const Words& words, const QvdbStreams& streams) {
     if (!until) throw UsageError("--until needs a day as YYYY-MM-DD");
     options.until = *until;
   }
-  const Place place = DataPlace(arguments, streams);
+  const DataPlace place = PlaceOf(arguments, streams);
   ProgressLines progress(streams.err);
-  std::string filled = place.Name();
-  if (place.OnServer()) {
-    FillServer(place, options, progress.Hook());
-  } else {
-    filled = DataFile(place).string();
-    MakeDemoData(*OpenOrMake(filled), options, progress.Hook());
-  }
+  MakeDemoData(*OpenOrMakePlace(place), options, progress.Hook());
   streams.out << options.customers << " customers, " << options.accounts << " accounts, "
-              << options.entries << " entries: " << filled << "\n";
+              << options.entries << " entries: " << place.Name() << "\n";
   return 0;
 }
 
@@ -224,17 +259,15 @@ void PrintReport(const ImportReport& report, bool dry_run, std::ostream& out) {
 
 int Import(const Words& words, const QvdbStreams& streams) {
   const Arguments arguments(
-      words, {"--data", "--map", "--set", "--default", "--ledger", "--dates", "--separator"},
-      {"--once", "--add-currencies", "--dry-run"});
+      words, WithPlace({"--map", "--set", "--default", "--ledger", "--dates", "--separator"}),
+      {"--once", "--add-currencies", "--dry-run", kRequireTls});
   if (arguments.Words().size() != 2) throw UsageError("import takes what to import and a file");
   const ImportOptions options = ImportOptionsOf(arguments);
-  const Place place = DataPlace(arguments, streams);
-  if (place.OnServer()) throw UsageError("import into a data folder, then copy that to the server");
   const std::string bytes = ReadAll(arguments.Words()[1], streams.in);
   ProgressLines progress(streams.err);
-  const auto session = OpenOrMake(DataFile(place));
+  const auto store = OpenOrMakePlace(PlaceOf(arguments, streams));
   const ImportReport report = ImportCsv(
-      *session, bytes, options,
+      *store, bytes, options,
       [&](const Refusal& refusal) {
         streams.err << "line " << refusal.line << ": " << refusal.reason << "\n";
       },
@@ -244,27 +277,44 @@ int Import(const Words& words, const QvdbStreams& streams) {
 }
 
 int Check(const Words& words, const QvdbStreams& streams) {
-  const Arguments arguments(words, {"--data"});
+  const Arguments arguments(words, WithPlace({}), {kRequireTls});
   RefuseWords(arguments);
-  const Place place = DataPlace(arguments, streams);
-  const auto report = [&](const Fault& fault) {
+  const auto store = OpenPlace(PlaceOf(arguments, streams));
+  const int64_t faults = CheckData(*store, [&](const Fault& fault) {
     streams.out << NameOf(fault.kind) << ": " << fault.text << "\n";
-  };
-  ProgressLines progress(streams.err);
-  const int64_t faults = place.OnServer()
-                             ? CheckServer(place, progress.Hook(), report)
-                             : CheckData(*OpenSqlite(DataFile(place).string(), {}), report);
+  });
   streams.out << (faults == 0 ? "no faults" : std::to_string(faults) + " faults") << "\n";
   return faults > 0 ? 1 : 0;
 }
 
-int Copy(const Words& words, const QvdbStreams& streams) {
-  const Arguments arguments(words, {});
+/// A side of a copy.
+DataPlace SideOf(const std::string& word, const Arguments& arguments, const QvdbStreams& streams) {
+  constexpr std::string_view kServer = "server:";
+  if (word.starts_with(kServer)) {
+    return ServerPlace(word.substr(kServer.size()), arguments, streams);
+  }
+  return FolderPlace(fs::weakly_canonical(word).string());
+}
+
+int CopyAll(const Words& words, const QvdbStreams& streams) {
+  const Arguments arguments(words, WithServer({}), {"--anew", kRequireTls});
   if (arguments.Words().size() != 2) throw UsageError("copy takes a source and a target");
+  const DataPlace from = SideOf(arguments.Words()[0], arguments, streams);
+  const DataPlace to = SideOf(arguments.Words()[1], arguments, streams);
+  const auto source = OpenPlace(from);
+  const auto target = OpenOrMakePlace(to);
+  CopyOptions options;
+  options.source_name = from.Name();
+  options.anew = arguments.Has("--anew");
   ProgressLines progress(streams.err);
-  CopyPlace(PlaceWithPassword(arguments.Words()[0], streams.ask_password),
-            PlaceWithPassword(arguments.Words()[1], streams.ask_password), progress.Hook(),
-            streams.out);
+  const CopyReport report = CopyData(*source, *target, options, progress.Hook());
+  if (report.resumed) streams.out << "the copy that broke off went on\n";
+  for (const CopiedTable& table : report.tables) {
+    streams.out << table.name << ": " << table.rows << " rows";
+    for (const auto& [column, sum] : table.sums) streams.out << ", " << column << " " << sum;
+    streams.out << "\n";
+  }
+  streams.out << "copied, both sides agree: " << to.Name() << "\n";
   return 0;
 }
 
@@ -286,7 +336,7 @@ int Run(const Words& words, const QvdbStreams& streams) {
   if (command == "demo") return Demo(rest, streams);
   if (command == "import") return Import(rest, streams);
   if (command == "check") return Check(rest, streams);
-  if (command == "copy") return Copy(rest, streams);
+  if (command == "copy") return CopyAll(rest, streams);
   if (command == "user") {
     return RunUserCommand(rest, streams.ask_password, streams.out, streams.err);
   }

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "adapters/sqlite/sqlite_session.h"
+#include "platform/data/store.h"
 
 namespace qvzj {
 
@@ -11,9 +11,10 @@ namespace qvzj {
 inline constexpr const char* kDataFile = "qvjxc.db";
 
 /// Makes the suite's tables and indexes that are not there yet; what is there stays as it is.
-/// Texts compare without ASCII case, dates are kept as yyyy-mm-dd, and the id of a deleted ledger
-/// entry is never given again. Throws DataError.
-void CreateSchema(SqliteSession& session);
+/// Texts compare without ASCII case, days are dates (in a data file texts yyyy-mm-dd), and the id
+/// of a deleted ledger entry is never given again. Throws DataError, and on a server whose language
+/// is not PostgreSQL's.
+void CreateSchema(data::Store& store);
 
 /// The statements that make the same tables and indexes on PostgreSQL, and the orders of texts,
 /// each one alone; what is there stays as it is. Needs the right to create in the schema.

@@ -10,9 +10,8 @@ namespace qvzj {
 
 #ifdef QV_WITH_ODBC
 
-namespace {
-
-std::unique_ptr<OdbcSession> OpenOdbc(const ServerLogin& login, const ConnectionOptions& options) {
+std::unique_ptr<data::Store> OpenServer(const ServerLogin& login,
+                                        const ConnectionOptions& options) {
   ServerOptions server = options.server;
   if (!server.is_data_source) server.is_data_source = IsDataSource;
   OdbcOptions odbc;
@@ -26,32 +25,10 @@ std::unique_ptr<OdbcSession> OpenOdbc(const ServerLogin& login, const Connection
   return std::make_unique<OdbcSession>(std::move(odbc));
 }
 
-}  // namespace
-
-std::unique_ptr<data::Session> OpenServer(const ServerLogin& login,
-                                          const ConnectionOptions& options) {
-  return OpenOdbc(login, options);
-}
-
-NativeStatements OpenNativeServer(const ServerLogin& login, const ConnectionOptions& options) {
-  const std::shared_ptr<OdbcSession> session = OpenOdbc(login, options);
-  return [session](std::string_view sql) { return session->Native(sql); };
-}
-
 #else
 
-namespace {
-
-constexpr const char* kNoServers = "This program was built without access to database servers";
-
-}  // namespace
-
-std::unique_ptr<data::Session> OpenServer(const ServerLogin&, const ConnectionOptions&) {
-  throw DataError(kNoServers);
-}
-
-NativeStatements OpenNativeServer(const ServerLogin&, const ConnectionOptions&) {
-  throw DataError(kNoServers);
+std::unique_ptr<data::Store> OpenServer(const ServerLogin&, const ConnectionOptions&) {
+  throw DataError("This program was built without access to database servers");
 }
 
 #endif

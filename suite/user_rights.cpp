@@ -104,7 +104,7 @@ void RightsDatabase::Update(const std::string& name, const std::string& column,
 
 void RightsDatabase::SetPassword(const std::string& name, const std::string& password) {
   const std::string hash = CheckedHash(password);
-  SqliteTransaction together(*session_);
+  data::Transaction together(*session_);
   Update(name, "fHash", hash);
   ForgetTries(name);
   together.Commit();
@@ -164,7 +164,7 @@ void RightsDatabase::ForgetTries(const std::string& name) {
 }
 
 int64_t RightsDatabase::CountTry(const std::string& name, int64_t now) {
-  SqliteTransaction together(*session_);
+  data::Transaction together(*session_);
   SqliteStatement old = session_->Prepare("delete from tTries where fLast<? or fLast>?");
   old.Bind(1, now - kTriesKept);
   old.Bind(2, now + kTriesKept);

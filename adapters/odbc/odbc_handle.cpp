@@ -82,6 +82,16 @@ OdbcConnection::OdbcConnection(const std::string& connection_string, int login_t
 
 OdbcConnection::~OdbcConnection() { SQLDisconnect(Get()); }
 
+void OdbcConnection::SetAutocommit(bool on) {
+  const SQLULEN mode = on ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF;
+  connection_.Check(SQLSetConnectAttr(Get(), SQL_ATTR_AUTOCOMMIT,
+                                      reinterpret_cast<SQLPOINTER>(mode), SQL_IS_UINTEGER));
+}
+
+void OdbcConnection::EndTransaction(SQLSMALLINT how) {
+  connection_.Check(SQLEndTran(SQL_HANDLE_DBC, Get(), how));
+}
+
 bool OdbcConnection::Dead() const {
   SQLUINTEGER dead = SQL_CD_FALSE;
   SQLGetConnectAttr(Get(), SQL_ATTR_CONNECTION_DEAD, &dead, 0, nullptr);

@@ -57,6 +57,10 @@ class OdbcConnection {
   SQLHANDLE Get() const { return connection_.Get(); }
   /// True when the driver knows that the server is gone.
   bool Dead() const;
+  /// Off: statements from here on belong together until EndTransaction. Throws OdbcError.
+  void SetAutocommit(bool on);
+  /// `how` is SQL_COMMIT or SQL_ROLLBACK. Throws OdbcError.
+  void EndTransaction(SQLSMALLINT how);
   /// The driver reads long values of any row of a block.
   bool ReadsLongValuesInBlocks() const { return long_values_in_blocks_; }
 

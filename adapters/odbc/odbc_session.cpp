@@ -5,6 +5,7 @@
 #include "adapters/icu/utf16.h"
 #include "adapters/odbc/odbc_fetch.h"
 #include "adapters/odbc/odbc_handle.h"
+#include "adapters/odbc/odbc_row_writer.h"
 #include "platform/basic/text.h"
 
 namespace qvzj {
@@ -118,7 +119,7 @@ data::Recordset OdbcSession::Run(const std::string& sql) {
   try {
     return RunOnce(sql);
   } catch (const OdbcError& error) {
-    if (!error.ConnectionLost() && !connection_->Dead()) throw WithoutSecrets(error);
+    if (!MayReconnectAfter(error)) throw WithoutSecrets(error);
     connection_.reset();
     if (!IsRead(sql)) {
       throw DataError(std::string(kOutcomeUnknown[Language()]) + "\n" +
@@ -131,6 +132,10 @@ data::Recordset OdbcSession::Run(const std::string& sql) {
   } catch (const OdbcError& error) {
     throw WithoutSecrets(error);
   }
+}
+
+bool OdbcSession::MayReconnectAfter(const OdbcError& error) const {
+  return !in_transaction_ && (error.ConnectionLost() || connection_->Dead());
 }
 
 data::Recordset OdbcSession::RunOnce(const std::string& sql) {
@@ -159,12 +164,79 @@ OdbcSchema::Columns OdbcSession::DescribeTable(const std::string& table) {
   } catch (const OdbcError& error) {
     const bool no_such_table = error.State() == "42P01" || error.State() == "42S02";
     if (no_such_table) return {};
-    if (!error.ConnectionLost() && !connection_->Dead()) throw WithoutSecrets(error);
+    if (!MayReconnectAfter(error)) throw WithoutSecrets(error);
     connection_.reset();
     Connect();
     return DescribeTable(table);
   }
   return columns;
+}
+
+data::Engine OdbcSession::Speaks() const {
+  return options_.engine == ServerEngine::TransactSql ? data::Engine::TransactSql
+                                                      : data::Engine::PostgreSql;
+}
+
+std::unique_ptr<data::RowWriter> OdbcSession::Writer(std::string_view table,
+                                                     const std::vector<std::string_view>& columns) {
+  if (!connection_) Connect();
+  const auto without_secrets = [this](const DataError& error) { return WithoutSecrets(error); };
+  try {
+    return std::make_unique<OdbcRowWriter>(*connection_, table, columns, without_secrets);
+  } catch (const OdbcError& error) {
+    throw WithoutSecrets(error);
+  }
+}
+
+void OdbcSession::Begin() {
+  // A connection that the server has dropped in the meantime is noticed, and replaced, here.
+  Run("select 1");
+  connection_->SetAutocommit(false);
+  in_transaction_ = true;
+}
+
+void OdbcSession::Commit() {
+  try {
+    connection_->EndTransaction(SQL_COMMIT);
+    connection_->SetAutocommit(true);
+  } catch (const OdbcError& error) {
+    if (!error.ConnectionLost() && !connection_->Dead()) throw WithoutSecrets(error);
+    throw DataError(std::string(kOutcomeUnknown[Language()]) + "\n" + WithoutSecrets(error).what());
+  }
+  in_transaction_ = false;
+}
+
+void OdbcSession::Rollback() noexcept {
+  in_transaction_ = false;
+  bool alive = !connection_->Dead();
+  try {
+    connection_->EndTransaction(SQL_ROLLBACK);
+    connection_->SetAutocommit(true);
+  } catch (const DataError&) {
+    alive = false;
+  }
+  if (!alive) connection_.reset();  // the server undoes what a lost connection had begun
+}
+
+std::string OdbcSession::IdGenerator(const std::string& table) {
+  if (options_.engine != ServerEngine::PostgreSql) {
+    throw DataError("Id generators are known for PostgreSQL only");
+  }
+  return Native("select pg_get_serial_sequence('" + basic::Lower(table) + "','fid')").Text(0);
+}
+
+int64_t OdbcSession::LastGivenId(const std::string& table) {
+  const std::string generator = IdGenerator(table);
+  if (generator.empty()) return 0;
+  const data::Recordset last =
+      Native("select case when is_called then last_value else last_value-1 end from " + generator);
+  return static_cast<int64_t>(last.Number(0));
+}
+
+void OdbcSession::GiveIdsAbove(const std::string& table, int64_t id) {
+  const std::string generator = IdGenerator(table);
+  if (generator.empty() || id <= LastGivenId(table)) return;
+  Native("select setval('" + generator + "'," + std::to_string(id) + ")");
 }
 
 DataError OdbcSession::WithoutSecrets(const DataError& error) const {

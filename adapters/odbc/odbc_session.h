@@ -9,11 +9,12 @@
 #include "adapters/dialect/translate.h"
 #include "adapters/odbc/odbc_schema.h"
 #include "platform/basic/errors.h"
-#include "platform/data/connection.h"
+#include "platform/data/store.h"
 
 namespace qvzj {
 
 class OdbcConnection;
+class OdbcError;
 
 enum class ServerEngine {
   PostgreSql,   ///< PostgreSQL and servers that speak its language
@@ -38,7 +39,7 @@ struct OdbcOptions {
 /// A session on a database server through ODBC. A read that finds the connection dropped is run
 /// once more on a new one; a write is not, because nobody knows whether it took effect.
 /// Not to be used from two threads at once.
-class OdbcSession : public data::Session {
+class OdbcSession : public data::Store {
  public:
   /// Connects. Throws DataError with what the driver said.
   explicit OdbcSession(OdbcOptions options);
@@ -47,10 +48,22 @@ class OdbcSession : public data::Session {
   void Execute(std::string_view statement) override;
   data::Recordset Query(std::string_view statement) override;
 
-  /// Runs one statement in the server's own language and reads its rows.
-  data::Recordset Native(std::string_view sql);
+  data::Engine Speaks() const override;
+  data::Recordset Native(std::string_view sql) override;
   /// What stands in the server's own language for a statement of the module.
   dialect::Translation Translate(std::string_view statement);
+
+  std::unique_ptr<data::RowWriter> Writer(std::string_view table,
+                                          const std::vector<std::string_view>& columns) override;
+  /// Inside a transaction no lost connection is opened again: what went before is gone with it.
+  void Begin() override;
+  void Commit() override;
+  void Rollback() noexcept override;
+  /// Needs PostgreSQL; throws DataError on other servers.
+  int64_t LastGivenId(const std::string& table) override;
+  void GiveIdsAbove(const std::string& table, int64_t id) override;
+  /// "": servers watch over their files themselves.
+  std::string CheckIntegrity() override { return {}; }
 
  private:
   data::Recordset Run(const std::string& sql);
@@ -58,11 +71,16 @@ class OdbcSession : public data::Session {
   OdbcSchema::Columns DescribeTable(const std::string& table);
   void Connect();
   void Prepare();
+  /// Name of the generator of a table's fID; "" when it has none.
+  std::string IdGenerator(const std::string& table);
+  /// True when a statement that failed so may be run once more on a new connection.
+  bool MayReconnectAfter(const OdbcError& error) const;
   DataError WithoutSecrets(const DataError& error) const;
   int Language() const { return options_.language && options_.language() == 1 ? 1 : 0; }
 
   OdbcOptions options_;
   std::unique_ptr<OdbcConnection> connection_;  // null: lost, to be opened at the next statement
+  bool in_transaction_ = false;
   OdbcSchema schema_;
   std::string text_orders_[2];  // collations by language
 };

@@ -4,6 +4,7 @@
 
 #include "adapters/sqlite/disk.h"
 #include "adapters/sqlite/sqlite_functions.h"
+#include "adapters/sqlite/sqlite_row_writer.h"
 #include "adapters/sqlite/sqlite_schema.h"
 #include "platform/basic/errors.h"
 
@@ -107,18 +108,40 @@ std::string SqliteSession::CheckIntegrity() {
   return report;
 }
 
-SqliteTransaction::SqliteTransaction(SqliteSession& session) : session_(session) {
-  session_.NativeScript("begin immediate");
+std::unique_ptr<data::RowWriter> SqliteSession::Writer(
+    std::string_view table, const std::vector<std::string_view>& columns) {
+  return std::make_unique<SqliteRowWriter>(Prepare(data::InsertStatement(table, columns, 1)));
 }
 
-SqliteTransaction::~SqliteTransaction() {
-  if (!open_ || sqlite3_get_autocommit(session_.Handle())) return;
-  sqlite3_exec(session_.Handle(), "rollback", nullptr, nullptr, nullptr);
+void SqliteSession::Begin() { NativeScript("begin immediate"); }
+
+void SqliteSession::Commit() { NativeScript("commit"); }
+
+void SqliteSession::Rollback() noexcept {
+  // The engine has ended the transaction by itself after some failures.
+  if (sqlite3_get_autocommit(Handle())) return;
+  sqlite3_exec(Handle(), "rollback", nullptr, nullptr, nullptr);
 }
 
-void SqliteTransaction::Commit() {
-  session_.NativeScript("commit");
-  open_ = false;
+int64_t SqliteSession::LastGivenId(const std::string& table) {
+  SqliteStatement last =
+      Prepare("select coalesce(max(seq),0) from sqlite_sequence where name=? collate nocase");
+  last.Bind(1, std::string_view(table));
+  last.Step();
+  return last.Integer(0);
+}
+
+void SqliteSession::GiveIdsAbove(const std::string& table, int64_t id) {
+  if (id <= LastGivenId(table)) return;
+  SqliteStatement forget = Prepare("delete from sqlite_sequence where name=? collate nocase");
+  forget.Bind(1, std::string_view(table));
+  forget.Run();
+  SqliteStatement keep = Prepare(
+      "insert into sqlite_sequence (name,seq) select name,? from sqlite_master"
+      " where type='table' and name=? collate nocase");
+  keep.Bind(1, id);
+  keep.Bind(2, std::string_view(table));
+  keep.Run();
 }
 
 }  // namespace qvzj

@@ -8,7 +8,7 @@
 
 #include "adapters/dialect/translate.h"
 #include "adapters/sqlite/sqlite_statement.h"
-#include "platform/data/connection.h"
+#include "platform/data/store.h"
 
 namespace qvzj {
 
@@ -28,14 +28,14 @@ struct SqliteOptions {
 /// A data file of SQLite. On a local disk it is kept with a write-ahead log, elsewhere with a
 /// rollback journal; in both cases what a statement wrote is on the disk when the call returns.
 /// Not to be used from two threads at once.
-class SqliteSession : public data::Session {
+class SqliteSession : public data::Store {
  public:
   ~SqliteSession() override;
   void Execute(std::string_view statement) override;
   data::Recordset Query(std::string_view statement) override;
 
-  /// Runs one statement in SQLite's own language and reads its rows.
-  data::Recordset Native(std::string_view sql);
+  data::Engine Speaks() const override { return data::Engine::Sqlite; }
+  data::Recordset Native(std::string_view sql) override;
   /// Runs statements in SQLite's own language, each ended by ";".
   void NativeScript(std::string_view sql);
   /// A statement in SQLite's own language with parameters to bind.
@@ -47,8 +47,15 @@ class SqliteSession : public data::Session {
   int64_t Changes() const;
   /// Record id that the last insert gave.
   int64_t LastId() const;
-  /// "" when every page, index and row of the file is sound; else what is wrong, line by line.
-  std::string CheckIntegrity();
+  std::unique_ptr<data::RowWriter> Writer(std::string_view table,
+                                          const std::vector<std::string_view>& columns) override;
+  void Begin() override;
+  void Commit() override;
+  void Rollback() noexcept override;
+  int64_t LastGivenId(const std::string& table) override;
+  void GiveIdsAbove(const std::string& table, int64_t id) override;
+  /// Looks at every page, index and row of the file.
+  std::string CheckIntegrity() override;
   /// The engine's own handle, valid as long as the session.
   sqlite3* Handle() const { return database_.get(); }
 
@@ -67,19 +74,5 @@ class SqliteSession : public data::Session {
 /// Opens the data file. Throws DataError with the file's name and the engine's text when it is
 /// missing, cannot be opened, is no database or stays locked.
 std::unique_ptr<SqliteSession> OpenSqlite(const std::string& file, const SqliteOptions& options);
-
-/// Groups statements so that all of them or none take effect; undone unless committed.
-class SqliteTransaction {
- public:
-  explicit SqliteTransaction(SqliteSession& session);
-  ~SqliteTransaction();
-  SqliteTransaction(const SqliteTransaction&) = delete;
-  SqliteTransaction& operator=(const SqliteTransaction&) = delete;
-  void Commit();
-
- private:
-  SqliteSession& session_;
-  bool open_ = true;
-};
 
 }  // namespace qvzj

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "adapters/sqlite/sqlite_session.h"
 #include "services/context.h"
 #include "suite/schema.h"
 

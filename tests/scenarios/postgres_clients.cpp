@@ -10,7 +10,8 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "suite/server_commands.h"
+#include "suite/check_data.h"
+#include "suite/connections.h"
 #include "tests/scenarios/play.h"
 #include "tests/support/postgres.h"
 
@@ -103,7 +104,7 @@ int Main(const fs::path& program) {
   int faults = RunClients(program, server, database, folder.Path());
   const qvzj::ServerLogin login{server.Address(), PrivatePostgres::kUser,
                                 PrivatePostgres::kPassword, database};
-  const auto run = qvzj::OpenNativeServer(login, {});
+  const auto run = qvzj::OpenNative(1, login, {});
   faults += Expect(run, "customer entries", "select count(*) from tAccountDetail where fType1=0",
                    kClients * (kEntries - 1));
   faults +=
@@ -113,7 +114,7 @@ int Main(const fs::path& program) {
                    kClients);
   faults += Expect(run, "sum of the counter-entries",
                    "select sum(fMoneyB)::integer from tAccountDetail where fType1=1", 3 * kClients);
-  qvzj::CheckServer({"", login}, {}, [&faults](const qvzj::Fault& fault) {
+  qvzj::CheckData(*qvzj::OpenServer(login, {}), [&faults](const qvzj::Fault& fault) {
     ++faults;
     std::printf("%s: %s\n", NameOf(fault.kind), fault.text.c_str());
   });

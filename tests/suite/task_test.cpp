@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "adapters/sqlite/sqlite_session.h"
 #include "frontends/script/headless.h"
 #include "platform/basic/errors.h"
 #include "suite/connections.h"

@@ -164,8 +164,8 @@ void PrivatePostgres::Kill() {
 
 void PrivatePostgres::RunAll(const std::string& database,
                              const std::vector<std::string>& statements) {
-  const auto run = OpenNativeServer({Address(), kUser, kPassword, database}, {});
-  for (const std::string& statement : statements) run(statement);
+  const auto store = OpenServer({Address(), kUser, kPassword, database}, {});
+  for (const std::string& statement : statements) store->Native(statement);
 }
 
 std::string PrivatePostgres::MakeDatabase() {

@@ -32,7 +32,7 @@ class ModuleOnAServer : public testing::Test {
   }
   std::string Entries() {
     const ServerLogin login = LoginTo(database_);
-    return OpenNativeServer(login, {})("select count(*) from tAccountDetail").Text(0);
+    return OpenServer(login, {})->Native("select count(*) from tAccountDetail").Text(0);
   }
   /// All that was reported as an error since the last call.
   std::string Errors() {

@@ -65,7 +65,7 @@ TEST(SqliteSession, SaysThatTheFileStaysLocked) {
   TemporaryDatabase file;
   auto holder = file.Open();
   auto waiting = file.Open(Impatient());
-  SqliteTransaction writing(*holder);
+  data::Transaction writing(*holder);
   try {
     waiting->Execute(kInsert);
     FAIL() << "two wrote at once";
@@ -81,7 +81,7 @@ TEST(SqliteSession, ReadsWhileAnotherSessionWrites) {
   TemporaryDatabase file;
   auto writer = file.Open();
   auto reader = file.Open(Impatient());
-  SqliteTransaction writing(*writer);
+  data::Transaction writing(*writer);
   writer->Execute(kInsert);
   EXPECT_EQ(reader->Query("select count(*) from cards").Text(0), "0");
   writing.Commit();
@@ -177,15 +177,15 @@ TEST(SqliteStatement, BindsValuesOfEveryKind) {
   EXPECT_TRUE(set.IsNull(4));
 }
 
-TEST(SqliteTransaction, LeavesNothingBehindWhenItIsNotCommitted) {
+TEST(Transaction, LeavesNothingBehindWhenItIsNotCommitted) {
   TemporaryDatabase file;
   auto session = file.Open();
   {
-    SqliteTransaction dropped(*session);
+    data::Transaction dropped(*session);
     session->Execute(kInsert);
   }
   EXPECT_EQ(session->Query("select count(*) from cards").Text(0), "0");
-  SqliteTransaction kept(*session);
+  data::Transaction kept(*session);
   session->Execute(kInsert);
   kept.Commit();
   EXPECT_EQ(session->Query("select count(*) from cards").Text(0), "1");
