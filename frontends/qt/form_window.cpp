@@ -227,8 +227,14 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
 void FormWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) ReportSize();
-  if (event->type() == QEvent::ApplicationPaletteChange)
+}
+
+bool FormWindow::event(QEvent* event) {
+  if (event->type() == QEvent::ApplicationPaletteChange) {
+    // The application went from light to dark or back; the window's own colours follow.
     setPalette(ThemePalette(Appearance::System));
+  }
+  return QWidget::event(event);
 }
 
 void FormWindow::showEvent(QShowEvent* event) {

@@ -1,11 +1,12 @@
 #include "frontends/qt/grid_view.h"
 
-#include <QEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include "frontends/qt/column_keeper.h"
 #include "frontends/qt/form_window.h"
@@ -23,6 +24,19 @@ namespace {
 class CellDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
+
+  /// A text that does not fit its cell is shown whole as a tool tip.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    if (event->type() != QEvent::ToolTip) {
+      return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+    const QString text = index.data().toString();
+    const int margins = 2 * (view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    const int needed = option.fontMetrics.horizontalAdvance(text) + margins;
+    QToolTip::showText(event->globalPos(), needed > option.rect.width() ? text : QString(), view);
+    return true;
+  }
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {

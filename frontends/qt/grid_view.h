@@ -15,6 +15,8 @@ class GridTools;
 class GridTable : public QTableView {
  public:
   explicit GridTable(QWidget* parent);
+  /// Typing does not look for rows: a search through a million of them is asked for by Ctrl+F.
+  void keyboardSearch(const QString&) override {}
 
  protected:
   void paintEvent(QPaintEvent* event) override;

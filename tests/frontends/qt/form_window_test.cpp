@@ -160,6 +160,56 @@ TEST(FormWindow, WalksTheFormsTabOrder) {
   EXPECT_TRUE(world.Window().ViewOf(form.cmdExit)->Widget()->hasFocus());
 }
 
+TEST(FormWindow, ShowsTheHourglassWhileTheFormDoes) {
+  ui::Form form("frm");
+  qt::FormWindow window(form, {});
+  form.SetMousePointer(ui::MousePointer::Hourglass);
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  form.SetMousePointer(ui::MousePointer::Default);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(FormWindow, TakesTheHourglassAlongWhenItLetsGoOfTheForm) {
+  ui::Form form("frm");
+  qt::FormWindow window(form, {});
+  form.SetMousePointer(ui::MousePointer::Hourglass);
+  window.Detach();
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(FormWindow, FollowsADarkPalette) {
+  WindowWorld world;
+  world.Show();
+  const QPalette before = QApplication::palette();
+  // The application tells its windows only while its event loop runs.
+  const auto change_to = [&](const QPalette& palette) {
+    QTimer::singleShot(0, [&] {
+      QApplication::setPalette(palette);
+      QTimer::singleShot(0, [] { QApplication::exit(0); });
+    });
+    QApplication::exec();
+  };
+  change_to(qt::ThemePalette(qt::Appearance::Dark));
+  EXPECT_TRUE(qt::IsDark(world.Window().palette()));
+  EXPECT_TRUE(qt::IsDark(world.GridOf(world.Form().Grid2).Table()->palette()));
+  change_to(before);
+  EXPECT_FALSE(qt::IsDark(world.Window().palette()));
+}
+
+TEST(Presenter, BringsAnOpenFormToTheFrontInsteadOfShowingItTwice) {
+  ui::Form form("frmDialog");
+  form.SetLoaded(true);
+  qt::QtPresenter presenter({});
+  form.onUnload = [&] { presenter.Closed(form); };
+  presenter.Show(form, false);
+  const qt::FormWindow* window = presenter.WindowOf(form);
+  presenter.Show(form, false);
+  EXPECT_EQ(presenter.WindowOf(form), window);
+  form.UserClose();
+  EXPECT_EQ(presenter.WindowOf(form), nullptr);
+}
+
 TEST(Presenter, ReturnsFromAModalFormWhenItIsClosed) {
   ui::Form form("frmDialog");
   form.SetSize(3000, 1500);
