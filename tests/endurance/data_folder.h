@@ -16,7 +16,8 @@ struct DataFolder {
   std::unique_ptr<SqliteSession> session =
       MakeData((folder.Path() / kDataFile).string(), QV_SCENARIO_FIXTURE);
 
-  std::string Path() const { return folder.Path().string(); }
+  /// The arguments with which qvzj-script works on it.
+  std::vector<std::string> Arguments() const { return {"--data", folder.Path().string()}; }
   std::string One(const std::string& query) {
     const auto lines = Lines(*session, query);
     return lines.empty() ? std::string() : lines[0];

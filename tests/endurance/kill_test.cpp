@@ -34,7 +34,7 @@ TEST(KilledWhileSaving, EveryReportedEntryIsThereAndTheFileIsSound) {
   int all_reports = 0;
   for (int round = 0; round < kRounds; ++round) {
     const std::string prefix = "R" + std::to_string(round) + "-";
-    ScriptProcess process(data.Path());
+    ScriptProcess process(data.Arguments());
     ArmNewEntry(process, 1);
     ASSERT_NE(process.Ask("focus"), "");
     std::thread feeder([&] { FeedEntries(process, prefix); });
@@ -57,7 +57,7 @@ TEST(KilledWhileSaving, EveryReportedEntryIsThereAndTheFileIsSound) {
   }
   EXPECT_GT(all_reports, kRounds) << "the kills came too early to prove anything";
 
-  ScriptProcess after(data.Path());
+  ScriptProcess after(data.Arguments());
   after.Send("refresh 0 0");
   EXPECT_EQ(after.Ask("messages"), "");
   EXPECT_EQ(after.Finish(), 0);
@@ -67,7 +67,7 @@ TEST(KilledWhileApproving, TheFileIsSoundAndNoCounterEntryIsThereTwice) {
   DataFolder data;
   std::mt19937 dice(11);
   for (int round = 0; round < kRounds; ++round) {
-    ScriptProcess process(data.Path());
+    ScriptProcess process(data.Arguments());
     process.Send("refresh 0 0");
     process.Send("cell Grid2 1 3");
     process.Send("click cmdAction(4)");

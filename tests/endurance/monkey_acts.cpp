@@ -215,6 +215,7 @@ Moves OpenAgain(Dice& dice) {
   static const std::vector<std::string> modes = {"0", "0", "0", "1", "1", "9", "10", "11", "5"};
   Moves moves;
   moves.push_back("property Language " + Number(dice, 0, 1));
+  moves.push_back(dice.OneIn(3) ? "property UserName 张三" : "property UserName admin");
   moves.push_back("property myTaskID " + Number(dice, 0, 8));
   moves.push_back("property myName " + JsonText(dice.OneIn(2) ? "" : "公司"));
   moves.push_back("refresh " + dice.Pick(modes) + " " + Number(dice, 0, 1));

@@ -21,8 +21,12 @@ struct Pipe {
 
 }  // namespace
 
-ScriptProcess::ScriptProcess(const std::string& data) {
+ScriptProcess::ScriptProcess(std::vector<std::string> arguments) {
   signal(SIGPIPE, SIG_IGN);
+  arguments.insert(arguments.begin(), {QV_SCRIPT_PROGRAM, "--today", "2024-03-15"});
+  std::vector<char*> words;
+  for (std::string& argument : arguments) words.push_back(argument.data());
+  words.push_back(nullptr);
   const Pipe in;
   const Pipe out;
   child_ = fork();
@@ -30,8 +34,7 @@ ScriptProcess::ScriptProcess(const std::string& data) {
   if (child_ == 0) {
     dup2(in.ends[0], STDIN_FILENO);
     dup2(out.ends[1], STDOUT_FILENO);
-    execl(QV_SCRIPT_PROGRAM, QV_SCRIPT_PROGRAM, "--data", data.c_str(), "--today", "2024-03-15",
-          static_cast<char*>(nullptr));
+    execv(QV_SCRIPT_PROGRAM, words.data());
     _exit(127);
   }
   close(in.ends[0]);

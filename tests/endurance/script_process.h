@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace qvzj::endurance {
 
@@ -11,8 +12,8 @@ namespace qvzj::endurance {
 /// runs.
 class ScriptProcess {
  public:
-  /// Works on the data folder `data`, on the day 2024-03-15.
-  explicit ScriptProcess(const std::string& data);
+  /// Starts it with these arguments, on the day 2024-03-15.
+  explicit ScriptProcess(std::vector<std::string> arguments);
   ~ScriptProcess();
   ScriptProcess(const ScriptProcess&) = delete;
   ScriptProcess& operator=(const ScriptProcess&) = delete;

@@ -22,8 +22,8 @@ int KeyEntries(ScriptProcess& process, const std::string& prefix) {
 
 TEST(TwoProcesses, KeyingAtOnceLoseNoEntry) {
   DataFolder data;
-  ScriptProcess one(data.Path());
-  ScriptProcess two(data.Path());
+  ScriptProcess one(data.Arguments());
+  ScriptProcess two(data.Arguments());
   ArmNewEntry(one, 1);
   ArmNewEntry(two, 2);
   int reports_one = 0;
@@ -47,7 +47,7 @@ TEST(TwoProcesses, KeyingAtOnceLoseNoEntry) {
 
 TEST(TwoProcesses, TheOneThatMustWaitWaitsAndThenSucceeds) {
   DataFolder data;
-  ScriptProcess process(data.Path());
+  ScriptProcess process(data.Arguments());
   ArmNewEntry(process, 1);
   ASSERT_NE(process.Ask("focus"), "");
   data.session->Native("begin immediate");
@@ -64,8 +64,8 @@ TEST(TwoProcesses, TheOneThatMustWaitWaitsAndThenSucceeds) {
 
 TEST(TwoProcesses, EachSeesTheOthersEntryAfterARefresh) {
   DataFolder data;
-  ScriptProcess one(data.Path());
-  ScriptProcess two(data.Path());
+  ScriptProcess one(data.Arguments());
+  ScriptProcess two(data.Arguments());
   two.Send("refresh 0 0");
   EXPECT_EQ(two.Ask("show Grid2.rows"), "Grid2.rows=3\n");
   ArmNewEntry(one, 1);

@@ -76,26 +76,12 @@ std::vector<fs::path> Scenarios(const fs::path& folder, const std::vector<std::s
   return scenarios;
 }
 
-void Fill(PrivatePostgres& server, const std::string& database, const fs::path& file) {
-  std::istringstream in(Content(file));
-  std::vector<std::string> statements(1);
-  for (std::string line; std::getline(in, line);) {
-    if (line.starts_with("--")) continue;
-    statements.back() += line;
-    if (!line.ends_with(';')) continue;
-    statements.back().pop_back();
-    statements.emplace_back();
-  }
-  statements.pop_back();
-  server.RunAll(database, statements);
-}
-
 /// Plays one scenario; true when it printed what it should.
 bool Play(PrivatePostgres& server, const fs::path& program, const fs::path& scenario) {
   const TemporaryFolder folder;
   const std::string database = server.MakeDatabase();
-  Fill(server, database, scenario.parent_path() / "fixture.sql");
-  if (fs::exists(Beside(scenario, ".sql"))) Fill(server, database, Beside(scenario, ".sql"));
+  server.RunFile(database, scenario.parent_path() / "fixture.sql");
+  if (fs::exists(Beside(scenario, ".sql"))) server.RunFile(database, Beside(scenario, ".sql"));
   const fs::path printed = folder.Path() / "printed.out";
   const fs::path expected = folder.Path() / "expected.out";
   const fs::path script = Beside(scenario, ".sh");

@@ -162,6 +162,21 @@ void PrivatePostgres::Kill() {
   server_ = -1;
 }
 
+void PrivatePostgres::RunFile(const std::string& database, const std::filesystem::path& file) {
+  std::ifstream in(file);
+  if (!in) throw std::runtime_error("cannot read " + file.string());
+  std::vector<std::string> statements(1);
+  for (std::string line; std::getline(in, line);) {
+    if (line.starts_with("--")) continue;
+    statements.back() += line;
+    if (!line.ends_with(';')) continue;
+    statements.back().pop_back();
+    statements.emplace_back();
+  }
+  statements.pop_back();
+  RunAll(database, statements);
+}
+
 void PrivatePostgres::RunAll(const std::string& database,
                              const std::vector<std::string>& statements) {
   const auto store = OpenServer({Address(), kUser, kPassword, database}, {});

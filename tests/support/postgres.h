@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -33,6 +34,9 @@ class PrivatePostgres {
   /// Runs statements in the server's own language on `database`, one at a time.
   void Run(const std::string& database, const std::string& sql) { RunAll(database, {sql}); }
   void RunAll(const std::string& database, const std::vector<std::string>& statements);
+  /// Runs the statements of a file, each ended by ";" at the end of a line; lines that begin with
+  /// "--" are remarks.
+  void RunFile(const std::string& database, const std::filesystem::path& file);
 
   /// Ends the server without warning, as a failing machine does.
   void Kill();
