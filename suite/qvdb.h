@@ -16,7 +16,7 @@ struct QvdbStreams {
   AskPassword ask_password;  ///< for the passwords of users
 };
 
-/// Runs one command of the tool that maintains data files; `words` is its command line without the
+/// Runs one command of the tool that maintains databases; `words` is its command line without the
 /// program's name. Answers the exit status: 0 done, 1 done but rows were refused or faults found,
 /// 2 not done (the reason is on `err`).
 int RunQvdb(const std::vector<std::string>& words, const QvdbStreams& streams);

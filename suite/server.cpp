@@ -18,7 +18,7 @@ std::unique_ptr<data::Store> OpenServer(const ServerLogin& login,
   odbc.engine =
       server.kind == ServerKind::TransactSql ? ServerEngine::TransactSql : ServerEngine::PostgreSql;
   odbc.connection_string = ConnectionString(login, server);
-  odbc.secrets = {login.password};
+  odbc.secrets = {login.password, PasswordIn(login.address)};
   odbc.login_timeout = options.login_timeout;
   odbc.statement_timeout = options.statement_timeout;
   odbc.language = options.language;

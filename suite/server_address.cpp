@@ -99,4 +99,19 @@ std::string ConnectionString(const ServerLogin& login, const ServerOptions& opti
   return text.Text();
 }
 
+std::string PasswordIn(const std::string& connection_string) {
+  const std::string text = ";" + connection_string;
+  constexpr std::string_view kKey = ";pwd=";
+  const size_t key = basic::Lower(text).find(kKey);
+  if (key == std::string::npos) return {};
+  const std::string value = text.substr(key + kKey.size());
+  if (!value.starts_with('{')) return value.substr(0, value.find(';'));
+  std::string password;
+  for (size_t i = 1; i < value.size(); ++i) {
+    if (value[i] == '}' && value.substr(++i, 1) != "}") break;
+    password += value[i];
+  }
+  return password;
+}
+
 }  // namespace qvzj

@@ -32,4 +32,7 @@ struct ServerOptions {
 /// The ODBC connection string for a login. What a whole connection string already says is kept.
 std::string ConnectionString(const ServerLogin& login, const ServerOptions& options);
 
+/// The password that a whole connection string holds; "" when it holds none.
+std::string PasswordIn(const std::string& connection_string);
+
 }  // namespace qvzj

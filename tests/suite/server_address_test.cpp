@@ -69,5 +69,18 @@ TEST(ServerAddress, RequiresEncryptionWhereAsked) {
   EXPECT_NE(Text("h", options).find("Encrypt=yes;"), std::string::npos);
 }
 
+TEST(PasswordIn, ReadsPlainAndBracedValues) {
+  EXPECT_EQ(PasswordIn("DRIVER={a;b};Pwd=word;UID=u"), "word");
+  EXPECT_EQ(PasswordIn("PWD={a;b}}c=};UID=u"), "a;b}c=");
+  EXPECT_EQ(PasswordIn("UID=u;PWD=last"), "last");
+  EXPECT_EQ(PasswordIn("db.example:5432"), "");
+}
+
+TEST(PasswordIn, ReadsBackWhatAConnectionStringWasMadeOf) {
+  for (const std::string password : {"geheim;{1}", "}}", "plain", "a=b"}) {
+    EXPECT_EQ(PasswordIn(ConnectionString({"host", "u", password, "d"}, {})), password);
+  }
+}
+
 }  // namespace
 }  // namespace qvzj
