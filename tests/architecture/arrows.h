@@ -42,9 +42,7 @@ inline const std::vector<Rule>& Rules() {
       {"frontends/script",
        {"control", "forms", "screen", "services", "platform", "adapters"},
        {"nlohmann/"}},
-      {"frontends/qt",
-       {"control", "forms", "screen", "services", "platform", "adapters"},
-       {"Q", "xlsxwriter.h"}},
+      {"frontends/qt", {"control", "forms", "screen", "services", "platform", "adapters"}, {"Q"}},
   };
   return rules;
 }
