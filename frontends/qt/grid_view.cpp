@@ -86,7 +86,8 @@ void GridTable::paintEvent(QPaintEvent* event) {
   // The current row has a mark at its left edge, so that it stays clear among selected rows.
   QPainter painter(viewport());
   const int row = currentIndex().row();
-  painter.fillRect(0, rowViewportPosition(row), 3, rowHeight(row), ColorsFor(palette()).accent);
+  // The line under the row is not repainted with it.
+  painter.fillRect(0, rowViewportPosition(row), 3, rowHeight(row) - 1, ColorsFor(palette()).accent);
 }
 
 GridView::GridView(FormWindow& window, ui::Grid& grid, QWidget* parent)
