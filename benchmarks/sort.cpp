@@ -106,6 +106,7 @@ void Add(Size size) {
   const auto add = [rows](const char* name, auto run) {
     benchmark::RegisterBenchmark((std::string(name) + "/" + std::to_string(rows)).c_str(), run)
         ->UseManualTime()
+        ->Iterations(rows > 1'000 ? 9 : 1)
         ->Unit(benchmark::kMillisecond);
   };
   static const IcuTextOrder pinyin = IcuTextOrder::Pinyin();

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <map>
+#include <string>
+#include <vector>
 
 #include "platform/basic/errors.h"
 
@@ -42,25 +44,26 @@ IcuTextOrder IcuTextOrder::Pinyin() { return IcuTextOrder("zh-u-co-pinyin"); }
 IcuTextOrder IcuTextOrder::Stroke() { return IcuTextOrder("zh-Hant-u-co-stroke"); }
 
 std::string IcuTextOrder::SortKey(std::string_view text) const {
-  std::u16string wide(text.size(), u'\0');
+  // A sort asks for a million keys: the room to make them in is kept.
+  thread_local std::u16string wide;
+  thread_local std::vector<uint8_t> key(256);
+  if (wide.size() < text.size()) wide.resize(text.size());
   UErrorCode status = U_ZERO_ERROR;
   int32_t length = 0;
   u_strFromUTF8WithSub(wide.data(), static_cast<int32_t>(wide.size()), &length, text.data(),
                        static_cast<int32_t>(text.size()), 0xFFFD, nullptr, &status);
   Check(status);
-  std::string key(wide.size() * 4 + 16, '\0');
-  const auto room = [&key] { return static_cast<int32_t>(key.size()); };
   const auto fill = [&] {
-    return ucol_getSortKey(collator_.get(), wide.data(), length,
-                           reinterpret_cast<uint8_t*>(key.data()), room());
+    return ucol_getSortKey(collator_.get(), wide.data(), length, key.data(),
+                           static_cast<int32_t>(key.size()));
   };
   int32_t needed = fill();
-  if (needed > room()) {
+  if (needed > static_cast<int32_t>(key.size())) {
     key.resize(static_cast<size_t>(needed));
     needed = fill();
   }
-  key.resize(static_cast<size_t>(needed > 0 ? needed - 1 : 0));  // without the closing zero
-  return key;
+  // Without the closing zero.
+  return {key.begin(), key.begin() + std::max(needed - 1, 0)};
 }
 
 int IcuTextOrder::Compare(std::string_view a, std::string_view b) const {
