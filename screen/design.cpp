@@ -281,6 +281,10 @@ void DesignCaptions(frmZj& form, int16_t language) {
 }
 
 void ForgetRecord(frmZj& form) {
+  if (form.txtAcnt2(2).Tag() == form.lblKhName.Tag()) {
+    form.txtAcnt2(2).SetText("");
+    form.txtAcnt2(2).SetTag("0");
+  }
   form.lblKhName.SetCaption("客户名称");
   form.lblKhName.SetTag("0");
   for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetText("");

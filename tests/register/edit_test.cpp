@@ -302,6 +302,22 @@ TEST_F(RegisterEdit, HasNoCurrentRecordAfterTheLastOneWasDeleted) {
   EXPECT_EQ(form.txtAcnt(1).Text(), "");
 }
 
+TEST_F(RegisterEdit, TakesADeletedRecordOutOfTheEntryThatIsKeyed) {
+  Customers();
+  GoTo("华东电子");
+  frmZj& form = world.Form();
+  ASSERT_TRUE(form.UserClick(form.cmdAction(1)));
+  world.Type(form.txtAcnt2(1), "N1");
+  world.Type(form.txtAcnt2(4), "10");
+  Arm(3);
+  world.Answer("ok");
+  Save();
+  world.Messages();
+  ASSERT_TRUE(form.UserClick(form.cmdAcntSave));
+  EXPECT_EQ(world.Messages(), (Texts{"请选择 [客户单位] !"}));
+  EXPECT_EQ(Count("tAccountDetail"), "0");
+}
+
 TEST_F(RegisterEdit, ShowsTheCurrentRecordAgainWhenAnotherActionIsArmedAfterAnAdd) {
   Customers();
   GoTo("大地五金");
