@@ -96,6 +96,8 @@ void DesignEditor(frmZj& form) {
 }
 
 void DesignLedger(frmZj& form) {
+  form.cmdExit.SetClosesForm(true);
+  form.cmdTitleClose.SetClosesForm(true);
   form.cmdTitleClose.SetCaption("×");
   form.cmdTitleClose.SetTabStop(false);
   for (int i = 0; i < form.txtTotal.Count(); ++i) {

@@ -261,6 +261,17 @@ TEST_F(StartUp, ClosesOnEitherOfItsButtons) {
   EXPECT_EQ(world.control.Form(), nullptr);
 }
 
+TEST_F(StartUp, ClosesOnEitherOfItsButtonsWhileAFieldFailsItsCheck) {
+  for (const bool exit : {true, false}) {
+    frmZj& form = world.Open(0);
+    form.UserClick(form.chkBrief);
+    world.Type(form.txtBrief, "it's");
+    ASSERT_TRUE(form.UserClick(exit ? form.cmdExit : form.cmdTitleClose));
+    EXPECT_EQ(world.control.Form(), nullptr);
+    EXPECT_TRUE(world.Messages().empty());
+  }
+}
+
 TEST_F(StartUp, OpensAFreshFormAfterAClose) {
   frmZj& form = world.Open(0);
   form.UserClick(form.OptSelect(0));

@@ -247,6 +247,27 @@ TEST(Unload, WorksWhileAFieldFailsValidation) {
   EXPECT_TRUE(unloaded);
 }
 
+TEST(Unload, ByItsOwnButtonWorksWhileAFieldFailsValidation) {
+  Screen screen;
+  screen.text.onValidate = [](bool& cancel) { cancel = true; };
+  screen.button.SetClosesForm(true);
+  screen.button.onClick = [&] { screen.Unload(); };
+  screen.SetFocus(screen.text);
+  EXPECT_TRUE(screen.UserClick(screen.button));
+  EXPECT_FALSE(screen.Loaded());
+}
+
+TEST(Unload, ByItsOwnButtonNeedsTheButtonToBeThere) {
+  Screen screen;
+  int clicks = 0;
+  screen.button.SetClosesForm(true);
+  screen.button.onClick = [&] { ++clicks; };
+  screen.button.SetEnabled(false);
+  EXPECT_FALSE(screen.UserClick(screen.button));
+  EXPECT_FALSE(screen.UserPress(screen.button, 0, 0));
+  EXPECT_EQ(clicks, 0);
+}
+
 TEST(Unload, EndsTheActThatWasUnderWay) {
   Screen screen;
   int clicks = 0;
