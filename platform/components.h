@@ -25,22 +25,22 @@ struct DataAccess {
 
 /// What the print component is given, in the order in which it is set (see ledger/print).
 struct PrintJob {
-  int16_t kind = 0;                  ///< 1: 1 ledger, 0 register
-  int16_t language = 0;              ///< 2
-  std::vector<std::string> totals;   ///< 3: caption, value, caption, value, …
-  ui::Grid* grid = nullptr;          ///< 4
-  int16_t value5 = 0;                ///< 5
-  DataAccess access;                 ///< 6 to 10
-  std::string company;               ///< 11
-  std::string user;                  ///< 12
-  std::string value13;               ///< 13
-  std::string title;                 ///< 14
-  std::string report;                ///< 15: "qvzj_0", "qvzj_1" or ""
+  int16_t kind = 0;                 ///< 1: 1 ledger, 0 register
+  int16_t language = 0;             ///< 2
+  std::vector<std::string> totals;  ///< 3: caption, value, caption, value, …
+  ui::Grid* grid = nullptr;         ///< 4
+  int16_t value5 = 0;               ///< 5
+  DataAccess access;                ///< 6 to 10
+  std::string company;              ///< 11
+  std::string user;                 ///< 12
+  std::string value13;              ///< 13
+  std::string title;                ///< 14
+  std::string report;               ///< 15: "qvzj_0", "qvzj_1" or ""
   int16_t value16 = 1;
   int16_t value17 = 1;
   int16_t value18 = 0;
   int16_t value19 = 0;
-  std::string extra;                 ///< 20
+  std::string extra;  ///< 20
 };
 
 class PrintComponent {
@@ -61,8 +61,8 @@ struct UserCall {
   std::string comp_name;    ///< in and out
   std::string user_name;    ///< in and out; still empty after a login that failed
   int16_t flag = 0;
-  std::string function;     ///< record access: what was opened
-  std::string my_power;     ///< login: in and out, as are the rest
+  std::string function;  ///< record access: what was opened
+  std::string my_power;  ///< login: in and out, as are the rest
   std::string zg_name;
   std::string login_model;
   std::string login_info;

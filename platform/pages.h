@@ -21,10 +21,10 @@ class TextMetrics {
 enum class PrintAlign { Left, Center, Right };
 
 struct PlacedText {
-  double x = 0;       ///< left edge of the room
-  double y = 0;       ///< top edge of the line
-  double width = 0;   ///< room for the text
-  double size = 9;    ///< font size
+  double x = 0;      ///< left edge of the room
+  double y = 0;      ///< top edge of the line
+  double width = 0;  ///< room for the text
+  double size = 9;   ///< font size
   PrintAlign align = PrintAlign::Left;
   bool bold = false;
   std::string text;

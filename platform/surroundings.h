@@ -11,8 +11,8 @@ namespace qvzj {
 
 /// Everything the module asks of what surrounds it. The program that loads the component fills it
 /// once before the first call; a test may replace it between two. Pointers are not owned and must
-/// outlive the component; `print`, `task`, `user`, `exporter` and `text_order[…]` may be null where a program
-/// has none, and the function that needs them then says so.
+/// outlive the component; `print`, `task`, `user`, `exporter` and `text_order[…]` may be null where
+/// a program has none, and the function that needs them then says so.
 struct Surroundings {
   Boxes* boxes = nullptr;
   Settings* settings = nullptr;

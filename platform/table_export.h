@@ -22,9 +22,9 @@ struct ExportRequest {
 };
 
 struct ExportResult {
-  bool cancelled = false;           ///< no file was left, an older one stays as it was
+  bool cancelled = false;  ///< no file was left, an older one stays as it was
   int64_t rows = 0;
-  int64_t lost_characters = 0;      ///< written as "?" because the file's encoding lacks them
+  int64_t lost_characters = 0;  ///< written as "?" because the file's encoding lacks them
 };
 
 enum class ExportFormat { Xlsx, CsvUtf8, CsvGb18030 };

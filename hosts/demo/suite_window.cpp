@@ -58,9 +58,9 @@ SuiteWindow::SuiteWindow(DemoHost& host)
   AddOtherWays(*grid);
   grid->addWidget(language_, 5, 0);
   grid->addWidget(appearance_, 5, 1);
-  QWidget* const order[] = {customers_,     accounts_,      fund_customers_, fund_accounts_,
-                            customer_id_,   customer_name_, open_customer_,  language_,
-                            appearance_};
+  QWidget* const order[] = {customers_,     accounts_,    fund_customers_,
+                            fund_accounts_, customer_id_, customer_name_,
+                            open_customer_, language_,    appearance_};
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
   for (QWidget* part : findChildren<QWidget*>()) part->setStyle(qt::ThemeStyle());
 

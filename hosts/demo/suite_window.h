@@ -32,7 +32,7 @@ class SuiteWindow : public QWidget {
   QPushButton* accounts_;
   QPushButton* fund_customers_;  // the same registers under the fund system's title
   QPushButton* fund_accounts_;
-  QSpinBox* customer_id_;        // a customer that another screen of the suite names
+  QSpinBox* customer_id_;  // a customer that another screen of the suite names
   QLineEdit* customer_name_;
   QPushButton* open_customer_;
   QComboBox* language_;

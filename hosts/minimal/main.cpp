@@ -23,11 +23,11 @@ int main(int argc, char** argv) {
   QWidget* control = factory->CreateControl(&screen);
   auto* layout = new QVBoxLayout(&screen);
   layout->addWidget(control);
-  control->setProperty("UserPath", words[2]);        // the folder of the data file
-  control->setProperty("UserName", "张三");           // who works
-  control->setProperty("ZgName", "张三");             // nobody else needs gates in this host
+  control->setProperty("UserPath", words[2]);  // the folder of the data file
+  control->setProperty("UserName", "张三");    // who works
+  control->setProperty("ZgName", "张三");      // nobody else needs gates in this host
   control->setProperty("CompName", "示例公司");
-  control->setProperty("myModel", "11111111111");    // the 11th digit is the right to this module
+  control->setProperty("myModel", "11111111111");  // the 11th digit is the right to this module
   screen.show();
   QMetaObject::invokeMethod(control, "refresh", Q_ARG(int, 0), Q_ARG(int, 0));
   return QApplication::exec();

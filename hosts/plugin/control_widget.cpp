@@ -83,9 +83,8 @@ void ControlWidget::setUserID(const QString& value) { control_.setUserID(ToUtf8(
 void ControlWidget::setDefault(const QString& value) { control_.setDefault(ToUtf8(value)); }
 
 void ControlWidget::refresh(int MfRunMode, int myShowMode) {
-  OrWarn("refresh", [&] {
-    control_.refresh(basic::ToInt16(MfRunMode), basic::ToInt16(myShowMode));
-  });
+  OrWarn("refresh",
+         [&] { control_.refresh(basic::ToInt16(MfRunMode), basic::ToInt16(myShowMode)); });
 }
 
 QSize ControlWidget::sizeHint() const { return {220, 64}; }

@@ -11,8 +11,6 @@ QWidget* Plugin::CreateControl(QWidget* parent) {
   return new ControlWidget(parent);
 }
 
-QString Plugin::toolTip() const {
-  return QString::fromUtf8("客户往来帐与资金帐户管理");
-}
+QString Plugin::toolTip() const { return QString::fromUtf8("客户往来帐与资金帐户管理"); }
 
 }  // namespace qvzj

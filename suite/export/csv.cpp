@@ -89,8 +89,7 @@ ExportResult ExportCsv(const ExportRequest& request, bool gb18030) {
   for (int32_t column : columns) writer.Field(TextField(grid.Header(column)));
   writer.EndLine();
   for (int32_t row = 1; row <= grid.RowCount(); ++row) {
-    if (request.progress && row % kProgressRows == 0 &&
-        !request.progress(row, grid.RowCount())) {
+    if (request.progress && row % kProgressRows == 0 && !request.progress(row, grid.RowCount())) {
       return {true, row, 0};
     }
     for (int32_t column : columns) {

@@ -14,9 +14,9 @@ namespace qvzj {
 namespace {
 
 constexpr int32_t kProgressRows = 1000;
-constexpr int32_t kRowsOfASheet = 1'048'575;   // without the header
-constexpr int32_t kWidthSample = 1000;         // rows that a column's width is measured on
-constexpr double kWidestColumn = 60;           // in characters
+constexpr int32_t kRowsOfASheet = 1'048'575;  // without the header
+constexpr int32_t kWidthSample = 1000;        // rows that a column's width is measured on
+constexpr double kWidestColumn = 60;          // in characters
 constexpr size_t kLongestSheetName = 31;
 
 /// Closes the workbook when something throws before it was closed properly.
@@ -27,7 +27,8 @@ struct Discard {
 /// A title as a sheet may be named.
 std::string SheetName(const std::string& title, int part) {
   std::string name;
-  for (char c : title) name += std::string_view("[]:*?/\\'").find(c) == std::string_view::npos ? c : ' ';
+  for (char c : title)
+    name += std::string_view("[]:*?/\\'").find(c) == std::string_view::npos ? c : ' ';
   if (name.empty()) name = "Sheet";
   const std::string tail = part > 1 ? " (" + std::to_string(part) + ")" : "";
   return basic::Left(name, static_cast<int32_t>(kLongestSheetName - tail.size())) + tail;

@@ -11,17 +11,17 @@
 namespace qvzj {
 namespace {
 
-constexpr int32_t kProgressRows = 1000;     // rows between two progress reports
+constexpr int32_t kProgressRows = 1000;  // rows between two progress reports
 constexpr double kTitleSize = 16;
-constexpr double kTextSize = 9;             // head, foot and totals
+constexpr double kTextSize = 9;  // head, foot and totals
 constexpr double kLargestTable = 9;
-constexpr double kSmallestTable = 7;        // below this a line is wrapped rather than shrunk
-constexpr double kTiny = 5;                 // what many columns may still come down to
-constexpr double kPadding = 0.7;            // both sides of a cell, in em
-constexpr double kNarrowestWrap = 5;        // room a wrapped column keeps, in em
-constexpr double kLine = 1.35;              // line height, in em
+constexpr double kSmallestTable = 7;  // below this a line is wrapped rather than shrunk
+constexpr double kTiny = 5;           // what many columns may still come down to
+constexpr double kPadding = 0.7;      // both sides of a cell, in em
+constexpr double kNarrowestWrap = 5;  // room a wrapped column keeps, in em
+constexpr double kLine = 1.35;        // line height, in em
 constexpr int kTotalsInARow = 3;
-constexpr int32_t kRateColumn = 13;         // of the ledger grid: rate of the entry's currency
+constexpr int32_t kRateColumn = 13;  // of the ledger grid: rate of the entry's currency
 constexpr int16_t kLedger = 1;
 
 }  // namespace
@@ -41,8 +41,8 @@ PageLayout::PageLayout(const PrintJob& job, basic::Date print_date, const TextMe
 void PageLayout::ChooseColumns() {
   for (int32_t column = 1; column <= grid_.ColumnCount(); ++column) {
     if (grid_.ColumnHidden(column)) continue;
-    columns_.push_back({column, grid_.ColumnDecimals(column) >= 0,
-                        metrics_.Width(grid_.Header(column))});
+    columns_.push_back(
+        {column, grid_.ColumnDecimals(column) >= 0, metrics_.Width(grid_.Header(column))});
   }
 }
 
@@ -52,8 +52,7 @@ bool PageLayout::MeasureColumns(const Progress& progress) {
       return false;
     }
     for (PrintColumn& column : columns_) {
-      column.needed =
-          std::max(column.needed, metrics_.Width(grid_.CellText(column.column, row)));
+      column.needed = std::max(column.needed, metrics_.Width(grid_.CellText(column.column, row)));
     }
   }
   return true;
@@ -132,8 +131,8 @@ void PageLayout::BuildTotals() {
     totals_.push_back(job_.totals[i] + " " + job_.totals[i + 1]);
   }
   if (!job_.totals.empty() && LedgerInLocalCurrency()) {
-    in_words_ = words.amount_in_words +
-                AmountInWords(basic::Val(job_.totals.back()), job_.language);
+    in_words_ =
+        words.amount_in_words + AmountInWords(basic::Val(job_.totals.back()), job_.language);
   }
 }
 
@@ -173,9 +172,7 @@ int32_t PageLayout::RowLines(int32_t row) const {
   return static_cast<int32_t>(lines);
 }
 
-double PageLayout::RowHeight(int32_t lines) const {
-  return (lines * kLine + kPadding / 2) * size_;
-}
+double PageLayout::RowHeight(int32_t lines) const { return (lines * kLine + kPadding / 2) * size_; }
 
 double PageLayout::RowsTop() const {
   return paper_.margin + kTitleSize * kLine + kTextSize * (kLine + 0.5) + RowHeight(1);
@@ -210,8 +207,7 @@ bool PageLayout::BreakPages(const Progress& progress) {
 }
 
 int32_t PageLayout::LastRow(int page) const {
-  return page + 1 < PageCount() ? first_rows_[static_cast<size_t>(page) + 1] - 1
-                                : grid_.RowCount();
+  return page + 1 < PageCount() ? first_rows_[static_cast<size_t>(page) + 1] - 1 : grid_.RowCount();
 }
 
 Page PageLayout::MakePage(int number) const {
@@ -232,8 +228,7 @@ Page PageLayout::MakePage(int number) const {
 void PageLayout::PlaceHead(Page& page) const {
   const double left = paper_.margin;
   double y = paper_.margin;
-  page.texts.push_back(
-      {left, y, InnerWidth(), kTitleSize, PrintAlign::Center, true, job_.title});
+  page.texts.push_back({left, y, InnerWidth(), kTitleSize, PrintAlign::Center, true, job_.title});
   y += kTitleSize * kLine;
   page.texts.push_back({left, y, InnerWidth(), kTextSize, PrintAlign::Left, false, job_.company});
   page.texts.push_back({left, y, InnerWidth(), kTextSize, PrintAlign::Right, false,
@@ -259,8 +254,8 @@ double PageLayout::PlaceRow(Page& page, int32_t row, double y) const {
     const double room = column.width - kPadding * size_;
     double line_y = y + kPadding / 4 * size_;
     const std::string text = grid_.CellText(column.column, row);
-    for (std::string& line : column.number || !wraps_ ? std::vector<std::string>{text}
-                                                      : Wrap(text, room)) {
+    for (std::string& line :
+         column.number || !wraps_ ? std::vector<std::string>{text} : Wrap(text, room)) {
       if (!line.empty()) {
         page.texts.push_back({x + kPadding / 2 * size_, line_y, room, size_,
                               column.number ? PrintAlign::Right : PrintAlign::Left, false,

@@ -15,7 +15,7 @@ namespace qvzj {
 
 /// Paper in portrait; the layout turns it where the columns need the width.
 struct Paper {
-  double width = 595.28;   // A4
+  double width = 595.28;  // A4
   double height = 841.89;
   double margin = 36;
 };
@@ -77,9 +77,9 @@ class PageLayout : public PageSource {
   bool wraps_ = false;
   double size_ = 0;
   std::vector<PrintColumn> columns_;
-  std::vector<std::string> totals_;   // what the closing block says, in order
-  std::string in_words_;              // the last total in capital numerals, "" for none
-  std::vector<int32_t> first_rows_;   // first grid row of each page, past the end for totals alone
+  std::vector<std::string> totals_;  // what the closing block says, in order
+  std::string in_words_;             // the last total in capital numerals, "" for none
+  std::vector<int32_t> first_rows_;  // first grid row of each page, past the end for totals alone
 };
 
 }  // namespace qvzj

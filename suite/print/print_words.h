@@ -18,10 +18,10 @@ struct PrintWords {
 };
 
 inline const PrintWords& WordsOf(int16_t language) {
-  static constexpr PrintWords kSimplified{"打印日期: ", "制表人: ", "第 ", " 页 共 ", " 页",
-                                          "共 ",        " 条",      "人民币大写: "};
-  static constexpr PrintWords kTraditional{"打印日期: ", "製表人: ", "第 ", " 頁 共 ", " 頁",
-                                           "共 ",        " 條",      "人民幣大寫: "};
+  static constexpr PrintWords kSimplified{"打印日期: ", "制表人: ", "第 ", " 页 共 ",
+                                          " 页",        "共 ",      " 条", "人民币大写: "};
+  static constexpr PrintWords kTraditional{"打印日期: ", "製表人: ", "第 ", " 頁 共 ",
+                                           " 頁",        "共 ",      " 條", "人民幣大寫: "};
   return language == 1 ? kTraditional : kSimplified;
 }
 

@@ -30,7 +30,8 @@ void QtPageOutput::Output(const PageSource& pages, const std::string& title) {
     WritePdf(pages, pdf_path_, FromUtf8(title), font_, {});
     return;
   }
-  PreviewWindow preview(pages, FromUtf8(title), font_, traditional_(), QApplication::activeWindow());
+  PreviewWindow preview(pages, FromUtf8(title), font_, traditional_(),
+                        QApplication::activeWindow());
   preview.exec();
 }
 

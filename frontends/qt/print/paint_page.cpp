@@ -45,11 +45,10 @@ void PaintPage(QPainter& painter, const Page& page, const QFont& font) {
     sized.setPixelSize(qRound(unit(text.size)));
     sized.setBold(text.bold);
     painter.setFont(sized);
-    painter.drawText(QRectF(unit(text.x), unit(text.y), unit(text.width),
-                            unit(text.size * kLineHeight)),
-                     AlignmentOf(text.align) | Qt::AlignVCenter | Qt::TextSingleLine |
-                         Qt::TextDontClip,
-                     FromUtf8(text.text));
+    painter.drawText(
+        QRectF(unit(text.x), unit(text.y), unit(text.width), unit(text.size * kLineHeight)),
+        AlignmentOf(text.align) | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+        FromUtf8(text.text));
   }
   painter.restore();
 }
@@ -76,8 +75,8 @@ bool PaintPages(QPagedPaintDevice& device, int dots, const PageSource& pages, in
   return true;
 }
 
-bool WritePdf(const PageSource& pages, const QString& path, const QString& title,
-              const QFont& font, const Progress& progress) {
+bool WritePdf(const PageSource& pages, const QString& path, const QString& title, const QFont& font,
+              const Progress& progress) {
   QSaveFile file(path);
   const auto fail = [&] { throw Error(ToUtf8(path + ": " + file.errorString())); };
   if (!file.open(QIODevice::WriteOnly)) fail();

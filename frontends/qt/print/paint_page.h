@@ -19,7 +19,7 @@ bool PaintPages(QPagedPaintDevice& device, int dots, const PageSource& pages, in
                 const QFont& font, const Progress& progress);
 /// Writes all pages as a PDF file, under a temporary name until it is complete. False when
 /// `progress` cancelled. Throws Error when the file cannot be written.
-bool WritePdf(const PageSource& pages, const QString& path, const QString& title,
-              const QFont& font, const Progress& progress);
+bool WritePdf(const PageSource& pages, const QString& path, const QString& title, const QFont& font,
+              const Progress& progress);
 
 }  // namespace qvzj::qt

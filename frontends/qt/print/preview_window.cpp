@@ -76,9 +76,7 @@ void PreviewWindow::BuildToolBar() {
   next_->setShortcut(Qt::Key_PageDown);
   bar->addSeparator();
   const auto zoom = [this](double factor) {
-    return [this, factor] {
-      view_->SetZoom(qBound(kSmallest, view_->Zoom() * factor, kLargest));
-    };
+    return [this, factor] { view_->SetZoom(qBound(kSmallest, view_->Zoom() * factor, kLargest)); };
   };
   bar->addAction(Said("放大", "放大"), this, zoom(kZoomStep))->setShortcut(QKeySequence::ZoomIn);
   bar->addAction(Said("缩小", "縮小"), this, zoom(1 / kZoomStep))
@@ -111,9 +109,9 @@ void PreviewWindow::Print() {
 }
 
 void PreviewWindow::SavePdf() {
-  const QString path = QFileDialog::getSaveFileName(
-      this, Said("存为PDF", "存為PDF"), title_ + QStringLiteral(".pdf"),
-      QStringLiteral("PDF (*.pdf)"));
+  const QString path =
+      QFileDialog::getSaveFileName(this, Said("存为PDF", "存為PDF"),
+                                   title_ + QStringLiteral(".pdf"), QStringLiteral("PDF (*.pdf)"));
   if (path.isEmpty()) return;
   try {
     WorkDialog work(this, title_);

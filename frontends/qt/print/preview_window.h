@@ -16,8 +16,8 @@ class PreviewWindow : public QDialog {
   Q_OBJECT
 
  public:
-  PreviewWindow(const PageSource& pages, const QString& title, const QFont& font,
-                bool traditional, QWidget* parent = nullptr);
+  PreviewWindow(const PageSource& pages, const QString& title, const QFont& font, bool traditional,
+                QWidget* parent = nullptr);
 
  private:
   void BuildToolBar();

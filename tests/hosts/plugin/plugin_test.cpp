@@ -61,7 +61,8 @@ TEST(Plugin, SavesIntoAStoreOfTheHostAndRestoresFromIt) {
   control->setProperty("myName", QString::fromUtf8("乙"));
   control->setProperty("UserName", QString::fromUtf8("张三"));
   QVariantMap store;
-  ASSERT_TRUE(QMetaObject::invokeMethod(control, "SaveProperties", Q_RETURN_ARG(QVariantMap, store)));
+  ASSERT_TRUE(
+      QMetaObject::invokeMethod(control, "SaveProperties", Q_RETURN_ARG(QVariantMap, store)));
   EXPECT_EQ(store.value("myName").toString(), QString::fromUtf8("乙"));
   EXPECT_EQ(store.value("UserName").toString(), QString::fromUtf8("张三"));
   control->setProperty("myName", "");

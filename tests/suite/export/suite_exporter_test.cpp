@@ -49,9 +49,10 @@ class SuiteExporterTest : public testing::Test {
     return bytes.str();
   }
 
-  fs::path folder = fs::temp_directory_path() /
-                    ("qvzj-export-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                     "-" + ::testing::UnitTest::GetInstance()->current_test_info()->name());
+  fs::path folder =
+      fs::temp_directory_path() /
+      ("qvzj-export-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) + "-" +
+       ::testing::UnitTest::GetInstance()->current_test_info()->name());
   ui::Form form{"form"};
   ui::Grid grid{form, "Grid2"};
   ExportRequest request;
@@ -104,10 +105,10 @@ TEST_F(SuiteExporterTest, SaysWhenTheFileCannotBeWritten) {
 std::optional<std::string> ReadBack(const fs::path& workbook) {
   if (std::system("command -v soffice >/dev/null 2>&1") != 0) return std::nullopt;
   const std::string folder = workbook.parent_path().string();
-  const std::string command =
-      "HOME='" + folder + "' timeout 120 soffice --headless --convert-to "
-      "'csv:Text - txt - csv (StarCalc):44,34,76,1' --outdir '" + folder + "' '" +
-      workbook.string() + "' >/dev/null 2>&1";
+  const std::string command = "HOME='" + folder +
+                              "' timeout 120 soffice --headless --convert-to "
+                              "'csv:Text - txt - csv (StarCalc):44,34,76,1' --outdir '" +
+                              folder + "' '" + workbook.string() + "' >/dev/null 2>&1";
   EXPECT_EQ(std::system(command.c_str()), 0);
   std::ifstream in(fs::path(workbook).replace_extension("csv"), std::ios::binary);
   std::ostringstream bytes;

@@ -51,9 +51,7 @@ TEST(AmountInWords, WritesFractionsOfAYuanAlone) {
   EXPECT_EQ(Simplified(0.05), "伍分");
 }
 
-TEST(AmountInWords, BeginsNegativeAmountsWithMinus) {
-  EXPECT_EQ(Simplified(-100), "负壹佰元整");
-}
+TEST(AmountInWords, BeginsNegativeAmountsWithMinus) { EXPECT_EQ(Simplified(-100), "负壹佰元整"); }
 
 TEST(AmountInWords, RoundsHalfAFenAway) { EXPECT_EQ(Simplified(1.005), "壹元零壹分"); }
 
