@@ -57,7 +57,10 @@ void FormWindow::TakeInitialSize() {
     setFixedSize(wanted);
     return;
   }
-  resize(wanted.boundedTo(screen()->availableSize()));
+  const QSize room = screen()->availableSize();
+  resize(wanted.boundedTo(room));
+  // A screen too small for the designed size is used whole; forms arrange themselves to it then.
+  if (wanted.boundedTo(room) != wanted) setWindowState(windowState() | Qt::WindowMaximized);
 }
 
 QWidget* FormWindow::ParentFor(const ui::Control& control) {

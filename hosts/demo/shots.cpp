@@ -70,6 +70,7 @@ class Walk {
         boxes_(boxes),
         camera_(camera),
         name_(name) {
+    window_.showNormal();
     window_.resize(kShotSize);
   }
 

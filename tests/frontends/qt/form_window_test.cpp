@@ -26,6 +26,19 @@ TEST(FormWindow, PlacesControlsFifteenTwipsToThePixel) {
   EXPECT_EQ(window.ViewOf(label)->Widget()->geometry(), QRect(10, 20, 100, 22));
 }
 
+TEST(FormWindow, UsesASmallScreenWhole) {
+  ui::Form form("frm");
+  form.SetSize(90000, 90000);
+  form.SetLoaded(true);
+  ui::WindowState reported = ui::WindowState::Normal;
+  form.onResize = [&] { reported = form.GetWindowState(); };
+  qt::FormWindow window(form, {});
+  window.show();
+  QApplication::processEvents();
+  EXPECT_TRUE(window.isMaximized());
+  EXPECT_EQ(reported, ui::WindowState::Maximised);
+}
+
 TEST(FormWindow, FollowsWhatTheProgramChanges) {
   ui::Form form("frm");
   ui::Label label(form, "lbl");

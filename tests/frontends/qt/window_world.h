@@ -40,8 +40,8 @@ class WindowWorld : public World {
     frmZj& form = Open(run_mode);
     window_ = std::make_unique<qt::FormWindow>(
         form, qt::WindowOptions{[] { return int{Shared().Language}; }, nullptr});
+    window_->showNormal();
     window_->resize(width / 15, height / 15);
-    window_->show();
     window_->activateWindow();
     Settle();
     return form;
