@@ -29,9 +29,18 @@ int16_t StateOf(int16_t run_mode) {
   }
 }
 
+// The host waits for no field: a text that may not be left as it is, and must not be searched for,
+// goes back to its last valid one.
+void SettleField(frmZj& form) {
+  const ui::Control* field = form.Focused();
+  if (!field || field->GetKind() != ui::Kind::TextBox) return;
+  if (!form.SendTab()) form.UserKey(ui::Key::Named(ui::Key::Name::Escape));
+}
+
 // The screen opens on the customer that the host named, found again by its id.
 void OpenNamedCustomer(frmZj& form) {
   LoadForm(form);
+  SettleField(form);
   form.lblKhName.SetTag(std::to_string(Shared().myTaskID));
   form.txtSeek(1).SetText(Shared().myName);
   form.chkSeek2.SetValue(0);

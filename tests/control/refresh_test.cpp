@@ -296,6 +296,19 @@ TEST(RunModeNine, SearchesAgainOnAFormThatIsOpen) {
   EXPECT_EQ(form.lblKhName.Tag(), "2");
 }
 
+TEST(RunModeNine, TakesBackATextThatMayNotBeSearchedFor) {
+  World world;
+  frmZj& form = world.Open(0);
+  form.UserTab(form.SSTab1, 2);
+  form.UserClick(form.chkSeek(6));
+  world.Type(form.txtSeek(6), "O'Neil");
+  world.control.refresh(9, 0);
+  EXPECT_EQ(world.Messages(),
+            (std::vector<std::string>{"文本错误: 文本中不可含有<引号>或<单引号> !"}));
+  EXPECT_EQ(form.txtSeek(6).Text(), "");
+  EXPECT_EQ(form.registerCondition, "1=1 And a.telphone like '%'");
+}
+
 TEST(Control, ClosesItsFormWhenTheHostDestroysIt) {
   World world;
   {
