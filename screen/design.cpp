@@ -45,6 +45,14 @@ constexpr std::array<int32_t, 18> kLedgerWidths = {1170, 1560, 2040, 1395, 1395,
                                                    1950, 1560, 1560, 900,  900,  900,
                                                    800,  600,  600,  800,  800,  800};
 
+/// A field that fails its check must not keep the user from giving up or leaving.
+void DesignWaysOut(frmZj& form) {
+  for (ui::Button* button : {&form.cmdExit, &form.cmdTitleClose, &form.cmdAcntCancel,
+                             &form.cmdKhCancel, &form.cmdCancel}) {
+    button->SetCausesValidation(false);
+  }
+}
+
 void DesignRegister(frmZj& form) {
   form.lblKhName.SetHeading(true);
   form.fraSeekKh.SetOutlined(false);
@@ -96,8 +104,6 @@ void DesignEditor(frmZj& form) {
 }
 
 void DesignLedger(frmZj& form) {
-  form.cmdExit.SetClosesForm(true);
-  form.cmdTitleClose.SetClosesForm(true);
   form.cmdTitleClose.SetCaption("×");
   form.cmdTitleClose.SetTabStop(false);
   for (int i = 0; i < form.txtTotal.Count(); ++i) {
@@ -253,6 +259,7 @@ void frmZj::Design() {
   DesignEditor(*this);
   DesignLedger(*this);
   DesignTabOrder(*this);
+  DesignWaysOut(*this);
   DesignCaptions(*this, 0);
   ResetForm(*this);
   // A size that shows every column of interest on a usual screen; the window may change it.

@@ -91,6 +91,11 @@ class Control {
   void SetTabIndex(int index) { tab_index_ = index; }
   bool TabStop() const { return tab_stop_; }
   void SetTabStop(bool stop) { tab_stop_ = stop; }
+  /// False for a button that gives up what the fields of its container hold (all fields for one
+  /// that stands on the form itself), such as Cancel or Exit: such a field is not validated when
+  /// the user presses it.
+  bool CausesValidation() const { return causes_validation_; }
+  void SetCausesValidation(bool causes) { causes_validation_ = causes; }
   /// Name for assistive technology; the caption without its mark where none is set.
   std::string AccessibleName() const;
   void SetAccessibleName(std::string name) { accessible_name_ = std::move(name); }
@@ -125,6 +130,7 @@ class Control {
   bool enabled_ = true;
   bool visible_ = true;
   bool tab_stop_ = true;
+  bool causes_validation_ = true;
 };
 
 /// The access key of a caption ("S" in "存盘(&S)"), upper case; 0 when it has none. "&&" is a

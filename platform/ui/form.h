@@ -169,7 +169,6 @@ class Form {
 
   // Acts (form_acts.cpp).
   bool Click(Control& control);
-  bool EnterToClick(Control& control);
   bool Press(Button& button);
   bool Choose(ComboBox& combo, int32_t index);
   bool Choose(ListBox& list, int32_t index);

@@ -6,10 +6,6 @@ namespace {
 
 bool IsSeparator(const Control& control) { return control.Caption() == "-"; }
 
-bool ClosesForm(const Control& control) {
-  return control.GetKind() == Kind::Button && static_cast<const Button&>(control).ClosesForm();
-}
-
 }  // namespace
 
 bool Form::UserClick(Control& control) {
@@ -25,7 +21,7 @@ bool Form::Click(Control& control) {
     Raise(static_cast<MenuItem&>(control).onClick);
     return true;
   }
-  if (!EnterToClick(control)) return false;
+  if (!Enter(control)) return false;
   switch (control.GetKind()) {
     case Kind::Button:
       return Press(static_cast<Button&>(control));
@@ -52,11 +48,6 @@ bool Form::Click(Control& control) {
   return true;
 }
 
-/// Gives a control the focus before a click; false when it cannot be clicked.
-bool Form::EnterToClick(Control& control) {
-  return ClosesForm(control) ? control.CanFocus() : Enter(control);
-}
-
 bool Form::Press(Button& button) {
   if (button.onClick) {
     Raise(button.onClick);
@@ -68,7 +59,7 @@ bool Form::Press(Button& button) {
 
 bool Form::UserPress(Button& button, int32_t x, int32_t y) {
   return Act([&] {
-    if (!EnterToClick(button)) return false;
+    if (!Enter(button)) return false;
     Raise(button.onMouseDown, x, y);
     if (button.CanFocus()) Raise(button.onClick);
     return true;

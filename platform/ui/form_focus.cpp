@@ -25,6 +25,13 @@ bool IsStop(const Control& control, const std::vector<Control*>& order) {
   return true;
 }
 
+/// True when pressing `control` gives up what `field` holds.
+bool GivesUp(const Control& control, const Control* field) {
+  if (control.CausesValidation()) return false;
+  while (field && field != control.Container()) field = field->Container();
+  return field == control.Container();
+}
+
 bool SameOptionGroup(const Control& from, const Control& to) {
   return from.GetKind() == Kind::OptionButton &&
          static_cast<const OptionButton&>(from).Excludes(to);
@@ -59,7 +66,8 @@ bool Form::Step(bool backwards) {
 bool Form::Enter(Control& control) {
   if (!control.CanFocus()) return false;
   if (&control == focused_) return true;
-  if (!MayLeave() || !control.CanFocus()) return false;
+  if (!GivesUp(control, focused_) && !MayLeave()) return false;
+  if (!control.CanFocus()) return false;
   MoveFocus(&control);
   return focused_ == &control;
 }

@@ -31,18 +31,10 @@ class Button : public Control {
   Button(Form& form, std::string name, int index = -1, Control* container = nullptr, int page = -1)
       : Control(form, Kind::Button, std::move(name), index, container, page) {}
 
-  /// True for a button that closes its form: a click takes no focus, so that it works whatever the
-  /// focused field holds.
-  bool ClosesForm() const { return closes_form_; }
-  void SetClosesForm(bool closes) { closes_form_ = closes; }
-
   std::function<void()> onClick;
   /// The mouse went down on the button at x, y (twips inside it). A keyboard press of a button
   /// that has only this event raises it at 0, 0.
   std::function<void(int32_t x, int32_t y)> onMouseDown;
-
- private:
-  bool closes_form_ = false;
 };
 
 /// A frame or panel that holds other controls.

@@ -28,6 +28,32 @@ TEST(Focus, LeavesNoSelectionBehindInAField) {
   EXPECT_EQ(screen.text.SelLength(), 0);
 }
 
+TEST(Focus, IsGivenUnaskedToAButtonThatGivesUpWhatTheFieldHolds) {
+  Screen screen;
+  int checks = 0;
+  bool pressed = false;
+  screen.text.onValidate = [&](bool& cancel) {
+    ++checks;
+    cancel = true;
+  };
+  screen.button.onClick = [&] { pressed = true; };
+  screen.button.SetCausesValidation(false);
+  screen.SetFocus(screen.text);
+  EXPECT_TRUE(screen.UserClick(screen.button));
+  EXPECT_TRUE(pressed);
+  EXPECT_EQ(checks, 0);
+}
+
+TEST(Focus, StaysInAFieldOutsideTheContainerOfAButtonThatGivesUp) {
+  Screen screen;
+  screen.text.onValidate = [](bool& cancel) { cancel = true; };
+  screen.inner_button.SetCausesValidation(false);
+  screen.SetFocus(screen.text);
+  ASSERT_NE(screen.inner_button.Container(), screen.text.Container());
+  EXPECT_FALSE(screen.UserClick(screen.inner_button));
+  EXPECT_EQ(screen.Focused(), &screen.text);
+}
+
 TEST(Focus, StaysInAFieldThatFailsValidation) {
   Screen screen;
   screen.text.onValidate = [](bool& cancel) { cancel = true; };
@@ -250,7 +276,7 @@ TEST(Unload, WorksWhileAFieldFailsValidation) {
 TEST(Unload, ByItsOwnButtonWorksWhileAFieldFailsValidation) {
   Screen screen;
   screen.text.onValidate = [](bool& cancel) { cancel = true; };
-  screen.button.SetClosesForm(true);
+  screen.button.SetCausesValidation(false);
   screen.button.onClick = [&] { screen.Unload(); };
   screen.SetFocus(screen.text);
   EXPECT_TRUE(screen.UserClick(screen.button));
@@ -260,7 +286,7 @@ TEST(Unload, ByItsOwnButtonWorksWhileAFieldFailsValidation) {
 TEST(Unload, ByItsOwnButtonNeedsTheButtonToBeThere) {
   Screen screen;
   int clicks = 0;
-  screen.button.SetClosesForm(true);
+  screen.button.SetCausesValidation(false);
   screen.button.onClick = [&] { ++clicks; };
   screen.button.SetEnabled(false);
   EXPECT_FALSE(screen.UserClick(screen.button));
