@@ -12,7 +12,6 @@ namespace {
 void LoadRegisterOfCustomers(benchmark::State& state, int32_t customers) {
   World world(customers, 10'000);
   frmZj& form = world.Form();
-  form.UserClick(form.OptSelect(2));
   LoadRegister(form, form.registerCondition);
   const std::string customers_sql = world.Translated("select distinct a.CompCode");
   const std::string ledger_sql = world.Translated("Select b.fDate,");

@@ -102,7 +102,6 @@ void StartUp(benchmark::State& state, int32_t customers, int32_t entries) {
   std::vector<std::string> best_words{folder};
   {
     World world(customers, entries);
-    world.Form().UserClick(world.Form().OptSelect(2));  // as it is when the form opens
     best_words.push_back(world.Translated("select distinct a.CompCode"));
     best_words.push_back(world.Translated("Select b.fDate,"));
   }

@@ -110,7 +110,6 @@ World::World(int32_t customers, int32_t entries) : engine(DataFolder(customers, 
   AllowEverything(control_, DataFolder(customers, entries).string());
   control_.refresh(0, 0);
   if (!control_.Form()) throw std::runtime_error("the main form did not open");
-  Form().UserClick(Form().OptSelect(0));
 }
 
 World::~World() {

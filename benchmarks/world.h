@@ -38,8 +38,8 @@ class Engine {
 /// Gives a control the data folder and a user who may do everything.
 void AllowEverything(qvJxc_Zj& control, const std::string& folder);
 
-/// A control opened without a window on such a folder, in customers mode, showing all entries, and
-/// a second connection to measure the engine alone.
+/// A control opened without a window on such a folder, in customers mode, showing one customer's
+/// entries, and a second connection to measure the engine alone.
 class World {
  public:
   World(int32_t customers, int32_t entries);
