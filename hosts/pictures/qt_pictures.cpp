@@ -47,6 +47,7 @@ QImage Draw(ui::Form& form) {
   options.language = [] { return int{Shared().Language}; };
   qt::FormWindow window(form, options);
   if (window.Resizable()) {
+    window.setWindowState(Qt::WindowNoState);  // a small screen would have it maximised
     window.resize(qt::ToPixels(form.Width(), window.logicalDpiX()),
                   qt::ToPixels(form.Height(), window.logicalDpiY()));
   }
