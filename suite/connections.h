@@ -12,7 +12,8 @@
 namespace qvzj {
 
 struct ConnectionOptions {
-  /// How long a statement waits for another process that holds the data file.
+  /// How long a statement waits for another process that holds the data file, or on a server for
+  /// another session that holds its rows or table.
   std::chrono::milliseconds busy_timeout{10000};
   /// Language of the user, asked at every statement: texts order by pinyin for 0 and by strokes
   /// for 1. Empty: by pinyin.

@@ -21,6 +21,7 @@ std::unique_ptr<data::Store> OpenServer(const ServerLogin& login,
   odbc.secrets = {login.password, PasswordIn(login.address)};
   odbc.login_timeout = options.login_timeout;
   odbc.statement_timeout = options.statement_timeout;
+  odbc.lock_timeout = options.busy_timeout;
   odbc.language = options.language;
   return std::make_unique<OdbcSession>(std::move(odbc));
 }

@@ -17,6 +17,8 @@ struct ServerLogin {
   std::string user;
   std::string password;
   std::string database;
+
+  bool operator==(const ServerLogin&) const = default;
 };
 
 struct ServerOptions {

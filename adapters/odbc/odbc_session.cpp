@@ -47,7 +47,12 @@ void HideWord(std::string& text, const std::string& secret) {
   }
 }
 
-void Start(const OdbcStatement& statement, const std::string& sql) {
+/// Runs it; ended by the server when it takes longer than `timeout` seconds, unless that is 0.
+void Start(const OdbcStatement& statement, const std::string& sql, int timeout) {
+  if (timeout > 0) {
+    SQLSetStmtAttr(statement.Get(), SQL_ATTR_QUERY_TIMEOUT,
+                   reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(timeout)), 0);
+  }
   std::u16string wide = ToUtf16(sql);
   const SQLRETURN result = SQLExecDirectW(statement.Get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
                                           static_cast<SQLINTEGER>(wide.size()));
@@ -76,11 +81,14 @@ void OdbcSession::Connect() {
 }
 
 void OdbcSession::Prepare() {
+  const std::string patience = std::to_string(options_.lock_timeout.count());
   if (options_.engine == ServerEngine::TransactSql) {
     RunOnce("SET DATEFORMAT mdy");
+    RunOnce("SET LOCK_TIMEOUT " + (patience == "0" ? "-1" : patience));
     return;
   }
   RunOnce("SET standard_conforming_strings = on");
+  RunOnce("SET lock_timeout = " + patience);
   // The suite's own orders let case decide nothing; a database without them has its engine's.
   text_orders_[0] = "\"zh-Hans-x-icu\"";
   text_orders_[1] = "\"zh-Hant-x-icu\"";
@@ -142,12 +150,7 @@ data::Recordset OdbcSession::RunOnce(const std::string& sql) {
   const OdbcStatement statement(connection_->Get());
   // The module's texts hold braces and question marks that are nobody's parameters.
   SQLSetStmtAttr(statement.Get(), SQL_ATTR_NOSCAN, reinterpret_cast<SQLPOINTER>(SQL_NOSCAN_ON), 0);
-  if (options_.statement_timeout > 0) {
-    SQLSetStmtAttr(statement.Get(), SQL_ATTR_QUERY_TIMEOUT,
-                   reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(options_.statement_timeout)),
-                   0);
-  }
-  Start(statement, sql);
+  Start(statement, sql, options_.statement_timeout);
   return FetchAll(statement, connection_->ReadsLongValuesInBlocks());
 }
 
@@ -157,7 +160,7 @@ OdbcSchema::Columns OdbcSession::DescribeTable(const std::string& table) {
   OdbcSchema::Columns columns;
   try {
     const OdbcStatement statement(connection_->Get());
-    Start(statement, "select * from " + table + " where 1=0");
+    Start(statement, "select * from " + table + " where 1=0", options_.statement_timeout);
     for (OdbcColumn& column : DescribeColumns(statement)) {
       columns.emplace(basic::Lower(column.name), column.type);
     }

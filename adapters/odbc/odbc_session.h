@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -32,6 +33,8 @@ struct OdbcOptions {
   int login_timeout = 10;
   /// Seconds a statement may take; 0 = no limit.
   int statement_timeout = 0;
+  /// How long a statement waits for a row or table that another session holds; 0 = without end.
+  std::chrono::milliseconds lock_timeout{10000};
   /// Order of texts, asked at every statement: 0 by pinyin, 1 by strokes. Empty: by pinyin.
   std::function<int()> language;
 };

@@ -32,19 +32,20 @@ class OwnConnection {
  public:
   data::Recordset Run(std::string_view statement) {
     const Context& context = Shared();
-    const ServerLogin login{context.UserPath, context.UserID, context.Password, context.Default};
-    if (!run_ || kind_ != context.SQLData || path_ != context.UserPath) {
-      kind_ = context.SQLData;
-      path_ = context.UserPath;
-      run_ = OpenNative(kind_ == 0 ? 0 : 1, login, {});
+    const uint8_t kind = context.SQLData == 0 ? 0 : 1;
+    ServerLogin login{context.UserPath, context.UserID, context.Password, context.Default};
+    if (!run_ || kind_ != kind || login_ != login) {
+      run_ = OpenNative(kind, login, {});
+      kind_ = kind;
+      login_ = std::move(login);
     }
     return run_(statement);
   }
 
  private:
   NativeStatements run_;
-  int16_t kind_ = 0;
-  std::string path_;
+  uint8_t kind_ = 0;
+  ServerLogin login_;
 };
 
 /// What the host presets before a script begins; a script may overwrite each.

@@ -1,2 +1,2 @@
-# A second data folder whose first customer has another name.
-cp -r data second
+# A second place whose only customer the scenario adds.
+"$QVDB" init $QVDB_SECOND --currency RMB

@@ -1,12 +1,14 @@
 #include "tests/scenarios/play.h"
 
 #include <fcntl.h>
+#include <stdlib.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdio>
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <stdexcept>
 
@@ -19,6 +21,30 @@ namespace fs = std::filesystem;
 constexpr int kDacOverride = 1;
 
 }  // namespace
+
+void WritePropertyStore(const fs::path& file, const ScenarioPlace& place) {
+  std::ofstream(file) << R"({"myModel": "11111111111", "ZgName": "admin", "UserPath": ")"
+                      << place.path << R"(", "Password": ")" << place.password
+                      << R"(", "SQLData": )" << (place.database.empty() ? 0 : 1)
+                      << R"(, "UserID": ")" << place.user << R"(", "Default": ")" << place.database
+                      << "\"}\n";
+}
+
+void TellSecondPlace(const ScenarioPlace& place) {
+  std::string options = "--data " + place.path;
+  if (!place.database.empty()) {
+    options = "--server " + place.path + " --user " + place.user + " --database " + place.database;
+    setenv("QVDB_PASSWORD", place.password.c_str(), 1);
+  }
+  setenv("QVDB_SECOND", options.c_str(), 1);
+}
+
+std::string OnlyEngine(const fs::path& scenario) {
+  static const std::regex line("(^|\n)# engine: ([a-z]+)\n");
+  std::smatch found;
+  const std::string script = Content(scenario);
+  return std::regex_search(script, found, line) ? found[2].str() : "";
+}
 
 std::string Content(const fs::path& file) {
   std::ifstream in(file, std::ios::binary);

@@ -3,14 +3,17 @@
 //   scenario_runner [--update] PROGRAM SCENARIO.qvs
 //
 // The scenario runs in a folder of its own, with the data folder "data" in it: the schema, the
-// rows of fixture.sql and those of SCENARIO.sql, if there is one. SCENARIO.sh, if there is one,
-// runs in the folder before the program does. The output must equal SCENARIO.out line by line and
+// rows of fixture.sql and those of SCENARIO.sql, if there is one. Beside it lies "second", whose
+// data file is empty. The property stores first.json and second.json open them. SCENARIO.sh, if
+// there is one, runs in the folder before the program does; "qvdb … $QVDB_SECOND" works on the
+// second place. The output must equal SCENARIO.out line by line and
 // the program must end with 0. --update writes SCENARIO.out instead of comparing.
 
 #include <stdlib.h>
 
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -39,6 +42,11 @@ void PrepareData(const fs::path& folder, const fs::path& scenario) {
 int Play(const fs::path& program, const fs::path& scenario, const fs::path& folder,
          const fs::path& printed) {
   PrepareData(folder / "data", scenario);
+  fs::create_directory(folder / "second");
+  std::ofstream(folder / "second" / qvzj::kDataFile).flush();
+  WritePropertyStore(folder / "first.json", {"data", "", "", ""});
+  WritePropertyStore(folder / "second.json", {"second", "", "", ""});
+  TellSecondPlace({"second", "", "", ""});
   const fs::path script = Beside(scenario, ".sh");
   if (fs::exists(script) && RunIn(folder, {"sh", "-eu", script.string()}, {}) != 0) {
     throw std::runtime_error(script.string() + " failed");

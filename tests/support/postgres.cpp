@@ -185,12 +185,19 @@ void PrivatePostgres::RunAll(const std::string& database,
 
 std::string PrivatePostgres::MakeDatabase() {
   constexpr const char* kTemplate = "qvzj_empty";
-  if (databases_ == 0) {
+  if (!has_template_) {
     Run("postgres", std::string("create database ") + kTemplate);
     RunAll(kTemplate, PostgresSchema());
+    has_template_ = true;
   }
+  return MakeFrom(kTemplate);
+}
+
+std::string PrivatePostgres::MakeBareDatabase() { return MakeFrom("template0"); }
+
+std::string PrivatePostgres::MakeFrom(const std::string& model) {
   const std::string name = "qvzj_" + std::to_string(++databases_);
-  Run("postgres", "create database " + name + " template " + kTemplate);
+  Run("postgres", "create database " + name + " template " + model);
   return name;
 }
 

@@ -31,6 +31,8 @@ class PrivatePostgres {
 
   /// Makes a database with the suite's empty tables and answers its name.
   std::string MakeDatabase();
+  /// The same without tables.
+  std::string MakeBareDatabase();
   /// Runs statements in the server's own language on `database`, one at a time.
   void Run(const std::string& database, const std::string& sql) { RunAll(database, {sql}); }
   void RunAll(const std::string& database, const std::vector<std::string>& statements);
@@ -43,6 +45,7 @@ class PrivatePostgres {
   void Start();
 
  private:
+  std::string MakeFrom(const std::string& model);
   void InitializeCluster();
   void SpawnServer();
   std::filesystem::path Log() const { return folder_.Path() / "log"; }
@@ -50,6 +53,7 @@ class PrivatePostgres {
   TemporaryFolder folder_;
   int port_ = 0;
   pid_t server_ = -1;
+  bool has_template_ = false;
   int databases_ = 0;
 };
 

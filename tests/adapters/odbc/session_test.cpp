@@ -48,6 +48,22 @@ class OdbcSessions : public testing::Test {
   std::string database_;
 };
 
+/// Holds the table of customers alone through a session of its own.
+class TableHeld {
+ public:
+  explicit TableHeld(std::unique_ptr<data::Session> session) : session_(std::move(session)) {
+    auto& holding = static_cast<OdbcSession&>(*session_);
+    holding.Native("begin");
+    holding.Native("lock table cards in access exclusive mode");
+  }
+  ~TableHeld() { static_cast<OdbcSession&>(*session_).Native("rollback"); }
+  TableHeld(const TableHeld&) = delete;
+  TableHeld& operator=(const TableHeld&) = delete;
+
+ private:
+  std::unique_ptr<data::Session> session_;
+};
+
 constexpr const char* kInsert = "Insert Into cards (fID,compname) Values (5,'甲公司')";
 constexpr const char* kCount = "select count(*) from cards";
 
@@ -126,16 +142,26 @@ TEST_F(OdbcSessions, ReportAServerThatStaysAwayAndWorkOnceItIsBack) {
 }
 
 TEST_F(OdbcSessions, EndAStatementThatTakesTooLong) {
+  Open()->Execute(kInsert);
   ConnectionOptions options;
   options.statement_timeout = 1;
   auto session = Open(options);
-  auto holder = Open();
-  auto& holding = static_cast<OdbcSession&>(*holder);
+  const TableHeld held(Open());
+  const std::string text = Failure(*session, "Delete from cards Where fID=5");
+  EXPECT_NE(text.find("statement timeout"), std::string::npos) << text;
+}
+
+TEST_F(OdbcSessions, WaitForAnotherSessionAndThenSaySoAndGoOn) {
+  ConnectionOptions options;
+  options.busy_timeout = std::chrono::milliseconds(100);
+  auto session = Open(options);
   session->Execute(kInsert);
-  holding.Native("begin");
-  holding.Native("lock table cards in access exclusive mode");
-  EXPECT_NE(Failure(*session, "Delete from cards Where fID=5"), "");
-  holding.Native("rollback");
+  {
+    const TableHeld held(Open());
+    const std::string text = Failure(*session, "Delete from cards Where fID=5");
+    EXPECT_NE(text.find("lock timeout"), std::string::npos) << text;
+    EXPECT_NE(Failure(*session, "Update cards Set fType0=1 Where fID=5"), "");
+  }
   EXPECT_EQ(session->Query(kCount).Text(0), "1");
 }
 
