@@ -24,9 +24,11 @@ all   qt6-base-dev         the window, printing and PDF
 all   qt6-tools-dev        the plug-in for Qt Designer, and the form loader that tests it
 all   libqt6opengl6-dev    what the form loader's build files ask for
 run   fonts-noto-cjk       Chinese letters on a machine that has none
+run   qt6-translations-l10n  the toolkit's own dialogs (files, printers) in Chinese
 test  libgtest-dev         the test framework
 test  libbenchmark-dev     every benchmark also runs once as a test
 test  fonts-noto-cjk       the window's tests measure Chinese text
+test  qt6-translations-l10n  a test asks whether those dialogs speak Chinese
 test  xvfb                 an X server without a screen, for the test by real keys
 test  xdotool              presses those keys
 test  postgresql-15        a private server for the tests of the server dialect

@@ -68,10 +68,8 @@ QWidget* Owner() {
 
 }  // namespace
 
-void QtBoxes::Dress(QDialog& dialog) const {
-  dialog.setFont(ThemeFont(language_() == 1));
-  dialog.setPalette(ThemePalette(Appearance::System));
-  for (QWidget* part : dialog.findChildren<QWidget*>()) part->setStyle(ThemeStyle());
+void QtBoxes::DressBox(QDialog& dialog) const {
+  Dress(dialog, language_() == 1);
   for (QPushButton* button : dialog.findChildren<QPushButton*>()) button->setMinimumSize(80, 28);
 }
 
@@ -94,7 +92,7 @@ Answer QtBoxes::Show(const std::string& text, int style, const std::string& titl
   }
   box.setDefaultButton(accept);
   box.setEscapeButton(reject != nullptr ? reject : accept);
-  Dress(box);
+  DressBox(box);
   box.exec();
   if (owner) owner->activateWindow();
 
@@ -114,7 +112,7 @@ std::optional<std::string> QtBoxes::Input(const std::string& prompt, const std::
   dialog.setOkButtonText(texts.ok);
   dialog.setCancelButtonText(texts.cancel);
   dialog.setMinimumWidth(360);
-  Dress(dialog);
+  DressBox(dialog);
   const bool accepted = dialog.exec() == QDialog::Accepted;
   if (owner) owner->activateWindow();
   if (!accepted) return std::nullopt;

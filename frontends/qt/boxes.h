@@ -21,7 +21,7 @@ class QtBoxes : public Boxes {
   void Error(const std::string& text, const std::string& title) override;
 
  private:
-  void Dress(QDialog& dialog) const;
+  void DressBox(QDialog& dialog) const;
 
   std::function<int()> language_;
 };

@@ -1,6 +1,7 @@
 #include "frontends/qt/calm_style.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
@@ -15,12 +16,13 @@ namespace {
 
 bool Has(const QStyleOption& option, QStyle::StateFlag flag) { return option.state.testFlag(flag); }
 
-/// The two-stroke arrow of drop-down fields.
-void DrawChevron(QPainter& painter, const QRect& rect, const QColor& color) {
+/// The two-stroke arrow of drop-down and number fields.
+void DrawChevron(QPainter& painter, const QRect& rect, const QColor& color, bool up = false) {
   const QPointF center = QRectF(rect).center();
-  QPainterPath path(center + QPointF(-3.5, -1.75));
-  path.lineTo(center + QPointF(0, 1.75));
-  path.lineTo(center + QPointF(3.5, -1.75));
+  const double rise = up ? 1.75 : -1.75;
+  QPainterPath path(center + QPointF(-3.5, rise));
+  path.lineTo(center + QPointF(0, -rise));
+  path.lineTo(center + QPointF(3.5, rise));
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -274,6 +276,15 @@ void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     DrawDropDown(*option, *painter, arrow, IsReadOnly(widget));
     return;
   }
+  const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
+  if (control == CC_SpinBox && spin != nullptr) {
+    DrawField(*option, *painter, false);
+    if (spin->buttonSymbols == QAbstractSpinBox::NoButtons) return;
+    const QColor color = ColorsFor(option->palette).text;
+    DrawChevron(*painter, subControlRect(control, option, SC_SpinBoxUp, widget), color, true);
+    DrawChevron(*painter, subControlRect(control, option, SC_SpinBoxDown, widget), color);
+    return;
+  }
   const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
   if (control == CC_ScrollBar && bar != nullptr) {
     DrawScrollBar(*bar, *painter);
@@ -327,6 +338,7 @@ int CalmStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
   switch (hint) {
     case SH_ComboBox_Popup:
       return 0;  // drop the list below the field, so that the field stays readable
+    case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:
       return 0;

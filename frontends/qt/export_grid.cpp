@@ -1,45 +1,17 @@
 #include "frontends/qt/export_grid.h"
 
-#include <QFileDialog>
 #include <exception>
 
+#include "frontends/qt/ask_file.h"
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/native_texts.h"
-#include "frontends/qt/print/work_dialog.h"
 #include "frontends/qt/text.h"
+#include "frontends/qt/work_dialog.h"
 #include "platform/surroundings.h"
 
 namespace qvzj::qt {
 
 namespace {
-
-struct Target {
-  QString path;
-  ExportFormat format = ExportFormat::Xlsx;
-};
-
-/// The file and format the user chose; an empty path when there is none.
-Target AskTarget(FormWindow& window, const QString& title, const NativeTexts& texts) {
-  const QString workbook = texts.excel_file + " (*.xlsx)";
-  const QString utf8 = texts.csv_utf8_file + " (*.csv)";
-  const QString gb18030 = texts.csv_gb_file + " (*.csv)";
-  QString chosen = workbook;
-  Target target;
-  target.path = QFileDialog::getSaveFileName(
-      &window, title, title + ".xlsx", QStringList{workbook, utf8, gb18030}.join(";;"), &chosen);
-  if (target.path.isEmpty()) return target;
-  if (chosen == utf8) target.format = ExportFormat::CsvUtf8;
-  if (chosen == gb18030) target.format = ExportFormat::CsvGb18030;
-  // The name's ending follows the format, not the other way round.
-  const QString ending = target.format == ExportFormat::Xlsx ? ".xlsx" : ".csv";
-  if (!target.path.endsWith(ending, Qt::CaseInsensitive)) {
-    if (target.path.endsWith(".xlsx") || target.path.endsWith(".csv")) {
-      target.path.truncate(target.path.lastIndexOf('.'));
-    }
-    target.path += ending;
-  }
-  return target;
-}
 
 std::string TitleOf(const FormWindow& window, const ui::Grid& grid) {
   return grid.offers.title ? grid.offers.title() : window.GetForm().Caption();
@@ -48,8 +20,15 @@ std::string TitleOf(const FormWindow& window, const ui::Grid& grid) {
 }  // namespace
 
 void ExportGrid(FormWindow& window, const ui::Grid& grid, const NativeTexts& texts) {
-  const Target target = AskTarget(window, FromUtf8(TitleOf(window, grid)), texts);
-  if (!target.path.isEmpty()) WriteGrid(window, grid, texts, target.path, target.format);
+  constexpr ExportFormat kFormats[] = {ExportFormat::Xlsx, ExportFormat::CsvUtf8,
+                                       ExportFormat::CsvGb18030};
+  const QString title = FromUtf8(TitleOf(window, grid));
+  const FileQuestion question{
+      title,
+      title,
+      {{texts.excel_file, "xlsx"}, {texts.csv_utf8_file, "csv"}, {texts.csv_gb_file, "csv"}}};
+  const FileAnswer answer = AskSaveFile(window, question, window.Traditional());
+  if (!answer.path.isEmpty()) WriteGrid(window, grid, texts, answer.path, kFormats[answer.type]);
 }
 
 void WriteGrid(FormWindow& window, const ui::Grid& grid, const NativeTexts& texts,
@@ -59,16 +38,20 @@ void WriteGrid(FormWindow& window, const ui::Grid& grid, const NativeTexts& text
   request.title = TitleOf(window, grid);
   if (grid.offers.totals) request.totals = grid.offers.totals();
   request.path = ToUtf8(path);
-  WorkDialog work(&window, FromUtf8(request.title));
-  request.progress = work.AsProgress();
   try {
-    const ExportResult result = Around().exporter->Export(request, format);
+    ExportResult result;
+    {
+      WorkDialog work(&window, FromUtf8(request.title), texts.exporting, window.Traditional());
+      request.progress = work.AsProgress();
+      result = Around().exporter->Export(request, format);
+    }
     if (result.cancelled) return;
     QString said = texts.exported.arg(result.rows).arg(path);
     if (result.lost_characters > 0) said += "\n" + texts.lost.arg(result.lost_characters);
     Around().boxes->Show(ToUtf8(said), box::kInformation, request.title);
   } catch (const std::exception& error) {
-    Around().boxes->Error(error.what(), request.title);
+    const QString reason = FromUtf8(error.what());
+    Around().boxes->Error(ToUtf8(texts.not_exported.arg(reason)), request.title);
   }
 }
 

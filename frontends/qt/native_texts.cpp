@@ -1,5 +1,6 @@
 #include "frontends/qt/native_texts.h"
 
+#include <QLibraryInfo>
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -14,6 +15,10 @@ NativeTexts Simplified() {
   texts.cancel = "取消";
   texts.yes = "是";
   texts.no = "否";
+  texts.save = "保存(&S)";
+  texts.folder = "文件夹:";
+  texts.file_name = "文件名:";
+  texts.file_type = "类型:";
   texts.undo = "撤消(&U)";
   texts.redo = "重做(&R)";
   texts.cut = "剪切(&T)";
@@ -31,6 +36,8 @@ NativeTexts Simplified() {
   texts.sum = "%1 合计 %2";
   texts.find_here = "查找";
   texts.not_found = "没有找到";
+  texts.exporting = "正在导出…";
+  texts.not_exported = "没有导出，原有的文件没有改动。\n%1";
   texts.excel_file = "Excel 工作簿";
   texts.csv_utf8_file = "CSV 文件，UTF-8";
   texts.csv_gb_file = "CSV 文件，GB18030";
@@ -45,6 +52,10 @@ NativeTexts Traditional() {
   texts.cancel = "取消";
   texts.yes = "是";
   texts.no = "否";
+  texts.save = "保存(&S)";
+  texts.folder = "資料夾:";
+  texts.file_name = "檔名:";
+  texts.file_type = "類型:";
   texts.undo = "復原(&U)";
   texts.redo = "重做(&R)";
   texts.cut = "剪下(&T)";
@@ -56,12 +67,14 @@ NativeTexts Traditional() {
   texts.find = "尋找(&F)…";
   texts.find_next = "尋找下一個(&N)";
   texts.export_grid = "匯出(&E)…";
-  texts.print = "列印(&P)";
+  texts.print = "打印(&P)";
   texts.reset_columns = "恢復欄寬和欄序(&R)";
   texts.selected = "已選 %1 行";
   texts.sum = "%1 合計 %2";
   texts.find_here = "尋找";
   texts.not_found = "沒有找到";
+  texts.exporting = "正在匯出…";
+  texts.not_exported = "沒有匯出，原有的檔案沒有改動。\n%1";
   texts.excel_file = "Excel 活頁簿";
   texts.csv_utf8_file = "CSV 檔案，UTF-8";
   texts.csv_gb_file = "CSV 檔案，GB18030";
@@ -91,13 +104,22 @@ const NativeTexts& TextsOf(int language) {
   return language == 0 ? simplified : traditional;
 }
 
-QString NativeTranslator::translate(const char* context, const char* source, const char*,
-                                    int) const {
+NativeTranslator::NativeTranslator(std::function<int()> language) : language_(std::move(language)) {
+  const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+  // A missing file leaves its translator empty, and the toolkit's dialogs speak English.
+  (void)toolkit_[0].load(QStringLiteral("qtbase_zh_CN"), folder);
+  (void)toolkit_[1].load(QStringLiteral("qtbase_zh_TW"), folder);
+}
+
+QString NativeTranslator::translate(const char* context, const char* source,
+                                    const char* disambiguation, int number) const {
   const std::string_view place = context == nullptr ? "" : context;
-  if (place != "QLineEdit" && place != "QWidgetTextControl") return {};
-  const auto* found = std::find_if(kEditTexts.begin(), kEditTexts.end(),
-                                   [&](const EditText& text) { return text.source == source; });
-  return found == kEditTexts.end() ? QString() : TextsOf(language_()).*(found->text);
+  if (place == "QLineEdit" || place == "QWidgetTextControl") {
+    const auto* found = std::find_if(kEditTexts.begin(), kEditTexts.end(),
+                                     [&](const EditText& text) { return text.source == source; });
+    if (found != kEditTexts.end()) return TextsOf(language_()).*(found->text);
+  }
+  return toolkit_[language_() == 0 ? 0 : 1].translate(context, source, disambiguation, number);
 }
 
 }  // namespace qvzj::qt

@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QPushButton>
 #include <optional>
 
 #include "frontends/qt/calm_style.h"
@@ -114,6 +115,15 @@ QStyle* ThemeStyle() {
     style->setParent(qApp);
   }
   return style;
+}
+
+void Dress(QWidget& window, bool traditional) {
+  window.setFont(ThemeFont(traditional));
+  window.setPalette(ThemePalette(Appearance::System));
+  window.setStyle(ThemeStyle());
+  for (QWidget* part : window.findChildren<QWidget*>()) part->setStyle(ThemeStyle());
+  // The toolkit's own dialogs put coloured pictures on their buttons.
+  for (QPushButton* button : window.findChildren<QPushButton*>()) button->setIcon({});
 }
 
 QColor RowTint(uint32_t rgb, const QPalette& palette) {

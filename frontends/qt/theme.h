@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QPalette>
 #include <QStyle>
+#include <QWidget>
 
 /// Everything about how the window looks that is a matter of taste: colours, fonts and the drawing
 /// style, in one place.
@@ -40,6 +41,9 @@ QPalette ThemePalette(Appearance appearance);
 QFont ThemeFont(bool traditional);
 /// The drawing style, shared by all windows; owned by the library.
 QStyle* ThemeStyle();
+/// Gives a window and all its parts the module's font, palette and drawing style. For windows that
+/// are put together of native widgets; to be called when all parts are there.
+void Dress(QWidget& window, bool traditional);
 /// A grid row's own colour as it appears on the palette: given for a white page, it is carried
 /// over to a dark one with the same contrast.
 QColor RowTint(uint32_t rgb, const QPalette& palette);

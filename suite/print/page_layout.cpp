@@ -20,8 +20,8 @@ constexpr double kTiny = 5;           // what many columns may still come down t
 constexpr double kPadding = 0.7;      // both sides of a cell, in em
 constexpr double kNarrowestWrap = 5;  // room a wrapped column keeps, in em
 constexpr double kLine = 1.35;        // line height, in em
-constexpr int kTotalsInARow = 3;
-constexpr int32_t kRateColumn = 13;  // of the ledger grid: rate of the entry's currency
+constexpr int kTotalsLines = 2;       // the totals stand in two lines, as on the screen
+constexpr int32_t kRateColumn = 13;   // of the ledger grid: rate of the entry's currency
 constexpr int16_t kLedger = 1;
 
 }  // namespace
@@ -125,7 +125,7 @@ bool PageLayout::LedgerInLocalCurrency() const {
 
 void PageLayout::BuildTotals() {
   const PrintWords& words = WordsOf(job_.language);
-  totals_.push_back(words.count_before + std::to_string(grid_.RowCount()) + words.count_after);
+  count_ = words.count_before + std::to_string(grid_.RowCount()) + words.count_after;
   if (job_.kind != kLedger) return;  // a register's page does not carry the ledger's totals
   for (size_t i = 0; i + 1 < job_.totals.size(); i += 2) {
     totals_.push_back(job_.totals[i] + " " + job_.totals[i + 1]);
@@ -183,8 +183,8 @@ double PageLayout::RowsBottom() const {
 }
 
 double PageLayout::TotalsHeight() const {
-  const auto rows = (totals_.size() + kTotalsInARow - 1) / kTotalsInARow;
-  return (static_cast<double>(rows) + (in_words_.empty() ? 0 : 1) + 0.5) * kLine * kTextSize;
+  const int lines = 1 + (totals_.empty() ? 0 : kTotalsLines) + (in_words_.empty() ? 0 : 1);
+  return (lines + 0.5) * kLine * kTextSize;
 }
 
 bool PageLayout::BreakPages(const Progress& progress) {
@@ -279,15 +279,18 @@ void PageLayout::PlaceGridLines(Page& page, const std::vector<double>& ys) const
 }
 
 void PageLayout::PlaceTotals(Page& page, double y) const {
-  const double room = InnerWidth() / kTotalsInARow;
+  const auto place = [&](double x, double room, const std::string& text) {
+    page.texts.push_back({x, y, room, kTextSize, PrintAlign::Left, true, text});
+  };
+  place(paper_.margin, InnerWidth(), count_);
+  const size_t in_a_line = (totals_.size() + kTotalsLines - 1) / kTotalsLines;
   for (size_t i = 0; i < totals_.size(); ++i) {
-    const double x = paper_.margin + room * static_cast<double>(i % kTotalsInARow);
-    page.texts.push_back({x, y, room, kTextSize, PrintAlign::Left, true, totals_[i]});
-    if (i % kTotalsInARow == kTotalsInARow - 1 || i + 1 == totals_.size()) y += kLine * kTextSize;
+    if (i % in_a_line == 0) y += kLine * kTextSize;
+    const double room = InnerWidth() / static_cast<double>(in_a_line);
+    place(paper_.margin + room * static_cast<double>(i % in_a_line), room, totals_[i]);
   }
-  if (in_words_.empty()) return;
-  page.texts.push_back(
-      {paper_.margin, y, InnerWidth(), kTextSize, PrintAlign::Left, true, in_words_});
+  y += kLine * kTextSize;
+  if (!in_words_.empty()) place(paper_.margin, InnerWidth(), in_words_);
 }
 
 void PageLayout::PlaceFoot(Page& page, int number) const {

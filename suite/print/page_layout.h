@@ -77,7 +77,8 @@ class PageLayout : public PageSource {
   bool wraps_ = false;
   double size_ = 0;
   std::vector<PrintColumn> columns_;
-  std::vector<std::string> totals_;  // what the closing block says, in order
+  std::string count_;                // how many records there are
+  std::vector<std::string> totals_;  // captions with their values, in order
   std::string in_words_;             // the last total in capital numerals, "" for none
   std::vector<int32_t> first_rows_;  // first grid row of each page, past the end for totals alone
 };

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "frontends/qt/print/paint_page.h"
+#include "frontends/qt/print/preview_texts.h"
 #include "frontends/qt/print/preview_window.h"
 #include "frontends/qt/text.h"
 
@@ -16,8 +17,9 @@ QtPageOutput::~QtPageOutput() = default;
 bool QtPageOutput::ShowProgress(int64_t done, int64_t total) {
   if (!pdf_path_.isEmpty()) return true;
   if (!work_) {
-    work_ = std::make_unique<WorkDialog>(QApplication::activeWindow(),
-                                         QApplication::applicationDisplayName());
+    QWidget* owner = QApplication::activeWindow();
+    work_ = std::make_unique<WorkDialog>(owner, owner == nullptr ? QString() : owner->windowTitle(),
+                                         PreviewTextsOf(traditional_()).laying_out, traditional_());
   }
   const bool goes_on = work_->Step(done, total);
   if (!goes_on) work_.reset();

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "frontends/qt/print/font_metrics.h"
-#include "frontends/qt/print/work_dialog.h"
+#include "frontends/qt/work_dialog.h"
 #include "platform/pages.h"
 
 namespace qvzj::qt {

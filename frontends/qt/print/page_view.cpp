@@ -1,16 +1,11 @@
 #include "frontends/qt/print/page_view.h"
 
 #include <QPainter>
-#include <algorithm>
 
 #include "frontends/qt/print/paint_page.h"
+#include "frontends/qt/theme.h"
 
 namespace qvzj::qt {
-namespace {
-
-constexpr int kDesk = 16;  // pixels around the page
-
-}  // namespace
 
 PageView::PageView(const PageSource& pages, const QFont& font, QWidget* parent)
     : QWidget(parent), pages_(pages), font_(font), page_(pages.MakePage(0)) {
@@ -18,33 +13,31 @@ PageView::PageView(const PageSource& pages, const QFont& font, QWidget* parent)
 }
 
 void PageView::SetCurrent(int page) {
-  page = std::clamp(page, 0, pages_.PageCount() - 1);
-  if (page == current_) return;
   current_ = page;
   page_ = pages_.MakePage(page);
   update();
-  emit CurrentChanged(page);
 }
 
-void PageView::SetZoom(double zoom) {
-  zoom_ = zoom;
+void PageView::SetScale(double scale) {
+  scale_ = scale;
   resize(sizeHint());
   update();
 }
 
 QSize PageView::sizeHint() const {
-  return {static_cast<int>(pages_.PageWidth() * zoom_) + 2 * kDesk,
-          static_cast<int>(pages_.PageHeight() * zoom_) + 2 * kDesk};
+  return {static_cast<int>(pages_.PageWidth() * scale_) + 2 * kRoom,
+          static_cast<int>(pages_.PageHeight() * scale_) + 2 * kRoom};
 }
 
 void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.translate(kDesk, kDesk);
-  painter.scale(zoom_, zoom_);
-  const QRectF paper(0, 0, pages_.PageWidth(), pages_.PageHeight());
-  painter.fillRect(paper.translated(2, 2), QColor(0, 0, 0, 60));
-  painter.fillRect(paper, Qt::white);
+  const QRectF sheet(kRoom, kRoom, pages_.PageWidth() * scale_, pages_.PageHeight() * scale_);
+  painter.setPen(QPen(ColorsFor(palette()).strong_border, 1));
+  painter.setBrush(Qt::white);  // paper, whatever the window's colours
+  painter.drawRect(sheet.adjusted(-0.5, -0.5, 0.5, 0.5));
+  painter.translate(kRoom, kRoom);
+  painter.scale(scale_, scale_);
   PaintPage(painter, page_, font_);
 }
 

@@ -7,22 +7,21 @@
 
 namespace qvzj::qt {
 
-/// Shows one page of a source on a desk, made when it is looked at, so that thousands of pages
-/// cost no more than one.
+/// Shows one page of a source as a sheet of paper with some room around it. Only the page shown is
+/// made, so that thousands of pages cost no more than one.
 class PageView : public QWidget {
-  Q_OBJECT
-
  public:
   PageView(const PageSource& pages, const QFont& font, QWidget* parent = nullptr);
 
-  int Current() const { return current_; }
-  void SetCurrent(int page);
-  /// Size of the page on the screen; 1 is 72 dpi.
-  void SetZoom(double zoom);
-  double Zoom() const { return zoom_; }
+  /// Room on each side of the sheet, in pixels.
+  static constexpr int kRoom = 16;
 
- signals:
-  void CurrentChanged(int page);
+  int Current() const { return current_; }
+  /// `page` is one of the source's.
+  void SetCurrent(int page);
+  /// Pixels a point (1/72 inch); the sheet's real size is a dpi of 72 at 1.
+  void SetScale(double scale);
+  double Scale() const { return scale_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -33,7 +32,7 @@ class PageView : public QWidget {
   QFont font_;
   Page page_;
   int current_ = 0;
-  double zoom_ = 1.2;
+  double scale_ = 1;
 };
 
 }  // namespace qvzj::qt

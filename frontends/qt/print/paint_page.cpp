@@ -65,11 +65,14 @@ void FitPaper(QPagedPaintDevice& device, const PageSource& pages) {
 bool PaintPages(QPagedPaintDevice& device, int dots, const PageSource& pages, int first, int last,
                 const QFont& font, const Progress& progress) {
   QPainter painter;
-  if (!painter.begin(&device)) return false;
+  const auto refused = [](int page) {
+    return Error("page " + std::to_string(page + 1) + " cannot be painted");
+  };
+  if (!painter.begin(&device)) throw refused(first);
   painter.scale(dots / kPointsAnInch, dots / kPointsAnInch);
   for (int number = first; number <= last; ++number) {
     if (progress && !progress(number - first, last - first + 1)) return false;
-    if (number > first && !device.newPage()) return false;
+    if (number > first && !device.newPage()) throw refused(number);
     PaintPage(painter, pages.MakePage(number), font);
   }
   return true;
@@ -88,7 +91,8 @@ bool WritePdf(const PageSource& pages, const QString& path, const QString& title
     file.cancelWriting();
     return false;
   }
-  if (!file.commit()) fail();
+  // What is still buffered is written here, since commit does not look whether it could be.
+  if (!file.flush() || !file.commit()) fail();
   return true;
 }
 

@@ -1,29 +1,36 @@
 #include "frontends/qt/print/preview_window.h"
 
-#include <QAction>
-#include <QFileDialog>
+#include <QEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QScrollArea>
+#include <QPushButton>
+#include <QShortcut>
 #include <QSpinBox>
-#include <QToolBar>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <exception>
 
+#include "frontends/qt/ask_file.h"
+#include "frontends/qt/print/page_desk.h"
 #include "frontends/qt/print/paint_page.h"
-#include "frontends/qt/print/work_dialog.h"
+#include "frontends/qt/print/preview_texts.h"
+#include "frontends/qt/text.h"
+#include "frontends/qt/theme.h"
+#include "frontends/qt/work_dialog.h"
+#include "platform/surroundings.h"
 
 namespace qvzj::qt {
 namespace {
 
-constexpr double kZoomStep = 1.25;
-constexpr double kSmallest = 0.4;
-constexpr double kLargest = 5;
-constexpr QSize kWindow(960, 760);
-constexpr int kBesidePage = 60;  // pixels for the desk and the scroll bar
+constexpr QSize kWindow(1080, 780);
+constexpr int kGap = 6;            // between what belongs together
+constexpr int kGroupGap = 14;      // between groups
+constexpr int kButtonHeight = 28;  // as the module's own
+constexpr int kButtonMargin = 20;  // beside a button's text
+constexpr int kNumberWidth = 56;
+constexpr int kPercentWidth = 58;
 
 }  // namespace
 
@@ -34,63 +41,158 @@ PreviewWindow::PreviewWindow(const PageSource& pages, const QString& title, cons
       title_(title),
       font_(font),
       traditional_(traditional),
-      view_(new PageView(pages, font)) {
+      texts_(PreviewTextsOf(traditional)),
+      bar_(new QWidget),
+      desk_(new PageDesk(pages, font)) {
   setWindowTitle(title);
+  setFont(ThemeFont(traditional));  // the buttons are as wide as their texts
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  BuildToolBar();
-  auto* scroll = new QScrollArea;
-  scroll->setWidget(view_);
-  scroll->setAlignment(Qt::AlignCenter);
-  scroll->setBackgroundRole(QPalette::Mid);
-  layout->addWidget(scroll);
-  connect(view_, &PageView::CurrentChanged, this, &PreviewWindow::Leaf);
-  Leaf(0);
+  layout->addWidget(bar_);
+  layout->addWidget(desk_);
+  auto* row = new QHBoxLayout(bar_);
+  row->setContentsMargins(8, 8, 8, 8);
+  row->setSpacing(kGap);
+  BuildBar(*row);
+  AddKeys();
+  desk_->setAccessibleName(title);
+  connect(desk_, &PageDesk::CurrentChanged, this, &PreviewWindow::ShowPage);
+  connect(desk_, &PageDesk::ZoomChanged, this, &PreviewWindow::ShowSize);
+  bar_->setAutoFillBackground(true);
+  bar_->setBackgroundRole(QPalette::Button);
+  Dress(*this, traditional);
+  Colour();
+  ShowPage();
+  ShowSize();
   resize(kWindow);
-  view_->SetZoom(std::min(view_->Zoom(), (kWindow.width() - kBesidePage) / pages.PageWidth()));
+  desk_->setFocus();
 }
 
-QString PreviewWindow::Said(const char* simplified, const char* traditional) const {
-  return QString::fromUtf8(traditional_ ? traditional : simplified);
+void PreviewWindow::Colour() {
+  setPalette(ThemePalette(Appearance::System));
+  // The desk is darker than the paper in either appearance.
+  desk_->setBackgroundRole(IsDark(palette()) ? QPalette::Base : QPalette::Mid);
 }
 
-void PreviewWindow::BuildToolBar() {
-  auto* bar = new QToolBar;
-  layout()->addWidget(bar);
-  QAction* print = bar->addAction(Said("打印(&P)", "打印(&P)"), this, &PreviewWindow::Print);
-  print->setShortcut(QKeySequence::Print);
-  QAction* pdf = bar->addAction(Said("存为PDF(&S)", "存為PDF(&S)"), this, &PreviewWindow::SavePdf);
-  pdf->setShortcut(QKeySequence::Save);
-  bar->addSeparator();
-  previous_ = bar->addAction(Said("上一页", "上一頁"), this,
-                             [this] { view_->SetCurrent(view_->Current() - 1); });
-  previous_->setShortcut(Qt::Key_PageUp);
+bool PreviewWindow::event(QEvent* event) {
+  if (event->type() == QEvent::ApplicationPaletteChange) Colour();
+  return QDialog::event(event);
+}
+
+QPushButton* PreviewWindow::AddButton(QHBoxLayout& row, const QString& text, const QString& keys) {
+  auto* button = new QPushButton(text);
+  // Enter in the page's number must not press a button.
+  button->setAutoDefault(false);
+  QString plain = text;
+  plain.remove(QChar('&'));
+  button->setFixedSize(button->fontMetrics().horizontalAdvance(plain) + kButtonMargin,
+                       kButtonHeight);
+  if (!keys.isEmpty()) button->setToolTip(keys);
+  row.addWidget(button);
+  return button;
+}
+
+void PreviewWindow::BuildBar(QHBoxLayout& row) {
+  connect(AddButton(row, texts_.print, "Ctrl+P"), &QPushButton::clicked, this,
+          &PreviewWindow::Print);
+  connect(AddButton(row, texts_.pdf, "Ctrl+S"), &QPushButton::clicked, this,
+          &PreviewWindow::SavePdf);
+  row.addSpacing(kGroupGap);
+  AddLeafing(row);
+  row.addSpacing(kGroupGap);
+  AddSizes(row);
+  row.addSpacing(kGroupGap);
+  said_ = new QLabel;
+  said_->setTextFormat(Qt::PlainText);
+  said_->setForegroundRole(QPalette::PlaceholderText);
+  said_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  row.addWidget(said_, 1);
+  connect(AddButton(row, texts_.close, "Esc"), &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void PreviewWindow::AddLeafing(QHBoxLayout& row) {
+  first_ = AddButton(row, texts_.first, "Home");
+  previous_ = AddButton(row, texts_.previous, "PgUp");
   number_ = new QSpinBox;
   number_->setRange(1, pages_.PageCount());
-  connect(number_, &QSpinBox::valueChanged, this, [this](int n) { view_->SetCurrent(n - 1); });
-  bar->addWidget(number_);
-  bar->addWidget(new QLabel(QStringLiteral(" / %1 ").arg(pages_.PageCount())));
-  next_ = bar->addAction(Said("下一页", "下一頁"), this,
-                         [this] { view_->SetCurrent(view_->Current() + 1); });
-  next_->setShortcut(Qt::Key_PageDown);
-  bar->addSeparator();
-  const auto zoom = [this](double factor) {
-    return [this, factor] { view_->SetZoom(qBound(kSmallest, view_->Zoom() * factor, kLargest)); };
+  number_->setButtonSymbols(QSpinBox::NoButtons);
+  number_->setKeyboardTracking(false);  // a number half typed is none
+  number_->setAlignment(Qt::AlignCenter);
+  number_->setFixedSize(kNumberWidth, kButtonHeight);
+  number_->setAccessibleName(texts_.page);
+  row.addWidget(number_);
+  row.addWidget(new QLabel(texts_.of_pages.arg(pages_.PageCount())));
+  next_ = AddButton(row, texts_.next, "PgDn");
+  last_ = AddButton(row, texts_.last, "End");
+  const auto go = [this](auto page) {
+    return [this, page] { desk_->SetCurrent(page(desk_->Current(), pages_.PageCount())); };
   };
-  bar->addAction(Said("放大", "放大"), this, zoom(kZoomStep))->setShortcut(QKeySequence::ZoomIn);
-  bar->addAction(Said("缩小", "縮小"), this, zoom(1 / kZoomStep))
-      ->setShortcut(QKeySequence::ZoomOut);
-  bar->addSeparator();
-  bar->addAction(Said("关闭(&C)", "關閉(&C)"), this, &QDialog::reject);
+  connect(first_, &QPushButton::clicked, this, go([](int, int) { return 0; }));
+  connect(previous_, &QPushButton::clicked, this, go([](int now, int) { return now - 1; }));
+  connect(next_, &QPushButton::clicked, this, go([](int now, int) { return now + 1; }));
+  connect(last_, &QPushButton::clicked, this, go([](int, int count) { return count - 1; }));
+  connect(number_, &QSpinBox::valueChanged, this, [this](int n) { desk_->SetCurrent(n - 1); });
 }
 
-void PreviewWindow::Leaf(int page) {
-  const QSignalBlocker quiet(number_);
-  number_->setValue(page + 1);
-  previous_->setEnabled(page > 0);
-  next_->setEnabled(page + 1 < pages_.PageCount());
+void PreviewWindow::AddSizes(QHBoxLayout& row) {
+  QPushButton* smaller = AddButton(row, QStringLiteral("−"), "Ctrl+-");
+  smaller->setAccessibleName(texts_.smaller);
+  connect(smaller, &QPushButton::clicked, desk_, &PageDesk::ZoomOut);
+  zoom_ = AddButton(row, QStringLiteral("100%"), texts_.real_size + " (Ctrl+0)");
+  zoom_->setFixedWidth(kPercentWidth);
+  connect(zoom_, &QPushButton::clicked, desk_, [this] { desk_->SetZoom(1); });
+  QPushButton* larger = AddButton(row, QStringLiteral("+"), "Ctrl++");
+  larger->setAccessibleName(texts_.larger);
+  connect(larger, &QPushButton::clicked, desk_, &PageDesk::ZoomIn);
+  for (QPushButton* sign : {smaller, larger}) sign->setFixedWidth(kButtonHeight);
+  width_ = AddButton(row, texts_.width, {});
+  whole_ = AddButton(row, texts_.whole, {});
+  for (QPushButton* fit : {width_, whole_}) fit->setCheckable(true);
+  connect(width_, &QPushButton::clicked, this, [this] { ChooseFit(PageFit::Width); });
+  connect(whole_, &QPushButton::clicked, this, [this] { ChooseFit(PageFit::WholePage); });
 }
+
+void PreviewWindow::AddKeys() {
+  const auto add = [this](const QKeySequence& keys, QPushButton* button) {
+    auto* shortcut = new QShortcut(keys, this);
+    connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+  };
+  add(Qt::Key_Home, first_);
+  add(Qt::Key_PageUp, previous_);
+  add(Qt::Key_PageDown, next_);
+  add(Qt::Key_End, last_);
+  add(Qt::CTRL | Qt::Key_0, zoom_);
+  const auto act = [this](const QKeySequence& keys, auto call) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, call);
+  };
+  act(Qt::CTRL | Qt::Key_P, [this] { Print(); });
+  act(Qt::CTRL | Qt::Key_S, [this] { SavePdf(); });
+  act(Qt::CTRL | Qt::Key_Minus, [this] { desk_->ZoomOut(); });
+  // Plus stands on the key of the equals sign on most keyboards.
+  for (const Qt::Key plus : {Qt::Key_Plus, Qt::Key_Equal}) {
+    act(Qt::CTRL | plus, [this] { desk_->ZoomIn(); });
+  }
+}
+
+void PreviewWindow::ShowPage() {
+  const QSignalBlocker quiet(number_);
+  const int page = desk_->Current();
+  number_->setValue(page + 1);
+  for (QPushButton* back : {first_, previous_}) back->setEnabled(page > 0);
+  for (QPushButton* on : {next_, last_}) on->setEnabled(page + 1 < pages_.PageCount());
+  Say({});
+}
+
+void PreviewWindow::ShowSize() {
+  zoom_->setText(QStringLiteral("%1%").arg(qRound(desk_->Zoom() * 100)));
+  width_->setChecked(desk_->Fit() == PageFit::Width);
+  whole_->setChecked(desk_->Fit() == PageFit::WholePage);
+}
+
+void PreviewWindow::ChooseFit(PageFit fit) { desk_->SetFit(fit); }
+
+void PreviewWindow::Say(const QString& text) { said_->setText(text); }
 
 void PreviewWindow::Print() {
   QPrinter printer(QPrinter::HighResolution);
@@ -99,25 +201,40 @@ void PreviewWindow::Print() {
   printer.setFromTo(1, pages_.PageCount());
   QPrintDialog dialog(&printer, this);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange);
-  if (dialog.exec() != QDialog::Accepted) return;
+  Dress(dialog, traditional_);
+  dialog.setWindowTitle(title_);
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  activateWindow();
+  if (!accepted) return;
   FitPaper(printer, pages_);  // the dialog may have turned the paper
   const bool all = printer.printRange() != QPrinter::PageRange;
   const int first = all ? 0 : printer.fromPage() - 1;
   const int last = all ? pages_.PageCount() - 1 : printer.toPage() - 1;
-  WorkDialog work(this, title_);
-  PaintPages(printer, printer.resolution(), pages_, first, last, font_, work.AsProgress());
+  try {
+    WorkDialog work(this, title_, texts_.printing, traditional_);
+    const bool done =
+        PaintPages(printer, printer.resolution(), pages_, first, last, font_, work.AsProgress());
+    if (!done) printer.abort();
+    Say(done ? texts_.printed.arg(last - first + 1) : texts_.cancelled);
+  } catch (const std::exception& error) {
+    Around().boxes->Error(error.what(), ToUtf8(title_));
+  }
 }
 
 void PreviewWindow::SavePdf() {
-  const QString path =
-      QFileDialog::getSaveFileName(this, Said("存为PDF", "存為PDF"),
-                                   title_ + QStringLiteral(".pdf"), QStringLiteral("PDF (*.pdf)"));
-  if (path.isEmpty()) return;
+  const FileAnswer answer =
+      AskSaveFile(*this, {texts_.save_pdf, title_, {{"PDF", "pdf"}}}, traditional_);
+  if (!answer.path.isEmpty()) WritePdfTo(answer.path);
+}
+
+void PreviewWindow::WritePdfTo(const QString& path) {
   try {
-    WorkDialog work(this, title_);
-    WritePdf(pages_, path, title_, font_, work.AsProgress());
+    WorkDialog work(this, title_, texts_.painting, traditional_);
+    const bool done = WritePdf(pages_, path, title_, font_, work.AsProgress());
+    Say(done ? texts_.saved.arg(QFileInfo(path).fileName()) : texts_.cancelled);
   } catch (const std::exception& error) {
-    QMessageBox::critical(this, title_, QString::fromUtf8(error.what()));
+    Around().boxes->Error(ToUtf8(texts_.not_written.arg(QString::fromUtf8(error.what()))),
+                          ToUtf8(title_));
   }
 }
 

@@ -3,37 +3,64 @@
 #include <QDialog>
 #include <QFont>
 
-#include "frontends/qt/print/page_view.h"
 #include "platform/pages.h"
 
-class QAction;
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
 class QSpinBox;
 
 namespace qvzj::qt {
 
-/// The print preview: pages to leaf through, to print and to save as a PDF file.
-class PreviewWindow : public QDialog {
-  Q_OBJECT
+class PageDesk;
+struct PreviewTexts;
+enum class PageFit;
 
+/// The print preview: pages to leaf through, to print and to save as a PDF file. Page up, page
+/// down, Home and End leaf; the arrows scroll; Ctrl with plus, minus and 0 sizes; Ctrl+P prints,
+/// Ctrl+S saves, Esc closes.
+class PreviewWindow : public QDialog {
  public:
   PreviewWindow(const PageSource& pages, const QString& title, const QFont& font, bool traditional,
                 QWidget* parent = nullptr);
 
+  PageDesk& Desk() { return *desk_; }
+  /// Writes the PDF file with progress and says how it went.
+  void WritePdfTo(const QString& path);
+
+ protected:
+  bool event(QEvent* event) override;
+
  private:
-  void BuildToolBar();
-  void Leaf(int page);
+  void BuildBar(QHBoxLayout& row);
+  void AddLeafing(QHBoxLayout& row);
+  void AddSizes(QHBoxLayout& row);
+  void AddKeys();
+  QPushButton* AddButton(QHBoxLayout& row, const QString& text, const QString& keys);
+  void Colour();
+  void ShowPage();
+  void ShowSize();
+  void ChooseFit(PageFit fit);
   void Print();
   void SavePdf();
-  QString Said(const char* simplified, const char* traditional) const;
+  void Say(const QString& text);
 
   const PageSource& pages_;
   QString title_;
   QFont font_;
   bool traditional_;
-  PageView* view_;
+  const PreviewTexts& texts_;
+  QWidget* bar_;
+  PageDesk* desk_;
   QSpinBox* number_ = nullptr;
-  QAction* previous_ = nullptr;
-  QAction* next_ = nullptr;
+  QPushButton* first_ = nullptr;
+  QPushButton* previous_ = nullptr;
+  QPushButton* next_ = nullptr;
+  QPushButton* last_ = nullptr;
+  QPushButton* zoom_ = nullptr;
+  QPushButton* width_ = nullptr;
+  QPushButton* whole_ = nullptr;
+  QLabel* said_ = nullptr;  // how the last work went
 };
 
 }  // namespace qvzj::qt

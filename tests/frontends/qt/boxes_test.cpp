@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QFile>
 #include <QInputDialog>
+#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSettings>
@@ -121,6 +123,18 @@ TEST(NativeTexts, TranslateTheEditMenuByLanguage) {
   language = 1;
   EXPECT_EQ(translator.translate("QLineEdit", "&Copy", nullptr, -1), "複製(&C)");
   EXPECT_TRUE(translator.translate("Elsewhere", "&Copy", nullptr, -1).isEmpty());
+}
+
+TEST(NativeTexts, TranslateTheToolkitsDialogsByLanguage) {
+  const QString files = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+  if (!QFile::exists(files + "/qtbase_zh_CN.qm")) {
+    GTEST_SKIP() << "no Chinese translation of Qt on this machine (package qt6-translations-l10n)";
+  }
+  int language = 0;
+  const qt::NativeTranslator translator([&] { return language; });
+  EXPECT_EQ(translator.translate("QFileDialog", "Files of type:", nullptr, -1), "文件类型：");
+  language = 1;
+  EXPECT_EQ(translator.translate("QFileDialog", "Files of type:", nullptr, -1), "檔案型態：");
 }
 
 }  // namespace

@@ -1,18 +1,25 @@
-#include "frontends/qt/print/work_dialog.h"
+#include "frontends/qt/work_dialog.h"
+
+#include "frontends/qt/native_texts.h"
+#include "frontends/qt/theme.h"
 
 namespace qvzj::qt {
 namespace {
 
 constexpr int kSteps = 1000;
 constexpr int kPatience = 400;  // milliseconds before the dialog appears
+constexpr int kWidth = 360;
 
 }  // namespace
 
-WorkDialog::WorkDialog(QWidget* parent, const QString& title)
-    : dialog_(title, QString::fromUtf8("取消"), 0, kSteps, parent) {
-  dialog_.setWindowModality(Qt::WindowModal);
+WorkDialog::WorkDialog(QWidget* parent, const QString& title, const QString& what, bool traditional)
+    : dialog_(what, TextsOf(traditional ? 1 : 0).cancel, 0, kSteps, parent) {
+  dialog_.setWindowTitle(title);
+  dialog_.setWindowModality(Qt::ApplicationModal);
   dialog_.setMinimumDuration(kPatience);
+  dialog_.setMinimumWidth(kWidth);
   dialog_.setAutoReset(false);
+  Dress(dialog_, traditional);
 }
 
 bool WorkDialog::Step(int64_t done, int64_t total) {

@@ -1,0 +1,281 @@
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QTimer>
+#include <QWheelEvent>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "frontends/qt/print/page_desk.h"
+#include "frontends/qt/print/paint_page.h"
+#include "frontends/qt/print/preview_window.h"
+#include "frontends/qt/theme.h"
+#include "platform/basic/errors.h"
+#include "tests/frontends/qt/window_world.h"
+#include "tests/support/small_files.h"
+
+namespace qvzj::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Pages that say their number.
+class Numbered : public PageSource {
+ public:
+  explicit Numbered(int count, bool landscape = false) : count_(count), landscape_(landscape) {}
+  int PageCount() const override { return count_; }
+  double PageWidth() const override { return landscape_ ? 842 : 595; }
+  double PageHeight() const override { return landscape_ ? 595 : 842; }
+  Page MakePage(int page) const override {
+    Page made;
+    PlacedText text;
+    text.x = text.y = 40;
+    text.width = 200;
+    text.text = "page " + std::to_string(page + 1);
+    made.texts.push_back(text);
+    return made;
+  }
+
+ private:
+  int count_;
+  bool landscape_;
+};
+
+class Preview : public testing::Test {
+ protected:
+  explicit Preview(bool traditional = false)
+      : window_(pages_, "往来总帐清单", qt::ThemeFont(false), traditional) {
+    window_.show();
+    window_.activateWindow();
+    QApplication::processEvents();
+  }
+
+  int Shown() { return window_.Desk().Current() + 1; }
+  void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
+    QApplication::processEvents();
+  }
+  /// Turns the mouse wheel over the desk; below 0 is towards the user.
+  void Wheel(int notches, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget* desk = window_.Desk().viewport();
+    const QPointF at(100, 100);
+    QWheelEvent event(at, desk->mapToGlobal(at), {}, {0, 120 * notches}, Qt::NoButton, modifiers,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(desk, &event);
+    QApplication::processEvents();
+  }
+  QPushButton* Button(const QString& text) {
+    for (QPushButton* button : window_.findChildren<QPushButton*>()) {
+      if (button->text() == text || button->accessibleName() == text) return button;
+    }
+    return nullptr;
+  }
+
+  Numbered pages_{5};
+  qt::PreviewWindow window_;
+};
+
+TEST_F(Preview, LeafsByPageKeysAndStopsAtTheEnds) {
+  Key(Qt::Key_PageDown);
+  Key(Qt::Key_PageDown);
+  EXPECT_EQ(Shown(), 3);
+  Key(Qt::Key_PageUp);
+  EXPECT_EQ(Shown(), 2);
+  Key(Qt::Key_End);
+  Key(Qt::Key_PageDown);
+  EXPECT_EQ(Shown(), 5);
+  Key(Qt::Key_Home);
+  Key(Qt::Key_PageUp);
+  EXPECT_EQ(Shown(), 1);
+}
+
+TEST_F(Preview, OffersOnlyTheWaysThatThereAre) {
+  EXPECT_FALSE(Button("上一页")->isEnabled());
+  EXPECT_TRUE(Button("末页")->isEnabled());
+  Button("末页")->click();
+  EXPECT_TRUE(Button("首页")->isEnabled());
+  EXPECT_FALSE(Button("下一页")->isEnabled());
+}
+
+TEST_F(Preview, GoesToATypedPageWithEnterAndPressesNoButtonByIt) {
+  auto* number = window_.findChild<QSpinBox*>();
+  number->setFocus();
+  number->selectAll();
+  QTest::keyClicks(number, "4");
+  EXPECT_EQ(Shown(), 1) << "a number half typed is none";
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Shown(), 4);
+  EXPECT_TRUE(window_.isVisible());
+  Key(Qt::Key_PageDown);
+  EXPECT_EQ(Shown(), 5) << "the page keys leaf from the number too";
+}
+
+TEST_F(Preview, LeafsOnWithTheWheelAtTheEndOfAPage) {
+  QScrollBar& bar = *window_.Desk().verticalScrollBar();
+  ASSERT_GT(bar.maximum(), 0) << "a portrait page fitted to the width is higher than the desk";
+  Wheel(-1);
+  EXPECT_EQ(Shown(), 1);
+  EXPECT_GT(bar.value(), 0);
+  bar.setValue(bar.maximum());
+  Wheel(-1);
+  EXPECT_EQ(Shown(), 2);
+  EXPECT_EQ(bar.value(), 0);
+  Wheel(1);
+  EXPECT_EQ(Shown(), 1);
+  EXPECT_EQ(bar.value(), bar.maximum()) << "back to where reading stopped";
+}
+
+TEST_F(Preview, SizesByKeysAndWheel) {
+  Key(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(window_.Desk().Zoom(), 1);
+  Key(Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(window_.Desk().Zoom(), 1.25);
+  Key(Qt::Key_Minus, Qt::ControlModifier);
+  Wheel(-1, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(window_.Desk().Zoom(), 0.8);
+  EXPECT_EQ(Shown(), 1);
+  EXPECT_NE(Button("80%"), nullptr);
+}
+
+TEST_F(Preview, FollowsTheWindowInTheChosenFit) {
+  EXPECT_EQ(window_.Desk().Fit(), qt::PageFit::Width);
+  const double wide = window_.Desk().Zoom();
+  window_.resize(window_.width() - 200, window_.height());
+  QApplication::processEvents();
+  EXPECT_LT(window_.Desk().Zoom(), wide);
+  Button("整页(&F)")->click();
+  EXPECT_EQ(window_.Desk().verticalScrollBar()->maximum(), 0);
+  EXPECT_EQ(window_.Desk().horizontalScrollBar()->maximum(), 0);
+  Button("适合宽度(&W)")->click();
+  EXPECT_EQ(window_.Desk().horizontalScrollBar()->maximum(), 0);
+  EXPECT_GT(window_.Desk().verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(Preview, LaysThePageInTheMiddle) {
+  Button("整页(&F)")->click();
+  QApplication::processEvents();
+  const QWidget* sheet = window_.Desk().widget();
+  const int left = sheet->x();
+  const int right = window_.Desk().viewport()->width() - sheet->geometry().right() - 1;
+  EXPECT_NEAR(left, right, 1);
+}
+
+TEST_F(Preview, ClosesWithEscape) {
+  Key(Qt::Key_Escape);
+  EXPECT_FALSE(window_.isVisible());
+}
+
+TEST_F(Preview, NamesEverythingForAssistiveTechnology) {
+  for (const QPushButton* button : window_.findChildren<QPushButton*>()) {
+    EXPECT_FALSE(button->accessibleName().isEmpty() && button->text().size() < 2)
+        << qPrintable(button->text());
+  }
+  EXPECT_EQ(window_.findChild<QSpinBox*>()->accessibleName(), "页码");
+  EXPECT_EQ(window_.Desk().accessibleName(), "往来总帐清单");
+}
+
+class TraditionalPreview : public Preview {
+ protected:
+  TraditionalPreview() : Preview(true) {}
+};
+
+TEST_F(TraditionalPreview, SpeaksTheModulesLanguage) {
+  EXPECT_NE(Button("上一頁"), nullptr);
+  EXPECT_NE(Button("適合寬度(&W)"), nullptr);
+  EXPECT_EQ(Button("上一页"), nullptr);
+}
+
+void ExpectWhole(const qt::PreviewWindow& window) {
+  for (const QPushButton* button : window.findChildren<QPushButton*>()) {
+    QString text = button->text();
+    text.remove('&');
+    EXPECT_LE(button->fontMetrics().horizontalAdvance(text) + 8, button->width())
+        << qPrintable(text);
+  }
+  for (const QLabel* label : window.findChildren<QLabel*>()) {
+    if (label->text().isEmpty()) continue;
+    EXPECT_LE(label->sizeHint().width(), label->width()) << qPrintable(label->text());
+  }
+}
+
+TEST_F(Preview, ShowsItsTextsWhole) { ExpectWhole(window_); }
+TEST_F(TraditionalPreview, ShowsItsTextsWhole) { ExpectWhole(window_); }
+
+TEST_F(Preview, SaysWhereThePdfWent) {
+  const TemporaryFolder folder;
+  const fs::path file = folder.Path() / "ledger.pdf";
+  window_.WritePdfTo(QString::fromStdString(file.string()));
+  EXPECT_TRUE(fs::exists(file));
+  const auto labels = window_.findChildren<QLabel*>();
+  EXPECT_TRUE(std::any_of(labels.begin(), labels.end(),
+                          [](QLabel* label) { return label->text() == "已存为 ledger.pdf"; }));
+}
+
+TEST_F(Preview, SaysWhenThePdfCannotBeWritten) {
+  World world;
+  window_.WritePdfTo("/nowhere/ledger.pdf");
+  const auto errors = world.headless.boxes.TakeErrors();
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_NE(errors[0].find("没有写成，原有的文件没有改动。"), std::string::npos) << errors[0];
+  EXPECT_NE(errors[0].find("/nowhere/ledger.pdf"), std::string::npos) << errors[0];
+}
+
+/// The old file of that name and what else lies in its folder.
+class PdfFile : public testing::Test {
+ protected:
+  PdfFile() { std::ofstream(file_) << "old"; }
+
+  bool Write(const Progress& progress) {
+    return qt::WritePdf(Numbered(4), QString::fromStdString(file_.string()), "t",
+                        qt::ThemeFont(false), progress);
+  }
+  std::string Bytes() const {
+    std::ostringstream bytes;
+    bytes << std::ifstream(file_, std::ios::binary).rdbuf();
+    return bytes.str();
+  }
+  int64_t Files() const {
+    return std::distance(fs::directory_iterator(folder_.Path()), fs::directory_iterator());
+  }
+
+  const TemporaryFolder folder_;
+  const fs::path file_ = folder_.Path() / "out.pdf";
+};
+
+TEST_F(PdfFile, ReplacesAnOlderOne) {
+  std::vector<int64_t> steps;
+  EXPECT_TRUE(Write([&](int64_t done, int64_t total) {
+    EXPECT_EQ(total, 4);
+    steps.push_back(done);
+    return true;
+  }));
+  EXPECT_EQ(steps, (std::vector<int64_t>{0, 1, 2, 3}));
+  EXPECT_EQ(Bytes().substr(0, 5), "%PDF-");
+  EXPECT_EQ(Files(), 1);
+}
+
+TEST_F(PdfFile, LeavesTheOlderOneWholeWhenThePaintingIsCancelled) {
+  EXPECT_FALSE(Write([](int64_t done, int64_t) { return done < 2; }));
+  EXPECT_EQ(Bytes(), "old");
+  EXPECT_EQ(Files(), 1) << "half a file stayed behind";
+}
+
+TEST_F(PdfFile, LeavesTheOlderOneWholeWhenTheDiskIsFull) {
+  {
+    const SmallFiles full(1000);
+    EXPECT_THROW(Write({}), Error);
+  }
+  EXPECT_EQ(Bytes(), "old");
+  EXPECT_EQ(Files(), 1) << "half a file stayed behind";
+}
+
+TEST_F(PdfFile, IsNotWrittenIntoAFolderThatIsNotThere) {
+  EXPECT_THROW(qt::WritePdf(Numbered(1), "/nowhere/out.pdf", "t", qt::ThemeFont(false), {}), Error);
+}
+
+}  // namespace
+}  // namespace qvzj::test
