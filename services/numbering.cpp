@@ -87,7 +87,7 @@ std::string NextNumber(basic::Date date, std::string& templ, int16_t kind) {
   if (width == 0) return "";
 
   const std::string stem = StemOf(std::string_view(templ).substr(0, fixed), date);
-  const std::string first = stem + std::string(width - 1, '0') + "1";
+  std::string first = stem + std::string(width - 1, '0') + "1";
   if (kind == kFirstNumber) return first;
   const auto greatest = GreatestCounter(CounterStatement(stem, width, kind));
   if (!greatest) return first;

@@ -11,7 +11,7 @@ struct UCollator;
 namespace qvzj {
 
 /// Chinese order of texts through ICU; ASCII case does not count.
-class IcuTextOrder : public ui::TextOrder {
+class IcuTextOrder final : public ui::TextOrder {
  public:
   /// By pinyin, as simplified Chinese readers expect. Throws Error when ICU lacks the order.
   static IcuTextOrder Pinyin();

@@ -136,9 +136,9 @@ bool SqliteStatement::Step() {
   const int result = sqlite3_step(statement_.get());
   if (result == SQLITE_ROW) return true;
   if (result == SQLITE_DONE) return false;
-  const DataError error(sqlite3_errmsg(database_));
-  Reset();
-  throw error;
+  const std::string said = sqlite3_errmsg(database_);
+  Reset();  // which forgets what was said
+  throw DataError(said);
 }
 
 void SqliteStatement::Run() {

@@ -77,7 +77,7 @@ struct Decimal {
 Decimal FifteenDigits(double value) {
   char text[40];
   std::snprintf(text, sizeof text, "%.14e", std::fabs(value));
-  Decimal decimal{std::signbit(value), {}, std::atoi(text + 17)};
+  Decimal decimal{std::signbit(value), {}, static_cast<int>(std::strtol(text + 17, nullptr, 10))};
   decimal.digits.push_back(text[0]);
   decimal.digits.append(text + 2, 14);
   return decimal;
@@ -175,7 +175,7 @@ std::string NumberText(double value) {
   } else if (significant <= decimal.exponent + 1) {
     text = digits + std::string(static_cast<size_t>(decimal.exponent + 1 - significant), '0');
   } else {
-    const auto whole = static_cast<size_t>(decimal.exponent + 1);
+    const auto whole = static_cast<size_t>(decimal.exponent) + 1;
     text = digits.substr(0, whole) + "." + digits.substr(whole);
   }
   return decimal.negative ? "-" + text : text;

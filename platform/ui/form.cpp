@@ -90,7 +90,7 @@ bool Form::Guard(const std::function<void()>& act) {
   return done;
 }
 
-void Form::Report(const char* text) {
+void Form::Report(const char* text) const {
   assert(onError && "an error escaped and the form has nobody to report it to");
   if (!onError) return;
   try {
@@ -108,7 +108,7 @@ bool Form::Act(const std::function<bool()>& act) {
   return done && possible;
 }
 
-void Form::Run(const std::function<void()>& step) {
+void Form::Run(const std::function<void()>& step) const {
   const bool nested = depth_ > 0;
   try {
     step();

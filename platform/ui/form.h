@@ -141,7 +141,7 @@ class Form {
   void Join(Control& control);
   void Notify(Control& control, Aspect aspect);
   void Notify(Aspect aspect);
-  void Report(const char* text);
+  void Report(const char* text) const;
 
   /// Raises an event. The handler runs from a copy, so that it may replace or destroy itself.
   template <class Handler, class... Args>
@@ -155,7 +155,7 @@ class Form {
   /// Runs a user's act behind the guard; false also when the form is closed.
   bool Act(const std::function<bool()>& act);
   /// Runs what the program asked for; ends quietly when a handler closed the form.
-  void Run(const std::function<void()>& step);
+  void Run(const std::function<void()>& step) const;
 
   // Focus (form_focus.cpp).
   bool MayLeave();

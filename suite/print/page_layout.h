@@ -20,7 +20,7 @@ struct Paper {
   double margin = 36;
 };
 
-class PageLayout : public PageSource {
+class PageLayout final : public PageSource {
  public:
   /// Measures the job's grid and breaks it into pages. The grid must stay unchanged while the
   /// layout is used. `cancelled` is true when `progress` said so; there are no pages then.
@@ -34,7 +34,7 @@ class PageLayout : public PageSource {
   int PageCount() const override { return static_cast<int>(first_rows_.size()); }
   /// Font size of the table, in points.
   double FontSize() const { return size_; }
-  Page MakePage(int page) const override;
+  Page MakePage(int number) const override;
 
  private:
   struct PrintColumn {
