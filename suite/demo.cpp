@@ -171,7 +171,7 @@ void MakeDemoData(data::Store& store, const DemoOptions& options, const RowProgr
   CheckRange("accounts", options.accounts, 1, 1000);
   CheckRange("entries", options.entries, 0, 100'000'000);
   CheckRange("years", options.years, 1, 50);
-  for (const char* table : {"cards", "tAccounts", "tAccountDetail"}) {
+  for (const char* table : {"cards", "tAccounts", "tAccountDetail", "Moneys", "Employees"}) {
     if (data::CountOf(store, table) > 0) {
       throw Error(std::string("The table ") + table +
                   " holds rows already; demo data goes only "

@@ -89,6 +89,12 @@ TEST_F(QvdbTest, ASecondDemoIsRefusedAndChangesNothing) {
   EXPECT_EQ(One("select count(*) from tAccountDetail"), "50");
 }
 
+TEST_F(QvdbTest, SaysThatDemoDataDoesNotGoIntoADatabaseWithCurrencies) {
+  Run({"init", "--currency", "RMB"});
+  EXPECT_EQ(Run({"demo"}), 2);
+  EXPECT_NE(err_.find("The table Moneys holds rows already"), std::string::npos) << err_;
+}
+
 TEST_F(QvdbTest, ImportReportsEveryRefusedRowAndExitsWithOne) {
   const std::string file = File("c.csv", "CompCode,compname\nK1,O'Neil\n,乙\nK1,丙\n");
   EXPECT_EQ(Run({"import", "customers", file}), 1);
