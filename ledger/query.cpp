@@ -83,6 +83,13 @@ double Amount(const double* amounts, size_t row, const char* name) {
   return amounts[row];
 }
 
+/// Amounts that cancel out leave a trace of their binary fractions; it is no balance, and as a
+/// negative one it would show in red.
+double Settled(double balance) {
+  constexpr double kTrace = 1e-6;
+  return std::fabs(balance) < kTrace ? 0 : balance;
+}
+
 /// Signs the amounts, empties those of 0, runs the balance of each name and sums the totals.
 /// Receivables and money in are positive and the other side negative, the other way round on the
 /// payable tab; the opening amounts of money accounts keep their sign.
@@ -120,7 +127,7 @@ void SignAndBalance(Ledger& ledger, bool customers, bool payable_tab) {
     if (!same_name) balance = {};
     balance.Add(a);
     balance.Add(customers ? -b : b);
-    balances[row] = balance.Value();
+    balances[row] = Settled(balance.Value());
   }
 }
 

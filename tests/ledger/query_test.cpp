@@ -64,6 +64,15 @@ TEST_F(LedgerQuery, ShowsZerosAsEmptyCellsButWritesAZeroBalance) {
   EXPECT_EQ(Column(form, col::kBalance), (Texts{"7.00", "0.00"}));
 }
 
+TEST_F(LedgerQuery, HasABalanceOfExactly0WhereAmountsCancelOut) {
+  Add({.number = "N1", .a = "0.1"});
+  Add({.number = "N2", .a = "0.2"});
+  Add({.number = "N3", .b = "0.3"});
+  const ui::Grid& grid = Open().Grid2;
+  EXPECT_EQ(grid.CellNumber(col::kBalance, 3), 0);
+  EXPECT_DOUBLE_EQ(grid.CellNumber(col::kBalance, 2), 0.3);
+}
+
 TEST_F(LedgerQuery, RestartsTheBalanceAtEveryRegisterName) {
   Add({.comp = 1, .number = "N1", .a = "1"});
   Add({.comp = 1, .number = "N2", .a = "2"});
