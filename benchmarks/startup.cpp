@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <QApplication>
-#include <QTemporaryDir>
 #include <QWidget>
 #include <cstdlib>
 #include <stdexcept>
@@ -55,8 +54,7 @@ void PaintAll(QApplication& application) {
 
 /// What the child does that measures the module.
 [[noreturn]] void ShowModule(QApplication& application, const std::string& folder) {
-  const QTemporaryDir settings;
-  qt::QtSurroundings surroundings(settings.filePath("settings.ini"));
+  qt::QtSurroundings surroundings(QString::fromStdString(folder + "/settings.ini"));
   surroundings.Install();
   SuiteConnections connections;
   Around().connections = &connections;

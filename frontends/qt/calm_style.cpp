@@ -201,9 +201,19 @@ void DrawRounded(QPainter& painter, const QRect& rect, const QColor& fill, const
                  double radius) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(outline.alpha() == 0 ? QPen(Qt::NoPen) : QPen(outline, 1));
-  painter.setBrush(fill);
-  painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+  const bool outlined = outline.alpha() != 0;
+  if (outlined && fill.alpha() != 0) {
+    // Two filled shapes take half the time of a filled and a stroked one.
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(outline);
+    painter.drawRoundedRect(rect, radius + 0.5, radius + 0.5);
+    painter.setBrush(fill);
+    painter.drawRoundedRect(rect.adjusted(1, 1, -1, -1), radius - 0.5, radius - 0.5);
+  } else {
+    painter.setPen(outlined ? QPen(outline, 1) : QPen(Qt::NoPen));
+    painter.setBrush(fill);
+    painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+  }
   painter.restore();
 }
 

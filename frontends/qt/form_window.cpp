@@ -4,10 +4,10 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QPainter>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <algorithm>
 
 #include "frontends/qt/keys.h"
 #include "frontends/qt/scale.h"
@@ -22,7 +22,7 @@ FormWindow::FormWindow(ui::Form& form, const WindowOptions& options, QWidget* pa
   setFocusPolicy(Qt::NoFocus);
   ApplyTheme();
   TakeInitialSize();
-  Build();
+  MakeSeen();
   form_->AddObserver(this);
   FormChanged(form, ui::Aspect::Caption);
   FormChanged(form, ui::Aspect::MousePointer);
@@ -35,7 +35,7 @@ void FormWindow::Detach() {
   if (!Live()) return;
   SetHourglass(false);
   form_->RemoveObserver(this);
-  for (const auto& view : views_) view->Detach();
+  for (const auto& [control, view] : views_) view->Detach();
   stale_.clear();
   form_ = nullptr;
 }
@@ -63,25 +63,55 @@ void FormWindow::TakeInitialSize() {
   if (wanted.boundedTo(room) != wanted) setWindowState(windowState() | Qt::WindowMaximized);
 }
 
-QWidget* FormWindow::ParentFor(const ui::Control& control) {
-  const ui::Control* container = control.Container();
-  return container == nullptr ? this : ViewOf(*container)->Inner(control.Page());
+QWidget* FormWindow::ParentFor(ui::Control& control) {
+  return control.Container() == nullptr ? this
+                                        : ViewOf(*control.Container())->Inner(control.Page());
 }
 
-void FormWindow::Build() {
+void FormWindow::MakeSeen() {
   for (ui::Control* control : form_->Controls()) {
-    if (control->GetKind() == ui::Kind::Menu) continue;
-    std::unique_ptr<ControlView> view = MakeView(*this, *control, ParentFor(*control));
-    view_of_[control] = view.get();
-    views_.push_back(std::move(view));
+    if (control->OnScreen()) ViewOf(*control);
   }
-  for (QWidget* part : findChildren<QWidget*>()) part->setStyle(ThemeStyle());
-  for (const auto& view : views_) view->MirrorAll();
 }
 
-ControlView* FormWindow::ViewOf(const ui::Control& control) const {
-  const auto found = view_of_.find(&control);
-  return found == view_of_.end() ? nullptr : found->second;
+ControlView* FormWindow::MadeView(const ui::Control& control) const {
+  const auto found = views_.find(&control);
+  return found == views_.end() ? nullptr : found->second.get();
+}
+
+ControlView* FormWindow::ViewOf(ui::Control& control) {
+  if (control.GetKind() == ui::Kind::Menu) return nullptr;
+  ControlView* made = MadeView(control);
+  return made != nullptr ? made : Make(control);
+}
+
+std::vector<ControlView*> FormWindow::Views() {
+  std::vector<ControlView*> views;
+  for (ui::Control* control : form_->Controls()) {
+    if (ControlView* view = ViewOf(*control)) views.push_back(view);
+  }
+  return views;
+}
+
+ControlView* FormWindow::Make(ui::Control& control) {
+  ControlView& view = *(views_[&control] = MakeView(*this, control, ParentFor(control)));
+  view.Widget()->setStyle(ThemeStyle());
+  for (QWidget* part : view.Widget()->findChildren<QWidget*>()) part->setStyle(ThemeStyle());
+  PutInTurn(control, *view.Widget());
+  view.MirrorAll();
+  return &view;
+}
+
+void FormWindow::PutInTurn(const ui::Control& control, QWidget& widget) {
+  // Which of two neighbours lies above the other, and which is read out first, is the form's order.
+  const std::vector<ui::Control*>& all = form_->Controls();
+  for (auto next = std::find(all.rbegin(), all.rend(), &control).base(); next != all.end();
+       ++next) {
+    const ControlView* view = MadeView(**next);
+    if (view == nullptr || view->Widget()->parentWidget() != widget.parentWidget()) continue;
+    widget.stackUnder(view->Widget());
+    return;
+  }
 }
 
 bool FormWindow::Act(const std::function<bool()>& act) {
@@ -142,7 +172,10 @@ void FormWindow::ControlChanged(ui::Control& control, ui::Aspect aspect) {
     FlushLater();
     return;
   }
-  if (ControlView* view = ViewOf(control)) view->Mirror(aspect);
+  if (ControlView* view = MadeView(control)) view->Mirror(aspect);
+  // What has come to the screen with it (a panel, a tab page) may have no views so far.
+  const bool shows = aspect == ui::Aspect::Visible || aspect == ui::Aspect::Tabs;
+  if (shows && control.OnScreen()) MakeSeen();
 }
 
 void FormWindow::FormChanged(ui::Form& form, ui::Aspect aspect) {
@@ -260,11 +293,6 @@ bool FormWindow::focusNextPrevChild(bool) {
   // Tab is the form's; a hidden widget hands its focus to whatever the form says.
   FlushLater();
   return true;
-}
-
-void FormWindow::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.fillRect(rect(), palette().window());
 }
 
 }  // namespace qvzj::qt

@@ -47,9 +47,10 @@ class FormWindow : public QWidget, private ui::FormObserver {
   void Flush();
   /// True while the window itself moves the native focus.
   bool Following() const { return following_; }
-  /// The view of a control; null for menu entries.
-  ControlView* ViewOf(const ui::Control& control) const;
-  const std::vector<std::unique_ptr<ControlView>>& Views() const { return views_; }
+  /// The view of a control, made now when it was never seen so far; null for menu entries.
+  ControlView* ViewOf(ui::Control& control);
+  /// The views of all controls, in the form's order.
+  std::vector<ControlView*> Views();
   /// True when the module speaks traditional Chinese.
   bool Traditional() const;
   /// True for a form that arranges itself to its window; others are dialogs of fixed size.
@@ -62,7 +63,6 @@ class FormWindow : public QWidget, private ui::FormObserver {
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
   bool focusNextPrevChild(bool next) override;
 
  private:
@@ -70,7 +70,12 @@ class FormWindow : public QWidget, private ui::FormObserver {
   void FormChanged(ui::Form& form, ui::Aspect aspect) override;
   void PopUpMenu(ui::Form& form, ui::MenuItem& menu, int32_t left, int32_t top) override;
 
-  void Build();
+  /// Makes the views of what is on the screen. The rest waits until it is first seen: most of a
+  /// form lies on other tab pages and in hidden panels.
+  void MakeSeen();
+  ControlView* MadeView(const ui::Control& control) const;
+  ControlView* Make(ui::Control& control);
+  void PutInTurn(const ui::Control& control, QWidget& widget);
   void ApplyTheme();
   void TakeInitialSize();
   void SyncFocus();
@@ -78,12 +83,11 @@ class FormWindow : public QWidget, private ui::FormObserver {
   void ReportSize();
   void FillMenu(QMenu& native, ui::MenuItem& menu);
   void FlushLater();
-  QWidget* ParentFor(const ui::Control& control);
+  QWidget* ParentFor(ui::Control& control);
 
   ui::Form* form_;
   WindowOptions options_;
-  std::vector<std::unique_ptr<ControlView>> views_;
-  std::unordered_map<const ui::Control*, ControlView*> view_of_;
+  std::unordered_map<const ui::Control*, std::unique_ptr<ControlView>> views_;
   std::unordered_set<ControlView*> stale_;  // views whose contents are put off
   int acts_ = 0;                            // depth of running acts
   bool flush_posted_ = false;

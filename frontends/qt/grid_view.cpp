@@ -162,6 +162,7 @@ void GridView::Refresh() {
     model_->SetPalette(table_->palette(), ColorsFor(table_->palette()).negative);
     model_->SetHeaderLook(table_->horizontalHeader()->font(),
                           table_->style()->pixelMetric(QStyle::PM_HeaderMargin));
+    ShowRowHeight();
     model_->Refresh();
     ShowColumns();
     ShowSortIndicator();
@@ -185,8 +186,13 @@ void GridView::ShowColumns() {
     widths.push_back(ToPixels(grid_.ColumnWidth(column + 1), table_->logicalDpiX()));
   }
   columns_->Design(widths);
+}
+
+void GridView::ShowRowHeight() {
+  // The header tells of every row that it resizes, so it had better do that before there are any.
   const int height = ToPixels(grid_.RowHeight(), table_->logicalDpiY());
-  table_->verticalHeader()->setDefaultSectionSize(height);
+  QHeaderView* header = table_->verticalHeader();
+  if (header->defaultSectionSize() != height) header->setDefaultSectionSize(height);
   CountPageRows();
 }
 

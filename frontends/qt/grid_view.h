@@ -50,6 +50,7 @@ class GridView : public ControlView {
  private:
   void ConnectTable();
   void ShowColumns();
+  void ShowRowHeight();
   void ShowSortIndicator();
   void ShowCurrent();
   void CurrentMoved(const QModelIndex& current);

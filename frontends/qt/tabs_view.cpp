@@ -67,6 +67,7 @@ QWidget* TabsView::Inner(int page) const {
   QWidget*& made = pages_.at(static_cast<size_t>(page));
   if (made == nullptr) {
     made = new QWidget(area_);
+    made->setGeometry(area_->rect());
     made->lower();
     made->setVisible(tabs_.Tab() == page);
   }

@@ -77,6 +77,18 @@ QPalette ThemePalette(Appearance appearance) {
 
 namespace {
 
+/// The text font in a family ("" for the application's own). Whatever measures or paints asks for
+/// the very same font: each variant is an engine of its own that takes milliseconds to make.
+QFont FontOf(const QString& family) {
+  QFont font = QGuiApplication::font();
+  if (!family.isEmpty()) font.setFamily(family);
+  font.setPointSizeF(9);
+  // Chinese and figures need no shaping, which takes longer than the drawing itself; scripts that
+  // do need it are shaped all the same.
+  font.setStyleHint(QFont::SansSerif, QFont::PreferNoShaping);
+  return font;
+}
+
 /// The first of the wanted families that is installed and whose digits stand under each other; ""
 /// when there is none. Every family looked at is a font file to load, so the search ends there.
 QString ThemeFamily(bool traditional) {
@@ -90,7 +102,7 @@ QString ThemeFamily(bool traditional) {
          << "DejaVu Sans";
   const QStringList installed = QFontDatabase::families();
   for (const QString& family : wanted) {
-    if (installed.contains(family) && DigitsAlign(QFont(family, 9))) return family;
+    if (installed.contains(family) && DigitsAlign(FontOf(family))) return family;
   }
   return {};
 }
@@ -101,11 +113,7 @@ QFont ThemeFont(bool traditional) {
   static std::optional<QString> families[2];
   std::optional<QString>& family = families[traditional ? 1 : 0];
   if (!family) family = ThemeFamily(traditional);
-  QFont font = QGuiApplication::font();
-  if (!family->isEmpty()) font.setFamily(*family);
-  font.setPointSizeF(9);
-  font.setStyleHint(QFont::SansSerif);
-  return font;
+  return FontOf(*family);
 }
 
 QStyle* ThemeStyle() {

@@ -99,11 +99,9 @@ void Column::AppendDate(Date value) {
 
 void Column::AppendText(std::string_view value) {
   if (kind_ != Kind::Text) WidenTo(Kind::Text);
-  if (size_ > 0 && !IsNull(size_ - 1) && TextView(size_ - 1) == value) {
-    offsets_.Append(uint32_t{offsets_[size_ - 1]});
-  } else {
-    offsets_.Append(StoreText(value));
-  }
+  const uint32_t last = size_ > 0 ? offsets_[size_ - 1] : kNullText;
+  const bool repeats = last != kNullText && TextView(size_ - 1) == value;
+  offsets_.Append(repeats ? last : StoreText(value));
   ++size_;
 }
 

@@ -29,7 +29,7 @@ class Captions : public ::testing::TestWithParam<Case> {
 
 TEST_P(Captions, StandWholeInTheirControls) {
   Open();
-  for (const auto& view : world_.Window().Views()) {
+  for (qt::ControlView* view : world_.Window().Views()) {
     const ui::Control& control = view->GetControl();
     if (control.Name() == "lblKhName") continue;  // a name of any length, cut with an ellipsis
     const qt::TextFit fit = view->Fit();
@@ -55,7 +55,7 @@ TEST_P(Captions, StandWholeInGridHeaders) {
 TEST_P(Captions, AreOfAReadableChineseFont) {
   Open();
   const QFontMetrics metrics(world_.Window().font());
-  for (const auto& view : world_.Window().Views()) {
+  for (qt::ControlView* view : world_.Window().Views()) {
     for (const QChar sign : qt::FromUtf8(view->GetControl().Caption())) {
       EXPECT_TRUE(metrics.inFont(sign)) << view->GetControl().Caption();
     }

@@ -105,6 +105,43 @@ TEST(FormWindow, TurnsTabsAndTheirPages) {
   EXPECT_FALSE(world.GridOf(form.Grid1).Table()->isVisible());
 }
 
+TEST(FormWindow, MakesWhatIsHiddenWhenItIsFirstSeen) {
+  ui::Form form("frm");
+  ui::Tabs tabs(form, "tabs", 2);
+  tabs.SetBounds({0, 0, 3000, 1500});
+  ui::Label first(form, "first", -1, &tabs, 0);
+  ui::Label second(form, "second", -1, &tabs, 1);
+  qt::FormWindow window(form, {});
+  window.show();
+  EXPECT_NE(window.findChild<QWidget*>("first"), nullptr);
+  EXPECT_EQ(window.findChild<QWidget*>("second"), nullptr);
+  tabs.SetTab(1);
+  EXPECT_TRUE(window.findChild<QWidget*>("second")->isVisible());
+  EXPECT_FALSE(window.findChild<QWidget*>("first")->isVisible());
+}
+
+TEST(FormWindow, KeepsTheFormsOrderWhateverIsSeenFirst) {
+  ui::Form form("frm");
+  ui::Frame below(form, "below");
+  ui::Frame above(form, "above");
+  below.SetVisible(false);
+  qt::FormWindow window(form, {});
+  window.show();
+  below.SetVisible(true);
+  const QObjectList children = window.children();
+  EXPECT_LT(children.indexOf(window.ViewOf(below)->Widget()),
+            children.indexOf(window.ViewOf(above)->Widget()));
+}
+
+TEST(FormWindow, GivesATabPageItsRoomBeforeAnyResize) {
+  ui::Form form("frm");
+  ui::Tabs tabs(form, "tabs", 1);
+  tabs.SetBounds({0, 0, 3000, 1500});
+  ui::Label label(form, "label", -1, &tabs, 0);
+  qt::FormWindow window(form, {});
+  EXPECT_EQ(window.ViewOf(label)->Widget()->parentWidget()->size(), QSize(200, 100));
+}
+
 TEST(FormWindow, GoesToAnAccessKeyFromAnyField) {
   WindowWorld world;
   frmZj& form = world.Show();
@@ -146,7 +183,7 @@ TEST(FormWindow, ClosesTheFormAndLetsGoOfIt) {
 TEST(FormWindow, NamesEveryFieldForAssistiveTechnology) {
   WindowWorld world;
   world.Show();
-  for (const auto& view : world.Window().Views()) {
+  for (qt::ControlView* view : world.Window().Views()) {
     // A strip is known by its tabs.
     if (!view->GetControl().CanFocus() || view->GetControl().GetKind() == ui::Kind::Tabs) continue;
     EXPECT_FALSE(view->FocusWidget()->accessibleName().isEmpty()) << view->GetControl().FullName();

@@ -52,12 +52,12 @@ class WindowWorld : public World {
   void CloseWindow() { window_.reset(); }
 
   /// The native editor of a text box.
-  QLineEdit& Line(const ui::Control& box) { return Native<QLineEdit>(box); }
-  qt::GridView& GridOf(const ui::Grid& grid) {
+  QLineEdit& Line(ui::Control& box) { return Native<QLineEdit>(box); }
+  qt::GridView& GridOf(ui::Grid& grid) {
     return static_cast<qt::GridView&>(*window_->ViewOf(grid));
   }
   template <class Widget>
-  Widget& Native(const ui::Control& control) {
+  Widget& Native(ui::Control& control) {
     return dynamic_cast<Widget&>(*window_->ViewOf(control)->Widget());
   }
   static std::string Text(const QLineEdit& line) { return qt::ToUtf8(line.text()); }
