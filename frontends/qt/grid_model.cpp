@@ -69,6 +69,11 @@ double GridModel::Number(int row, int column) const {
   return Inside(row, column) ? grid_->CellNumber(column + 1, row + 1) : 0;
 }
 
+bool GridModel::ShowsNegative(int row, int column) const {
+  // What is left of a sum below half a cent is shown as 0.00.
+  return HasNumber(row, column) && Number(row, column) < 0 && Text(row, column).startsWith('-');
+}
+
 QString GridModel::Text(int row, int column) const {
   return Inside(row, column) ? FromUtf8(grid_->CellText(column + 1, row + 1)) : QString();
 }
@@ -100,7 +105,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
       return QVariant::fromValue(Qt::AlignVCenter |
                                  (IsNumeric(column) ? Qt::AlignRight : Qt::AlignLeft));
     case Qt::ForegroundRole:
-      if (HasNumber(row, column) && Number(row, column) < 0) return QBrush(negative_);
+      if (ShowsNegative(row, column)) return QBrush(negative_);
       return {};
     case Qt::BackgroundRole:
       if (const auto color = grid_->RowColor(row + 1)) return QBrush(RowTint(*color, palette_));

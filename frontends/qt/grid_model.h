@@ -31,6 +31,8 @@ class GridModel : public QAbstractTableModel {
   /// True when the cell holds a number (not an empty cell of a number column).
   bool HasNumber(int row, int column) const;
   double Number(int row, int column) const;
+  /// True for an amount below zero that is also shown as one.
+  bool ShowsNegative(int row, int column) const;
   QString Text(int row, int column) const;
   QString Header(int column) const;
 

@@ -121,6 +121,20 @@ TEST_F(LedgerTable, FollowsTheRegisterToAnotherCustomer) {
   EXPECT_EQ(table_.model()->rowCount(), 0);
 }
 
+TEST(GridTable, ShowsNoZeroAsANegativeAmount) {
+  ui::Form form("frm");
+  ui::Grid grid(form, "Grid1");
+  grid.SetColumnCount(1);
+  grid.SetRowCount(2);
+  grid.SetColumnDecimals(1, 2);
+  grid.SetCellNumber(1, 1, -0.004);
+  grid.SetCellNumber(1, 2, -0.005);
+  qt::GridModel model(grid);
+  model.Refresh();
+  EXPECT_FALSE(model.index(0, 0).data(Qt::ForegroundRole).isValid());
+  EXPECT_TRUE(model.index(1, 0).data(Qt::ForegroundRole).isValid());
+}
+
 TEST(GridTable, TakesAMillionRows) {
   ui::Form form("frm");
   ui::Grid grid(form, "Grid1");
