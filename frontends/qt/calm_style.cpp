@@ -247,6 +247,11 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
       return;
     case PE_FrameDefaultButton:
       return;
+    case PE_PanelMenu:
+      painter->fillRect(option->rect, ColorsFor(option->palette).card);
+      painter->setPen(ColorsFor(option->palette).strong_border);
+      painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+      return;
     case PE_PanelScrollAreaCorner:
       painter->fillRect(option->rect, ColorsFor(option->palette).card);
       return;
