@@ -1,33 +1,39 @@
 // What each statement of the module costs on a private PostgreSQL server, by the size of the
-// ledger, and what the session adds to fetching the same rows through ODBC alone.
+// ledger; how much slower row change, number and register become from the smallest ledger to the
+// largest up to a million; and what the module adds to fetching the same rows through ODBC alone.
 //
 //   bench_server [--tiny | --entries N ...]
+
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <functional>
 #include <iostream>
-#include <string>
-#include <utility>
-#include <vector>
+#include <memory>
+#include <optional>
 
-#include "adapters/icu/utf16.h"
-#include "adapters/odbc/odbc_handle.h"
-#include "adapters/odbc/odbc_session.h"
-#include "suite/connections.h"
-#include "tests/support/postgres.h"
+#include "benchmarks/server_ledger.h"
+#include "ledger/filter.h"
+#include "ledger/query.h"
+#include "register/list.h"
+#include "services/numbering.h"
 
 namespace qvzj::bench {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-using Sizes = std::vector<int64_t>;
+using Work = std::function<void()>;
 
-constexpr int64_t kEntriesACustomer = 1000;
+/// Customers in the register, the same for every size of the ledger.
+constexpr int64_t kCustomers = 1000;
+constexpr int64_t kManyCustomers = 100'000;
+/// Up to here times must stay alike.
+constexpr int64_t kBoundedSize = 1'000'000;
 
 /// Seconds on the clock: the work is the server's as well as this process's.
-double Seconds(const std::function<void()>& work) {
+double Seconds(const Work& work) {
   const auto start = Clock::now();
   work();
   return std::chrono::duration<double>(Clock::now() - start).count();
@@ -38,189 +44,231 @@ double Median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
-/// Median of as many turns as fit into about a second, at least three.
-double MedianSeconds(const std::function<void()>& work) {
-  std::vector<double> turns;
+/// Median seconds of each work. They run turn by turn, so that what else the machine does weighs on
+/// all alike: for `budget` seconds, at least three turns.
+std::vector<double> InTurns(double budget, const std::vector<Work>& works) {
+  std::vector<std::vector<double>> turns(works.size());
+  for (size_t i = 0; i < works.size(); ++i) {
+    const double first = Seconds(works[i]);  // pays for cold caches; the slow ones do not notice
+    if (first > 5) turns[i].push_back(first);
+  }
   double spent = 0;
-  while (turns.size() < 3 || (spent < 1 && turns.size() < 100)) {
-    turns.push_back(Seconds(work));
-    spent += turns.back();
+  for (int turn = 0; turn < 3 || (spent < budget && turn < 200); ++turn) {
+    for (size_t i = 0; i < works.size(); ++i) {
+      if (turns[i].size() > 2 && turns[i].front() > 5) continue;
+      turns[i].push_back(Seconds(works[i]));
+      spent += turns[i].back();
+    }
   }
-  return Median(std::move(turns));
+  std::vector<double> medians;
+  for (std::vector<double>& times : turns) medians.push_back(Median(std::move(times)));
+  return medians;
 }
 
-void Fill(const NativeStatements& run, int64_t entries) {
-  const std::string n = std::to_string(entries);
-  const std::string customers = std::to_string(std::max<int64_t>(entries / kEntriesACustomer, 2));
-  const std::string day = "(date '2022-01-01' + (i * 730 / " + n + ")::int)";
-  run("insert into cards (fID,CompCode,compname,fType0) select i, lpad(i::text,6,'0'), "
-      "'深圳市华强贸易有限公司' || i, 0 from generate_series(1," +
-      customers + ") i");
-  run("insert into tAccountDetail (fDate,fCompID,fType1,fType2,fAcntNo,fInit,fMoneyA,fMoneyB,"
-      "fBrief,fInvID,fOrderID,fUser,fDoneman,fChecker,fID2,fMoneyCode,fMoneyRate) select " +
-      day + ", 1 + i * 7919 % " + customers + ", 0, 1 + i % 2, to_char(" + day +
-      ",'YYYYMM') || 'PZ' || lpad((i % 100000)::text,5,'0'), 0, i % 10000 / 100.0, "
-      "i % 7777 / 100.0, '货款', '', 'DD' || i, 'admin', '张三', "
-      "case when i % 3 = 0 then '李四' else '' end, 0, 'RMB', 1 "
-      "from generate_series(1," +
-      n + "::bigint) i");
-  run("insert into Moneys (MoneyCode,MoneyRate,MoneyType) values ('RMB',1,1)");
-  run("analyze");
+std::string Grouped(int64_t number) {
+  std::string text = std::to_string(number);
+  for (auto at = static_cast<std::ptrdiff_t>(text.size()) - 3; at > 0; at -= 3) {
+    text.insert(static_cast<size_t>(at), ",");
+  }
+  return text;
 }
 
-constexpr const char* kLedger =
-    "Select b.fDate,b.fAcntNo,a.CompName,b.fMoneyA,b.fMoneyB,0 as hh,b.fBrief,b.fInvID,b.fOrderID,"
-    "b.fUser,b.fDoneman,b.fChecker,b.fMoneyRate,b.fType2,b.fInit,b.fCompID,b.fID,b.fID2 "
-    "From cards a Right Join tAccountDetail b On b.fCompID=a.fID Where b.fType1=0";
-constexpr const char* kOrder = " Order By a.CompCode,a.CompName,b.fDate,b.fAcntNo";
-constexpr const char* kRegister =
-    "select distinct a.CompCode,a.compname,a.name,a.fBank,a.fAcntID,a.others,a.province,"
-    "a.cityname,a.postcode,a.telphone,a.fax,a.fType0,a.fID from cards a";
-
-struct Statement {
-  const char* name;
-  std::string text;
-  bool writes = false;
+struct Row {
+  std::string name;
+  std::vector<double> values;       ///< by size; milliseconds or a ratio
+  std::optional<double> growth{};   ///< from the smallest size to the largest bounded one
+  std::optional<double> allowed{};  ///< of the growth, or of each value when they are ratios
 };
-
-std::vector<Statement> Statements() {
-  const std::string ledger = kLedger;
-  const std::string columns =
-      "(fDate,fCompID,fType1,fType2,fAcntNo,fInit,fMoneyA,fMoneyB,fBrief,fInvID,fOrderID,fUser,"
-      "fDoneman,fChecker,fID2,fMoneyCode,fMoneyRate)";
-  return {
-      {"ledger of all customers", ledger + kOrder},
-      {"ledger of a month",
-       ledger + " and b.fDate>='03/01/2023' And b.fDate<='03/31/2023'" + kOrder},
-      {"ledger of one customer", ledger + " And a.fID=2" + kOrder},
-      {"register", std::string(kRegister) + " Order By a.CompCode"},
-      {"register of customers with entries",
-       std::string(kRegister) + " Right Join tAccountDetail b On a.fID=b.fCompID Where b.fType1=0"
-                                " Order By a.CompCode"},
-      {"next voucher number",
-       "select max(SUBSTRING(fAcntNo,9,5)) as invID from tAccountDetail where "
-       "left(fAcntNo,8)='202303PZ' and IsNumeric(SUBSTRING(fAcntNo,9,5))=1"},
-      {"entry still there", "select count(*) from tAccountDetail Where fID=7 And fType1=0"},
-      {"checked counter-entries",
-       "select count(*) from tAccountDetail Where fType1=1 and fID2=7 And fChecker<>''"},
-      {"entries of a customer", "select count(*) from tAccountDetail Where fCompID=2 And fType1=0"},
-      {"link column there", "select count(*) from tAccountDetail Where fID2>0"},
-      {"rate of a currency", "Select MoneyRate from Moneys where MoneyCode='RMB'"},
-      {"new entry",
-       "Insert Into tAccountDetail " + columns +
-           " Values ('03/15/2023',2,0,1,'202303PZ99999',0,1,0,'','','','admin','','',0,'RMB',1)",
-       true},
-      {"change of an entry", "Update tAccountDetail Set fDate='03/15/2023',fMoneyA=2 Where fID=7",
-       true},
-      {"approval", "Update tAccountDetail Set fChecker='admin' Where fID=7", true},
-      {"removal of counter-entries", "Delete from tAccountDetail Where fType1=1 and fID2=7", true},
-  };
-}
-
-/// Fetches a statement's rows in blocks and looks at none.
-void FetchBare(const OdbcConnection& connection, const std::string& sql) {
-  constexpr size_t kRows = 512;
-  constexpr size_t kWidth = 258;
-  const OdbcStatement statement(connection.Get());
-  std::u16string wide = ToUtf16(sql);
-  statement.Check(SQLExecDirectW(statement.Get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
-                                 static_cast<SQLINTEGER>(wide.size())));
-  SQLSMALLINT count = 0;
-  statement.Check(SQLNumResultCols(statement.Get(), &count));
-  SQLSetStmtAttr(statement.Get(), SQL_ATTR_ROW_ARRAY_SIZE, reinterpret_cast<SQLPOINTER>(kRows), 0);
-  std::vector<std::vector<char>> blocks(static_cast<size_t>(count));
-  std::vector<std::vector<SQLLEN>> lengths(static_cast<size_t>(count));
-  for (SQLSMALLINT i = 0; i < count; ++i) {
-    SQLLEN type = 0;
-    SQLColAttributeW(statement.Get(), static_cast<SQLUSMALLINT>(i + 1), SQL_DESC_CONCISE_TYPE,
-                     nullptr, 0, nullptr, &type);
-    SQLSMALLINT wanted = SQL_C_WCHAR;
-    if (type == SQL_INTEGER || type == SQL_BIGINT) wanted = SQL_C_SBIGINT;
-    if (type == SQL_DOUBLE || type == SQL_FLOAT) wanted = SQL_C_DOUBLE;
-    if (type == SQL_TYPE_DATE) wanted = SQL_C_TYPE_DATE;
-    const auto place = static_cast<size_t>(i);
-    blocks[place].resize(kRows * kWidth);
-    lengths[place].resize(kRows);
-    const size_t width = wanted == SQL_C_WCHAR ? kWidth : sizeof(double);
-    SQLBindCol(statement.Get(), static_cast<SQLUSMALLINT>(i + 1), wanted, blocks[place].data(),
-               static_cast<SQLLEN>(width), lengths[place].data());
-  }
-  while (true) {
-    const SQLRETURN result = SQLFetchScroll(statement.Get(), SQL_FETCH_NEXT, 0);
-    if (result == SQL_NO_DATA) return;
-    statement.Check(result);
-  }
-}
 
 class Bench {
  public:
-  void Run(const Sizes& sizes) {
-    for (const int64_t size : sizes) RunSize(size);
-    std::printf("| milliseconds, median |");
-    for (const int64_t size : sizes) std::printf(" %s entries |", std::to_string(size).c_str());
-    std::printf("\n|---|");
-    for (size_t i = 0; i < sizes.size(); ++i) std::printf("---:|");
-    std::printf("\n");
-    for (const auto& [name, row] : rows_) {
-      std::printf("| %s |", name.c_str());
-      for (const double value : row) std::printf(" %.*f |", value < 10 ? 2 : 0, value);
-      std::printf("\n");
+  Bench(const std::vector<int64_t>& sizes, int64_t many_customers, double budget)
+      : sizes_(sizes), budget_(budget) {
+    std::vector<std::string> settings{"shared_buffers=512MB", "max_wal_size=8GB"};
+    server_ = std::make_unique<test::PrivatePostgres>(std::move(settings));
+    for (const int64_t size : sizes) {
+      std::cerr << "Filling a ledger of " << Grouped(size) << " entries" << std::endl;
+      ledgers_.push_back(std::make_unique<ServerLedger>(*server_, kCustomers, size));
     }
+    std::cerr << "Filling a register of " << Grouped(many_customers) << " customers" << std::endl;
+    wide_ = std::make_unique<ServerLedger>(*server_, many_customers, sizes.front());
+  }
+
+  void Run() {
+    for (const ServerStatement& statement : ServerStatements()) MeasureStatement(statement);
+    MeasureForm("row change in the register, in the module", &ChangeRow);
+    MeasureForm("next voucher number, in the module", &AskNumber);
+    MeasureForm("register of 1,000 customers, in the module", &LoadCustomers);
+    MeasureLedgers();
+    MeasureManyCustomers();
+    Print();
   }
 
  private:
-  void RunSize(int64_t size) {
-    std::cerr << "Filling a ledger of " << size << " entries" << std::endl;
-    const std::string database = server_.MakeDatabase();
-    const ServerLogin login{server_.Address(), test::PrivatePostgres::kUser,
-                            test::PrivatePostgres::kPassword, database};
-    Fill(OpenNative(1, login, {}), size);
-    const auto session = OpenServer(login, {});
-    for (const Statement& statement : Statements()) {
-      const auto work = [&] {
-        if (statement.writes) return session->Execute(statement.text);
-        session->Query(statement.text);
-      };
-      Add(statement.name, 1000 * MedianSeconds(work));
+  void MeasureStatement(const ServerStatement& statement) {
+    std::cerr << statement.name << std::endl;
+    std::vector<Work> works;
+    for (const auto& ledger : ledgers_) {
+      works.emplace_back([&session = ledger->Session(), &statement] {
+        if (statement.writes) return session.Execute(statement.text);
+        session.Query(statement.text);
+      });
     }
-    const OdbcConnection bare(ConnectionString(login, {}), 10);
-    const std::string all = std::string(kLedger) + kOrder;
-    const std::string sql = static_cast<OdbcSession&>(*session).Translate(all).text;
-    // Turn by turn, so that what else the machine does weighs on both alike.
+    Add(statement.name, InTurns(budget_, works));
+  }
+
+  /// Goes from another customer, without loading its entries, to the one on the first row.
+  static void ChangeRow(frmZj& form) {
+    form.Grid1.SetActive(2, 2);
+    form.UserCell(form.Grid1, 2, 1);
+  }
+  static void AskNumber(frmZj& form) {
+    std::string templ = form.numberTemplate.empty() ? kDefaultTemplate : form.numberTemplate;
+    NextNumber(basic::Date::FromYmd(2023, 3, 15), templ, kLedgerNumber);
+  }
+  /// Fills the register and the ledger of the customer on its first row.
+  static void LoadCustomers(frmZj& form) { LoadRegister(form, form.registerCondition); }
+
+  /// What a user does, in the form as it opens. Only one form is there at a time, so it is opened
+  /// anew for every turn.
+  void MeasureForm(const std::string& name, void (*act)(frmZj&)) {
+    std::cerr << name << std::endl;
+    constexpr int kTurns = 7;
+    const int acts_a_turn = budget_ > 0 ? 15 : 1;
+    std::vector<std::vector<double>> turns(ledgers_.size());
+    for (int turn = 0; turn < kTurns; ++turn) {
+      for (size_t i = 0; i < ledgers_.size(); ++i) {
+        ServerForm opened(ledgers_[i]->Login());
+        act(opened.Form());
+        std::vector<double> acts;
+        for (int n = 0; n < acts_a_turn; ++n) acts.push_back(Seconds([&] { act(opened.Form()); }));
+        turns[i].push_back(Median(std::move(acts)));
+      }
+    }
+    std::vector<double> growths;
+    for (int turn = 0; turn < kTurns; ++turn) {
+      const auto place = static_cast<size_t>(turn);
+      growths.push_back(turns[Bounded()][place] / turns[0][place]);
+    }
+    std::vector<double> seconds;
+    for (std::vector<double>& times : turns) seconds.push_back(Median(std::move(times)));
+    Add(name, std::move(seconds));
+    rows_.back().growth = Median(std::move(growths));
+    rows_.back().allowed = 1.2;
+  }
+
+  /// The whole ledger into the grid, against the same rows through ODBC alone.
+  void MeasureLedgers() {
+    std::vector<double> loads;
     std::vector<double> ratios;
-    for (int turn = 0; turn < 5; ++turn) {
-      const double alone = Seconds([&] { FetchBare(bare, sql); });
-      ratios.push_back(Seconds([&] { session->Query(all); }) / alone);
+    for (const auto& ledger : ledgers_) {
+      std::cerr << "the module and ODBC alone, " << Grouped(ledger->Entries()) << std::endl;
+      ServerForm opened(ledger->Login());
+      frmZj& form = opened.Form();
+      form.UserClick(form.OptSelect(0));
+      const std::string condition = LedgerCondition(form);
+      const std::vector<double> times = InTurns(
+          {[&] { ledger->FetchBare(WholeLedger()); }, [&] { LoadLedger(form, condition); }});
+      loads.push_back(times[1]);
+      ratios.push_back(times[1] / times[0]);
     }
-    Add("session against bare ODBC, same ledger (ratio, bound 1.5)", Median(std::move(ratios)));
+    Add("ledger of all customers, in the module", std::move(loads));
+    rows_.push_back({"  against the same rows through ODBC alone", std::move(ratios), {}, 1.5});
   }
 
-  void Add(const std::string& name, double milliseconds) {
-    const auto found = std::find_if(rows_.begin(), rows_.end(),
-                                    [&](const auto& row) { return row.first == name; });
-    if (found == rows_.end()) {
-      rows_.push_back({name, {milliseconds}});
-    } else {
-      found->second.push_back(milliseconds);
-    }
+  /// A register of very many customers, against its two statements through ODBC alone.
+  void MeasureManyCustomers() {
+    ServerForm opened(wide_->Login());
+    const std::vector<double> times = InTurns(budget_, {[&] {
+                                                          wide_->FetchBare(WholeRegister());
+                                                          wide_->FetchBare(LedgerOfOne());
+                                                        },
+                                                        [&] { LoadCustomers(opened.Form()); }});
+    many_ = times[1];
+    many_ratio_ = times[1] / times[0];
+    many_rows_ = opened.Form().Grid1.RowCount();
   }
 
-  test::PrivatePostgres server_;
-  std::vector<std::pair<std::string, std::vector<double>>> rows_;
+  void Add(const std::string& name, std::vector<double> seconds) {
+    for (double& value : seconds) value *= 1000;
+    rows_.push_back({name, std::move(seconds)});
+  }
+
+  /// Place of the largest size up to which times must stay alike.
+  size_t Bounded() const {
+    size_t place = 0;
+    for (size_t i = 0; i < sizes_.size(); ++i) {
+      if (sizes_[i] <= kBoundedSize) place = i;
+    }
+    return place;
+  }
+
+  static void PrintValue(double value) { std::printf(" %.*f |", value < 10 ? 2 : 0, value); }
+
+  void Print() const {
+    std::printf(
+        "%ld processors; PostgreSQL on the same machine, 512 MB of shared buffers, fsync "
+        "off; milliseconds, median\n\n| |",
+        sysconf(_SC_NPROCESSORS_ONLN));
+    for (const int64_t size : sizes_) std::printf(" %s entries |", Grouped(size).c_str());
+    std::printf(" %s : %s | allowed |\n|---|", Grouped(sizes_[Bounded()]).c_str(),
+                Grouped(sizes_.front()).c_str());
+    for (size_t i = 0; i < sizes_.size() + 2; ++i) std::printf("---:|");
+    std::printf("\n");
+    for (const Row& row : rows_) {
+      std::printf("| %s |", row.name.c_str());
+      for (const double value : row.values) PrintValue(value);
+      if (row.growth) {
+        std::printf(" %.2f |", *row.growth);
+      } else {
+        std::printf(" |");
+      }
+      if (row.allowed) {
+        std::printf(" %.1f |\n", *row.allowed);
+      } else {
+        std::printf(" |\n");
+      }
+    }
+    std::printf(
+        "\nA register of %s customers takes %.0f ms in the module, %.2f times its two "
+        "statements through ODBC alone (allowed 1.5).\n",
+        Grouped(many_rows_).c_str(), many_ * 1000, many_ratio_);
+  }
+
+  std::vector<int64_t> sizes_;
+  double budget_;  ///< seconds for each statement
+  std::unique_ptr<test::PrivatePostgres> server_;
+  std::vector<std::unique_ptr<ServerLedger>> ledgers_;
+  std::unique_ptr<ServerLedger> wide_;
+  std::vector<Row> rows_;
+  double many_ = 0;
+  double many_ratio_ = 0;
+  int64_t many_rows_ = 0;
 };
 
 int Main(const std::vector<std::string>& arguments) {
-  Sizes sizes{10'000, 100'000, 1'000'000};
-  if (!arguments.empty() && arguments[0] == "--tiny") sizes = {300};
+  std::vector<int64_t> sizes{10'000, 100'000, 1'000'000, 5'000'000};
+  int64_t many_customers = kManyCustomers;
+  double budget = 3;
+  if (!arguments.empty() && arguments[0] == "--tiny") {
+    sizes = {1500, 3000};
+    many_customers = 2000;
+    budget = 0;
+  }
   if (!arguments.empty() && arguments[0] == "--entries") {
     sizes.clear();
     for (size_t i = 1; i < arguments.size(); ++i) sizes.push_back(std::stoll(arguments[i]));
+  }
+  if (sizes.empty() || sizes.front() < 1) {
+    std::fputs("usage: bench_server [--tiny | --entries N ...]\n", stderr);
+    return 2;
   }
   if (const std::string missing = test::PrivatePostgres::Missing(); !missing.empty()) {
     std::printf("skipped: %s\n", missing.c_str());
     return 77;
   }
-  Bench().Run(sizes);
+  std::sort(sizes.begin(), sizes.end());
+  Bench(sizes, many_customers, budget).Run();
   return 0;
 }
 
@@ -228,5 +276,10 @@ int Main(const std::vector<std::string>& arguments) {
 }  // namespace qvzj::bench
 
 int main(int argc, char** argv) {
-  return qvzj::bench::Main(std::vector<std::string>(argv + 1, argv + argc));
+  try {
+    return qvzj::bench::Main(std::vector<std::string>(argv + 1, argv + argc));
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "bench_server: %s\n", error.what());
+    return 1;
+  }
 }

@@ -14,6 +14,7 @@
 #include "suite/demo.h"
 #include "suite/import.h"
 #include "suite/schema.h"
+#include "suite/settle.h"
 
 namespace qvzj {
 namespace {
@@ -149,6 +150,16 @@ DataPlace PlaceOf(const Arguments& arguments, const QvdbStreams& streams) {
   return FolderPlace(arguments.Text("--data", DefaultDataFolder()));
 }
 
+/// The rows are in, whatever comes of this.
+void Settle(data::Store& store, const QvdbStreams& streams) {
+  try {
+    SettleTables(store);
+  } catch (const DataError& error) {
+    streams.err << "the server did not look at the new rows, so its first statements may be slow: "
+                << error.what() << "\n";
+  }
+}
+
 void RefuseWords(const Arguments& arguments) {
   if (!arguments.Words().empty()) throw UsageError("unexpected " + arguments.Words().front());
 }
@@ -190,7 +201,9 @@ int Demo(const Words& words, const QvdbStreams& streams) {
   }
   const DataPlace place = PlaceOf(arguments, streams);
   ProgressLines progress(streams.err);
-  MakeDemoData(*OpenOrMakePlace(place), options, progress.Hook());
+  const auto store = OpenOrMakePlace(place);
+  MakeDemoData(*store, options, progress.Hook());
+  Settle(*store, streams);
   streams.out << options.customers << " customers, " << options.accounts << " accounts, "
               << options.entries << " entries: " << place.Name() << "\n";
   return 0;
@@ -272,6 +285,7 @@ int Import(const Words& words, const QvdbStreams& streams) {
         streams.err << "line " << refusal.line << ": " << refusal.reason << "\n";
       },
       progress.Hook());
+  if (!options.dry_run) Settle(*store, streams);
   PrintReport(report, options.dry_run, streams.out);
   return report.refused > 0 ? 1 : 0;
 }
@@ -308,6 +322,7 @@ int CopyAll(const Words& words, const QvdbStreams& streams) {
   options.anew = arguments.Has("--anew");
   ProgressLines progress(streams.err);
   const CopyReport report = CopyData(*source, *target, options, progress.Hook());
+  Settle(*target, streams);
   if (report.resumed) streams.out << "the copy that broke off went on\n";
   for (const CopiedTable& table : report.tables) {
     streams.out << table.name << ": " << table.rows << " rows";

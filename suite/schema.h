@@ -20,4 +20,8 @@ void CreateSchema(data::Store& store);
 /// each one alone; what is there stays as it is. Needs the right to create in the schema.
 std::vector<std::string> PostgresSchema();
 
+/// The same tables and indexes for T-SQL servers, where the tables are usually the host suite's.
+/// Has not been run on one. Texts compare as the database's collation has it.
+std::vector<std::string> TransactSqlSchema();
+
 }  // namespace qvzj

@@ -34,6 +34,8 @@ test  xdotool              presses those keys
 test  postgresql-15        a private server for the tests of the server dialect
 test  odbc-postgresql      the driver through which it is reached
 bench libbenchmark-dev     the benchmark framework
+bench postgresql-15        a private server for what the statements cost on one
+bench odbc-postgresql      the driver through which it is reached
 bench libgtest-dev         the release preset builds the tests with the benchmarks
 LIST
 }

@@ -18,6 +18,7 @@
 
 #include "platform/basic/text.h"
 #include "tests/scenarios/play.h"
+#include "tests/scenarios/server_dialect.h"
 #include "tests/support/postgres.h"
 
 namespace {
@@ -27,18 +28,6 @@ using namespace qvzj::test;
 
 /// ctest takes this exit status as "skipped".
 constexpr int kSkipped = 77;
-
-/// A statement of the desktop dialect as the module builds it for a server.
-std::string OfServerDialect(std::string line) {
-  static const std::regex date("#([0-9]{2}/[0-9]{2}/[0-9]{4})#");
-  static const std::regex numeric(R"(IsNumeric\(Mid\(([^)]*)\)\))");
-  static const std::regex middle(R"(max\(mid\()");
-  static const std::regex checked(" And '' & fInvSHR<>''");
-  line = std::regex_replace(line, date, "'$1'");
-  line = std::regex_replace(line, numeric, "IsNumeric(SUBSTRING($1))=1");
-  line = std::regex_replace(line, middle, "max(SUBSTRING(");
-  return std::regex_replace(line, checked, " And (not fInvSHR is null) And fInvSHR<>''");
-}
 
 /// A component's call without the values that say where the data lies.
 std::string WithoutAccess(const std::string& line) {

@@ -12,6 +12,7 @@
 
 #include <chrono>
 #include <fstream>
+#include <random>
 #include <sstream>
 #include <thread>
 #include <vector>
@@ -58,29 +59,29 @@ int Wait(pid_t child) {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-/// A port of the loopback interface that nobody uses right now.
-int FreePort() {
-  const int probe = socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  socklen_t size = sizeof address;
-  const bool bound = bind(probe, reinterpret_cast<sockaddr*>(&address), size) == 0 &&
-                     getsockname(probe, reinterpret_cast<sockaddr*>(&address), &size) == 0;
-  close(probe);
-  if (!bound) throw std::runtime_error("no free port");
-  return ntohs(address.sin_port);
-}
-
-bool Listens(int port) {
+/// True when nobody listens at that port of the loopback interface.
+bool IsFree(int port) {
   const int probe = socket(AF_INET, SOCK_STREAM, 0);
   sockaddr_in address{};
   address.sin_family = AF_INET;
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
   address.sin_port = htons(static_cast<uint16_t>(port));
-  const bool listens = connect(probe, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
+  const bool bound = bind(probe, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
   close(probe);
-  return listens;
+  return bound;
+}
+
+/// A port that nobody uses right now, below those from which the system serves who asks for any:
+/// a client of another test must not sit on it while the server is away.
+int FreePort() {
+  constexpr int kLowest = 15000;
+  constexpr int kHighest = 32000;
+  std::random_device dice;
+  for (int tries = 0; tries < 1000; ++tries) {
+    const int port = kLowest + static_cast<int>(dice() % (kHighest - kLowest));
+    if (IsFree(port)) return port;
+  }
+  throw std::runtime_error("no free port");
 }
 
 std::string Contents(const fs::path& file) {
@@ -97,7 +98,8 @@ std::string PrivatePostgres::Missing() {
   return "";
 }
 
-PrivatePostgres::PrivatePostgres() {
+PrivatePostgres::PrivatePostgres(std::vector<std::string> settings)
+    : settings_(std::move(settings)) {
   InitializeCluster();
   Start();
 }
@@ -136,24 +138,37 @@ void PrivatePostgres::InitializeCluster() {
 }
 
 void PrivatePostgres::Start() {
-  if (port_ == 0) port_ = FreePort();
-  const auto give_up = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-  const Words ready{
-      std::string(kPrograms) + "pg_isready", "-q", "-h", "127.0.0.1", "-p", std::to_string(port_)};
+  const bool first = port_ == 0;
+  const auto give_up = std::chrono::steady_clock::now() + std::chrono::seconds(120);
   while (std::chrono::steady_clock::now() < give_up) {
-    // What a killed server left behind may keep the next one from starting for a moment.
-    if (server_ < 0 || waitpid(server_, nullptr, WNOHANG) == server_) SpawnServer();
-    if (Listens(port_) && Wait(Spawn(ready, Log())) == 0) return;
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    // What a killed server left behind may keep the next one from starting for a moment; another
+    // program may have taken the port just now.
+    if (server_ < 0 || waitpid(server_, nullptr, WNOHANG) == server_) {
+      if (first) port_ = FreePort();
+      SpawnServer();
+    }
+    if (IsReady()) return;
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
   }
   throw std::runtime_error("the server did not start: " + Contents(Log()));
 }
 
+bool PrivatePostgres::IsReady() const {
+  // The server's own note: its process on the first line, its state on the eighth.
+  std::istringstream note(Contents(folder_.Path() / "data" / "postmaster.pid"));
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(note, line);) lines.push_back(line);
+  return lines.size() >= 8 && lines[0] == std::to_string(server_) && lines[7].starts_with("ready");
+}
+
 void PrivatePostgres::SpawnServer() {
-  server_ = Spawn({std::string(kPrograms) + "postgres", "-D", (folder_.Path() / "data").string(),
-                   "-p", std::to_string(port_), "-c", "listen_addresses=127.0.0.1", "-c",
-                   "unix_socket_directories=" + folder_.Path().string(), "-c", "fsync=off"},
-                  Log());
+  Words words{std::string(kPrograms) + "postgres", "-D", (folder_.Path() / "data").string(), "-p",
+              std::to_string(port_)};
+  Words settings{"listen_addresses=127.0.0.1", "unix_socket_directories=" + folder_.Path().string(),
+                 "fsync=off"};
+  settings.insert(settings.end(), settings_.begin(), settings_.end());
+  for (const std::string& setting : settings) words.insert(words.end(), {"-c", setting});
+  server_ = Spawn(words, Log());
 }
 
 void PrivatePostgres::Kill() {

@@ -18,8 +18,9 @@ class PrivatePostgres {
   /// Why no server can be started here; "" when one can.
   static std::string Missing();
 
-  /// Makes the cluster and starts it. Throws std::runtime_error with the server's log.
-  PrivatePostgres();
+  /// Makes the cluster and starts it, with settings "name=value" besides those that make it
+  /// private. Throws std::runtime_error with the server's log.
+  explicit PrivatePostgres(std::vector<std::string> settings = {});
   ~PrivatePostgres();
   PrivatePostgres(const PrivatePostgres&) = delete;
   PrivatePostgres& operator=(const PrivatePostgres&) = delete;
@@ -48,9 +49,11 @@ class PrivatePostgres {
   std::string MakeFrom(const std::string& model);
   void InitializeCluster();
   void SpawnServer();
+  bool IsReady() const;
   std::filesystem::path Log() const { return folder_.Path() / "log"; }
 
   TemporaryFolder folder_;
+  std::vector<std::string> settings_;
   int port_ = 0;
   pid_t server_ = -1;
   bool has_template_ = false;

@@ -93,6 +93,22 @@ TEST_F(QvdbOnPostgres, DemoMakesTheSameEntriesAsInADataFile) {
   EXPECT_EQ(OnServer(demo), 2);
 }
 
+TEST_F(QvdbOnPostgres, LetsTheServerLookAtTheRowsThatItBrought) {
+  // What vacuum and analyze leave behind: how many rows there are, and pages known to be settled.
+  const auto known = [this](const std::string& table) {
+    return One("select reltuples || ' ' || (relallvisible=relpages) from pg_class where relname='" +
+               table + "'");
+  };
+  ASSERT_EQ(OnServer({"demo", "--entries", "700", "--customers", "20"}), 0) << err_;
+  EXPECT_EQ(known("taccountdetail"), "700 true");
+  ASSERT_EQ(OnServer({"import", "customers", "-"}, "CompCode,compname\nZ1,甲\nZ2,乙\n"), 0) << err_;
+  EXPECT_EQ(known("cards"), "22 true");
+  ASSERT_EQ(Copy(ThisServer(), Folder("file")), 0) << err_;
+  database_ = Server().MakeDatabase();
+  ASSERT_EQ(Copy(Folder("file"), ThisServer()), 0) << err_;
+  EXPECT_EQ(known("taccountdetail"), "700 true");
+}
+
 TEST_F(QvdbOnPostgres, NewEntriesGetIdsBehindThoseOfTheDemo) {
   ASSERT_EQ(OnServer({"demo", "--entries", "50", "--customers", "5"}), 0) << err_;
   Server().Run(database_, "insert into tAccountDetail (fBrief) values ('next')");
