@@ -46,9 +46,10 @@ void PrintRegister(frmZj& form) {
 void ConnectPrint(frmZj& form) {
   form.cmdPrint.onClick = [&form] { PrintLedger(form); };
   form.cmdKhPrint.onClick = [&form] { PrintRegister(form); };
-  form.Grid1.offers = {&form.cmdKhPrint, [&form] { return ListTitle(form.SSTab1); }, {}};
+  const auto columns = [&form] { return form.mode == kCustomers ? "customers" : "accounts"; };
+  form.Grid1.offers = {&form.cmdKhPrint, [&form] { return ListTitle(form.SSTab1); }, {}, columns};
   form.Grid2.offers = {&form.cmdPrint, [&form] { return ListTitle(form.SSTab2); },
-                       [&form] { return Totals(form); }};
+                       [&form] { return Totals(form); }, columns};
 }
 
 void PrintGrid(frmZj& form, ui::Grid& grid, const std::string& title, const std::string& report,

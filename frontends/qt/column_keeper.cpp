@@ -9,24 +9,32 @@
 
 namespace qvzj::qt {
 
-ColumnKeeper::ColumnKeeper(QTableView& table, QString grid, LayoutStore* store)
-    : table_(table), grid_(std::move(grid)), store_(store) {
+ColumnKeeper::ColumnKeeper(QTableView& table, std::function<QString()> name, LayoutStore* store)
+    : table_(table), name_(std::move(name)), store_(store) {
   QHeaderView* header = table_.horizontalHeader();
   connect(header, &QHeaderView::sectionResized, this, [this] { Keep(); });
   connect(header, &QHeaderView::sectionMoved, this, [this] { Keep(); });
 }
 
 void ColumnKeeper::Design(const std::vector<int>& widths) {
-  if (widths == designed_) return;
+  const QString name = name_();
+  if (widths == designed_ && name == shown_) return;
   const QScopedValueRollback<bool> echo(showing_, true);
   designed_ = widths;
+  shown_ = name;
   const std::optional<ColumnLayout> kept =
-      store_ == nullptr ? std::nullopt : store_->Columns(grid_, widths.size());
+      store_ == nullptr ? std::nullopt : store_->Columns(shown_, widths.size());
   for (size_t i = 0; i < widths.size(); ++i) {
     const int own = kept ? kept->widths[i] : 0;
     table_.setColumnWidth(static_cast<int>(i), own > 0 ? own : widths[i]);
   }
-  if (kept) ShowOrder(kept->order);
+  ShowOrder(kept ? kept->order : NaturalOrder());
+}
+
+std::vector<int> ColumnKeeper::NaturalOrder() const {
+  std::vector<int> order(designed_.size());
+  std::iota(order.begin(), order.end(), 0);
+  return order;
 }
 
 void ColumnKeeper::ShowOrder(const std::vector<int>& order) {
@@ -38,10 +46,8 @@ void ColumnKeeper::ShowOrder(const std::vector<int>& order) {
 
 void ColumnKeeper::Reset() {
   const QScopedValueRollback<bool> echo(showing_, true);
-  if (store_ != nullptr) store_->ForgetColumns(grid_);
-  std::vector<int> natural(designed_.size());
-  std::iota(natural.begin(), natural.end(), 0);
-  ShowOrder(natural);
+  if (store_ != nullptr) store_->ForgetColumns(shown_);
+  ShowOrder(NaturalOrder());
   for (size_t i = 0; i < designed_.size(); ++i) {
     table_.setColumnWidth(static_cast<int>(i), designed_[i]);
   }
@@ -57,7 +63,7 @@ void ColumnKeeper::Keep() {
     layout.widths.push_back(width == designed_[static_cast<size_t>(i)] ? 0 : width);
     layout.order.push_back(header->logicalIndex(i));
   }
-  store_->KeepColumns(grid_, layout);
+  store_->KeepColumns(shown_, layout);
 }
 
 }  // namespace qvzj::qt

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <functional>
 #include <vector>
 
 class QTableView;
@@ -14,8 +15,9 @@ class LayoutStore;
 /// next time. What was never touched stays as the form designed it.
 class ColumnKeeper : public QObject {
  public:
-  /// `grid` names the grid among all of the program's; `store` may be null: then nothing is kept.
-  ColumnKeeper(QTableView& table, QString grid, LayoutStore* store);
+  /// `name` names the grid and what its columns stand for among all of the program's; `store` may
+  /// be null: then nothing is kept.
+  ColumnKeeper(QTableView& table, std::function<QString()> name, LayoutStore* store);
 
   /// The form designs the columns with these widths (pixels): shows the user's where there are
   /// any. Called whenever the form has changed them.
@@ -26,10 +28,12 @@ class ColumnKeeper : public QObject {
  private:
   void Keep();
   void ShowOrder(const std::vector<int>& order);
+  std::vector<int> NaturalOrder() const;
 
   QTableView& table_;
-  QString grid_;
+  std::function<QString()> name_;
   LayoutStore* store_;
+  QString shown_;  // the name that the columns are shown for
   std::vector<int> designed_;
   bool showing_ = false;  // the header's own signals are echoes
 };

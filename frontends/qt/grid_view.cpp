@@ -14,6 +14,7 @@
 #include "frontends/qt/grid_tools.h"
 #include "frontends/qt/keys.h"
 #include "frontends/qt/scale.h"
+#include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 
 namespace qvzj::qt {
@@ -101,9 +102,15 @@ GridView::GridView(FormWindow& window, ui::Grid& grid, QWidget* parent)
   table_->verticalHeader()->setFocusPolicy(Qt::NoFocus);
   table_->viewport()->setFocusPolicy(Qt::NoFocus);
   ConnectTable();
-  const QString name = window.objectName() + "." + QString::fromStdString(grid.FullName());
-  columns_ = std::make_unique<ColumnKeeper>(*table_, name, window.Options().layouts);
+  columns_ = std::make_unique<ColumnKeeper>(
+      *table_, [this] { return KeptName(); }, window.Options().layouts);
   tools_ = std::make_unique<GridTools>(*this);
+}
+
+QString GridView::KeptName() const {
+  QString name = window_.objectName() + "." + FromUtf8(grid_.FullName());
+  if (grid_.offers.columns) name += "." + FromUtf8(grid_.offers.columns());
+  return name;
 }
 
 void GridView::ResetColumns() { columns_->Reset(); }

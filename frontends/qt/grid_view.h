@@ -49,6 +49,8 @@ class GridView : public ControlView {
 
  private:
   void ConnectTable();
+  /// Under which the user's columns are kept.
+  QString KeptName() const;
   void ShowColumns();
   void ShowRowHeight();
   void ShowSortIndicator();

@@ -27,6 +27,9 @@ struct GridOffers {
   Control* print = nullptr;            ///< the button that prints the grid; null: it is not printed
   std::function<std::string()> title;  ///< of a file made from the grid
   std::function<std::vector<std::string>()> totals;  ///< caption, value, caption, …, at its end
+  /// Names what the columns stand for, where one grid shows different ones: what a user arranges
+  /// for the one is not taken for the other.
+  std::function<std::string()> columns;
 };
 
 /// A spreadsheet-like list that holds a million rows. Columns and rows are 1-based; row 0 is the

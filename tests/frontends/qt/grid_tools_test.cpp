@@ -200,6 +200,43 @@ TEST_F(Columns, KeepWidthAndOrderForTheNextTime) {
   EXPECT_EQ(View(*window).Table()->horizontalHeader()->logicalIndex(0), 2);
 }
 
+TEST_F(Columns, AreKeptApartByWhatTheyStandFor) {
+  std::string subject = "customers";
+  grid_.offers.columns = [&] { return subject; };
+  const auto window = Window();
+  QTableView* table = View(*window).Table();
+  table->setColumnWidth(1, 180);
+  table->horizontalHeader()->moveSection(2, 0);
+  subject = "accounts";
+  grid_.SetHeader(1, "帐户");
+  window->Flush();
+  EXPECT_EQ(table->columnWidth(1), 100);
+  EXPECT_EQ(table->horizontalHeader()->logicalIndex(0), 0);
+  subject = "customers";
+  grid_.SetHeader(1, "客户");
+  window->Flush();
+  EXPECT_EQ(table->columnWidth(1), 180);
+  EXPECT_EQ(table->horizontalHeader()->logicalIndex(0), 2);
+}
+
+TEST_F(Columns, IgnoreWhatWasKeptBeforeTheyHadAName) {
+  store_.KeepColumns("frm.Grid1", {{50, 60, 70}, {1, 0, 2}});
+  grid_.offers.columns = [] { return "customers"; };
+  const auto window = Window();
+  EXPECT_EQ(View(*window).Table()->columnWidth(0), 100);
+  EXPECT_EQ(View(*window).Table()->horizontalHeader()->logicalIndex(0), 0);
+}
+
+TEST(KeptColumns, DifferBetweenCustomersAndAccounts) {
+  const auto named = [](int16_t run_mode) {
+    WindowWorld world;
+    const frmZj& form = world.Show(run_mode);
+    EXPECT_EQ(form.Grid1.offers.columns(), form.Grid2.offers.columns());
+    return form.Grid1.offers.columns();
+  };
+  EXPECT_NE(named(kCustomers), named(kAccounts));
+}
+
 TEST_F(Columns, GoBackToTheDesignOnRequest) {
   {
     const auto window = Window();
