@@ -15,6 +15,7 @@ class Grid;
 
 struct ExportRequest {
   const ui::Grid* grid = nullptr;
+  std::vector<int32_t> columns;     ///< the grid's, in their order; empty: all visible ones
   std::string title;                ///< name of the sheet
   std::vector<std::string> totals;  ///< caption, value, caption, value, …; may be empty
   std::string path;                 ///< UTF-8; an existing file is replaced
@@ -24,13 +25,17 @@ struct ExportRequest {
 struct ExportResult {
   bool cancelled = false;  ///< no file was left, an older one stays as it was
   int64_t rows = 0;
+  int sheets = 1;               ///< a sheet holds 1,048,575 rows; more go on to further ones
   int64_t lost_characters = 0;  ///< written as "?" because the file's encoding lacks them
 };
 
+/// The request's columns, or all visible ones of the grid.
+std::vector<int32_t> ColumnsOf(const ExportRequest& request);
+
 enum class ExportFormat { Xlsx, CsvUtf8, CsvGb18030 };
 
-/// Writes visible columns in the order and under the headers that the grid shows, rows in the
-/// shown order.
+/// Writes columns under the headers that the grid shows, without the arrow of the sorted one, and
+/// rows in the shown order.
 class TableExporter {
  public:
   virtual ~TableExporter() = default;

@@ -19,7 +19,8 @@ std::string TitleOf(const FormWindow& window, const ui::Grid& grid) {
 
 }  // namespace
 
-void ExportGrid(FormWindow& window, const ui::Grid& grid, const NativeTexts& texts) {
+void ExportGrid(FormWindow& window, const ui::Grid& grid, const std::vector<int32_t>& columns,
+                const NativeTexts& texts) {
   constexpr ExportFormat kFormats[] = {ExportFormat::Xlsx, ExportFormat::CsvUtf8,
                                        ExportFormat::CsvGb18030};
   const QString title = FromUtf8(TitleOf(window, grid));
@@ -28,13 +29,15 @@ void ExportGrid(FormWindow& window, const ui::Grid& grid, const NativeTexts& tex
       title,
       {{texts.excel_file, "xlsx"}, {texts.csv_utf8_file, "csv"}, {texts.csv_gb_file, "csv"}}};
   const FileAnswer answer = AskSaveFile(window, question, window.Traditional());
-  if (!answer.path.isEmpty()) WriteGrid(window, grid, texts, answer.path, kFormats[answer.type]);
+  if (answer.path.isEmpty()) return;
+  WriteGrid(window, grid, columns, texts, answer.path, kFormats[answer.type]);
 }
 
-void WriteGrid(FormWindow& window, const ui::Grid& grid, const NativeTexts& texts,
-               const QString& path, ExportFormat format) {
+void WriteGrid(FormWindow& window, const ui::Grid& grid, const std::vector<int32_t>& columns,
+               const NativeTexts& texts, const QString& path, ExportFormat format) {
   ExportRequest request;
   request.grid = &grid;
+  request.columns = columns;
   request.title = TitleOf(window, grid);
   if (grid.offers.totals) request.totals = grid.offers.totals();
   request.path = ToUtf8(path);
@@ -47,6 +50,7 @@ void WriteGrid(FormWindow& window, const ui::Grid& grid, const NativeTexts& text
     }
     if (result.cancelled) return;
     QString said = texts.exported.arg(result.rows).arg(path);
+    if (result.sheets > 1) said += "\n" + texts.sheets.arg(result.sheets);
     if (result.lost_characters > 0) said += "\n" + texts.lost.arg(result.lost_characters);
     Around().boxes->Show(ToUtf8(said), box::kInformation, request.title);
   } catch (const std::exception& error) {

@@ -22,17 +22,6 @@
 
 namespace qvzj::qt {
 
-namespace {
-
-/// A header without the arrow that marks the sorted column.
-QString PlainHeader(const ui::Grid& grid, int column) {
-  QString header = FromUtf8(grid.Header(column + 1));
-  while (header.endsWith(QChar(0x2191)) || header.endsWith(QChar(0x2193))) header.chop(1);
-  return header;
-}
-
-}  // namespace
-
 GridTools::GridTools(GridView& view) : view_(view), summary_(new QLabel(view.Table())) {
   GridTable* table = view_.Table();
   summary_->setAutoFillBackground(true);
@@ -107,7 +96,7 @@ QString GridTools::SelectedText() const {
     }
     text += QLatin1Char('\n');
   };
-  add_line([&](int column) { return PlainHeader(view_.GetGrid(), column); });
+  add_line([&](int column) { return FromUtf8(view_.GetGrid().PlainHeader(column + 1)); });
   for (int row : SelectedRows()) {
     add_line([&](int column) { return view_.Model().Text(row, column); });
   }
@@ -130,7 +119,7 @@ QString GridTools::Summary() const {
     basic::Sum sum;
     for (int row : rows) sum.Add(view_.Model().Number(row, column));
     const int decimals = std::max(grid.ColumnDecimals(column + 1), 0);
-    parts << Texts().sum.arg(PlainHeader(grid, column),
+    parts << Texts().sum.arg(FromUtf8(grid.PlainHeader(column + 1)),
                              FromUtf8(basic::FormatFixed(sum.Value(), decimals)));
   }
   return parts.join(QStringLiteral("    "));
@@ -164,7 +153,11 @@ void GridTools::OpenFind() {
   if (view_.Window().Act([&] { return grid.GetForm().UserFocus(grid); })) Bar().Open();
 }
 
-void GridTools::Export() { ExportGrid(view_.Window(), view_.GetGrid(), Texts()); }
+void GridTools::Export() {
+  std::vector<int32_t> columns;
+  for (int column : ShownColumns()) columns.push_back(column + 1);
+  ExportGrid(view_.Window(), view_.GetGrid(), columns, Texts());
+}
 
 void GridTools::Print() {
   ui::Control* button = view_.GetGrid().offers.print;

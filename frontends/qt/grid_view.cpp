@@ -56,8 +56,6 @@ class CellDelegate : public QStyledItemDelegate {
   }
 };
 
-bool HasArrow(const std::string& header) { return header.ends_with("↑") || header.ends_with("↓"); }
-
 }  // namespace
 
 GridTable::GridTable(QWidget* parent) : QTableView(parent) {
@@ -209,7 +207,7 @@ void GridView::ShowSortIndicator() {
   const bool sorted =
       column >= 1 && column <= grid_.ColumnCount() && grid_.GetSortOrder() != ui::SortOrder::None;
   // Where the form writes the arrow into the caption, a second one would only be noise.
-  const bool shown = sorted && !HasArrow(grid_.Header(column));
+  const bool shown = sorted && grid_.PlainHeader(column) == grid_.Header(column);
   header->setSortIndicatorShown(shown);
   if (shown) {
     header->setSortIndicator(column - 1, grid_.GetSortOrder() == ui::SortOrder::Ascending

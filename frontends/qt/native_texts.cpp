@@ -42,6 +42,7 @@ NativeTexts Simplified() {
   texts.csv_utf8_file = "CSV 文件，UTF-8";
   texts.csv_gb_file = "CSV 文件，GB18030";
   texts.exported = "已导出 %1 行：\n%2";
+  texts.sheets = "一个工作表放不下，分在 %1 个工作表中。";
   texts.lost = "有 %1 个字符无法用该编码保存，已写成“?”。";
   return texts;
 }
@@ -79,6 +80,7 @@ NativeTexts Traditional() {
   texts.csv_utf8_file = "CSV 檔案，UTF-8";
   texts.csv_gb_file = "CSV 檔案，GB18030";
   texts.exported = "已匯出 %1 行：\n%2";
+  texts.sheets = "一個工作表放不下，分在 %1 個工作表中。";
   texts.lost = "有 %1 個字元無法用該編碼保存，已寫成「?」。";
   return texts;
 }

@@ -20,6 +20,7 @@ struct NativeTexts {
   QString exporting;  ///< while it takes long
   QString excel_file, csv_utf8_file, csv_gb_file;
   QString exported;      ///< %1 rows, %2 file
+  QString sheets;        ///< %1 sheets that the rows took
   QString not_exported;  ///< %1 the reason
   QString lost;          ///< %1 characters that the file's encoding lacks
 };

@@ -68,6 +68,14 @@ void Grid::SetRowCount(int32_t count) {
 
 const std::string& Grid::Header(int32_t column) const { return Info(column).header; }
 
+std::string Grid::PlainHeader(int32_t column) const {
+  const std::string_view header = Header(column);
+  for (const std::string_view arrow : {"↑", "↓"}) {
+    if (header.ends_with(arrow)) return std::string(header.substr(0, header.size() - arrow.size()));
+  }
+  return std::string(header);
+}
+
 void Grid::SetHeader(int32_t column, std::string text) {
   ColumnInfo& info = Info(column);
   if (text == info.header) return;

@@ -51,6 +51,8 @@ class Grid : public Control {
   void SetRowCount(int32_t count);
 
   const std::string& Header(int32_t column) const;
+  /// The header without the arrow that marks the sorted column; for lists outside the window.
+  std::string PlainHeader(int32_t column) const;
   void SetHeader(int32_t column, std::string text);
   bool ColumnHidden(int32_t column) const;
   void SetColumnHidden(int32_t column, bool hidden);

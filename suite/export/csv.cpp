@@ -50,6 +50,7 @@ class CsvWriter {
   void EndLine() {
     line_ += "\r\n";
     out_ << (encoder_ ? encoder_->Encode(line_) : line_);
+    CheckState();
     line_.clear();
     fields_ = 0;
   }
@@ -71,26 +72,18 @@ class CsvWriter {
   int fields_ = 0;
 };
 
-std::vector<int32_t> VisibleColumns(const ui::Grid& grid) {
-  std::vector<int32_t> columns;
-  for (int32_t column = 1; column <= grid.ColumnCount(); ++column) {
-    if (!grid.ColumnHidden(column)) columns.push_back(column);
-  }
-  return columns;
-}
-
 }  // namespace
 
 ExportResult ExportCsv(const ExportRequest& request, bool gb18030) {
   const ui::Grid& grid = *request.grid;
-  const std::vector<int32_t> columns = VisibleColumns(grid);
+  const std::vector<int32_t> columns = ColumnsOf(request);
   ReplacedFile file(request.path);
   CsvWriter writer(file.TemporaryPath(), gb18030);
-  for (int32_t column : columns) writer.Field(TextField(grid.Header(column)));
+  for (int32_t column : columns) writer.Field(TextField(grid.PlainHeader(column)));
   writer.EndLine();
   for (int32_t row = 1; row <= grid.RowCount(); ++row) {
     if (request.progress && row % kProgressRows == 0 && !request.progress(row, grid.RowCount())) {
-      return {true, row, 0};
+      return {.cancelled = true};
     }
     for (int32_t column : columns) {
       const std::string text = grid.CellText(column, row);
@@ -103,7 +96,9 @@ ExportResult ExportCsv(const ExportRequest& request, bool gb18030) {
     writer.Field(request.totals[i + 1]);
     writer.EndLine();
   }
-  ExportResult result{false, grid.RowCount(), writer.Close()};
+  ExportResult result;
+  result.rows = grid.RowCount();
+  result.lost_characters = writer.Close();
   file.Commit();
   return result;
 }

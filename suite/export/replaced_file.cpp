@@ -1,6 +1,9 @@
 #include "suite/export/replaced_file.h"
 
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <system_error>
 
 #include "platform/basic/errors.h"
@@ -8,8 +11,9 @@
 namespace qvzj {
 namespace fs = std::filesystem;
 
-ReplacedFile::ReplacedFile(std::string path)
-    : path_(std::move(path)), temporary_(path_ + ".part") {}
+ReplacedFile::ReplacedFile(std::string path) : path_(std::move(path)), temporary_(path_ + ".part") {
+  if (!std::ofstream(temporary_)) throw Error(path_ + ": " + std::strerror(errno));
+}
 
 ReplacedFile::~ReplacedFile() {
   std::error_code ignored;

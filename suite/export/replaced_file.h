@@ -8,6 +8,7 @@ namespace qvzj {
 /// complete, so that a failed or cancelled export leaves the old file as it was.
 class ReplacedFile {
  public:
+  /// Throws Error when there can be no file in that place, before any work is done for it.
   explicit ReplacedFile(std::string path);
   /// Removes the temporary file unless Commit was called.
   ~ReplacedFile();

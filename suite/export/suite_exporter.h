@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "platform/table_export.h"
 
 namespace qvzj {
@@ -15,8 +17,16 @@ class SuiteExporter : public TableExporter {
 /// return) gets a leading apostrophe; numbers are written plain.
 ExportResult ExportCsv(const ExportRequest& request, bool gb18030);
 
+/// What bounds a workbook.
+struct XlsxBounds {
+  int32_t rows_of_a_sheet = 1'048'575;  ///< without the header
+  /// Bytes that must be free where temporary files lie. The library that writes the workbook does
+  /// not tell when a temporary file could not be written, so the exporter looks before it happens.
+  uint64_t free_space = 16'000'000;
+};
+
 /// An Excel workbook: numbers as numbers, dates as dates, frozen header, column widths, the totals
 /// below. More rows than a sheet holds go on to further sheets.
-ExportResult ExportXlsx(const ExportRequest& request);
+ExportResult ExportXlsx(const ExportRequest& request, const XlsxBounds& bounds = {});
 
 }  // namespace qvzj

@@ -1,7 +1,9 @@
 #include <xlsxwriter.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 
 #include "platform/basic/errors.h"
 #include "platform/basic/number.h"
@@ -14,9 +16,8 @@ namespace qvzj {
 namespace {
 
 constexpr int32_t kProgressRows = 1000;
-constexpr int32_t kRowsOfASheet = 1'048'575;  // without the header
-constexpr int32_t kWidthSample = 1000;        // rows that a column's width is measured on
-constexpr double kWidestColumn = 60;          // in characters
+constexpr int32_t kWidthSample = 1000;  // rows that a column's width is measured on
+constexpr double kWidestColumn = 60;    // in characters
 constexpr size_t kLongestSheetName = 31;
 
 /// Closes the workbook when something throws before it was closed properly.
@@ -43,10 +44,15 @@ double TextWidth(const std::string& text) {
 
 class XlsxWriter {
  public:
-  XlsxWriter(const ExportRequest& request, const std::string& path)
-      : request_(request), grid_(*request.grid) {
+  XlsxWriter(const ExportRequest& request, const XlsxBounds& bounds, const std::string& path)
+      : request_(request),
+        grid_(*request.grid),
+        bounds_(bounds),
+        scratch_(std::filesystem::temp_directory_path().string()) {
+    CheckSpace();
     lxw_workbook_options options{};
-    options.constant_memory = LXW_TRUE;
+    options.constant_memory = LXW_TRUE;  // rows go to temporary files as they come
+    options.tmpdir = scratch_.data();
     book_.reset(workbook_new_opt(path.c_str(), &options));
     if (!book_) throw Error(path + ": the workbook cannot be made");
     head_ = workbook_add_format(book_.get());
@@ -57,20 +63,19 @@ class XlsxWriter {
     format_set_num_format(amount_, "0.00");
     date_ = workbook_add_format(book_.get());
     format_set_num_format(date_, "yyyy-mm-dd");
-    for (int32_t column = 1; column <= grid_.ColumnCount(); ++column) {
-      if (!grid_.ColumnHidden(column)) columns_.push_back({column, NumberFormat(column)});
-    }
+    for (int32_t column : ColumnsOf(request)) columns_.push_back({column, NumberFormat(column)});
   }
 
   /// False when the user cancelled.
   bool Write() {
-    for (int32_t first = 1; first == 1 || first <= grid_.RowCount(); first += kRowsOfASheet) {
+    for (int32_t first = 1; first == 1 || first <= grid_.RowCount();
+         first += bounds_.rows_of_a_sheet) {
       NewSheet();
-      const int32_t last = std::min(grid_.RowCount(), first + kRowsOfASheet - 1);
+      const int32_t last = std::min(grid_.RowCount(), first + bounds_.rows_of_a_sheet - 1);
       for (int32_t row = first; row <= last; ++row) {
-        if (request_.progress && row % kProgressRows == 0 &&
-            !request_.progress(row, grid_.RowCount())) {
-          return false;
+        if (row % kProgressRows == 0) {
+          CheckSpace();
+          if (request_.progress && !request_.progress(row, grid_.RowCount())) return false;
         }
         WriteRow(row, static_cast<lxw_row_t>(row - first + 1));
       }
@@ -79,6 +84,8 @@ class XlsxWriter {
     WriteTotals();
     return true;
   }
+
+  int Sheets() const { return sheets_; }
 
   void Close() {
     const lxw_error failure = workbook_close(book_.release());
@@ -90,6 +97,12 @@ class XlsxWriter {
     int32_t column;
     lxw_format* number;  // null for a column of texts or dates
   };
+
+  void CheckSpace() const {
+    if (std::filesystem::space(scratch_).available < bounds_.free_space) {
+      throw Error(scratch_ + ": " + std::make_error_code(std::errc::no_space_on_device).message());
+    }
+  }
 
   lxw_format* NumberFormat(int32_t column) {
     const int decimals = grid_.ColumnDecimals(column);
@@ -107,13 +120,13 @@ class XlsxWriter {
     lxw_col_t place = 0;
     for (const SheetColumn& column : columns_) {
       worksheet_set_column(sheet_, place, place, ColumnWidth(column.column), nullptr);
-      Text(0, place++, grid_.Header(column.column), head_);
+      Text(0, place++, grid_.PlainHeader(column.column), head_);
     }
     worksheet_freeze_panes(sheet_, 1, 0);
   }
 
   double ColumnWidth(int32_t column) const {
-    double width = TextWidth(grid_.Header(column));
+    double width = TextWidth(grid_.PlainHeader(column));
     for (int32_t row = 1; row <= std::min(grid_.RowCount(), kWidthSample); ++row) {
       width = std::max(width, TextWidth(grid_.CellText(column, row)));
     }
@@ -152,6 +165,8 @@ class XlsxWriter {
 
   const ExportRequest& request_;
   const ui::Grid& grid_;
+  const XlsxBounds bounds_;
+  std::string scratch_;  // folder of temporary files
   std::unique_ptr<lxw_workbook, Discard> book_;
   lxw_worksheet* sheet_ = nullptr;
   lxw_format* head_ = nullptr;
@@ -164,13 +179,17 @@ class XlsxWriter {
 
 }  // namespace
 
-ExportResult ExportXlsx(const ExportRequest& request) {
+ExportResult ExportXlsx(const ExportRequest& request, const XlsxBounds& bounds) {
   ReplacedFile file(request.path);
-  XlsxWriter writer(request, file.TemporaryPath());
-  if (!writer.Write()) return {true, 0, 0};
+  XlsxWriter writer(request, bounds, file.TemporaryPath());
+  ExportResult result;
+  result.cancelled = !writer.Write();
+  if (result.cancelled) return result;
   writer.Close();
   file.Commit();
-  return {false, request.grid->RowCount(), 0};
+  result.rows = request.grid->RowCount();
+  result.sheets = writer.Sheets();
+  return result;
 }
 
 }  // namespace qvzj

@@ -35,14 +35,14 @@ PageLayout::PageLayout(const PrintJob& job, basic::Date print_date, const TextMe
   FitWidths();
   BuildTotals();
   cancelled_ = !BreakPages(progress);
-  if (cancelled_) first_rows_.clear();
+  if (cancelled_) starts_.clear();
 }
 
 void PageLayout::ChooseColumns() {
   for (int32_t column = 1; column <= grid_.ColumnCount(); ++column) {
     if (grid_.ColumnHidden(column)) continue;
     columns_.push_back(
-        {column, grid_.ColumnDecimals(column) >= 0, metrics_.Width(grid_.Header(column))});
+        {column, grid_.ColumnDecimals(column) >= 0, metrics_.Width(grid_.PlainHeader(column))});
   }
 }
 
@@ -189,25 +189,32 @@ double PageLayout::TotalsHeight() const {
 
 bool PageLayout::BreakPages(const Progress& progress) {
   const int32_t rows = grid_.RowCount();
+  const double page_ems = (RowsBottom() - RowsTop()) / size_;
+  const auto most_lines = static_cast<int32_t>((page_ems - kPadding / 2) / kLine);
   double y = RowsTop();
-  first_rows_.push_back(1);
+  starts_.push_back({1, 0});
   for (int32_t row = 1; row <= rows; ++row) {
     if (progress && row % kProgressRows == 0 && !progress(int64_t{rows} + row, 2 * int64_t{rows})) {
       return false;
     }
-    const double height = RowHeight(RowLines(row));
-    if (y + height > RowsBottom() && row > first_rows_.back()) {
-      first_rows_.push_back(row);
+    int32_t lines = RowLines(row);
+    if (y > RowsTop() && y + RowHeight(lines) > RowsBottom()) {
+      starts_.push_back({row, 0});
       y = RowsTop();
     }
-    y += height;
+    for (; lines > most_lines; lines -= most_lines) {  // a row that no page holds
+      const Start& here = starts_.back();
+      starts_.push_back({row, (here.row == row ? here.line : 0) + most_lines});
+    }
+    y += RowHeight(lines);
   }
-  if (y + TotalsHeight() > RowsBottom()) first_rows_.push_back(rows + 1);
+  if (y + TotalsHeight() > RowsBottom()) starts_.push_back({rows + 1, 0});
   return true;
 }
 
-int32_t PageLayout::LastRow(int page) const {
-  return page + 1 < PageCount() ? first_rows_[static_cast<size_t>(page) + 1] - 1 : grid_.RowCount();
+PageLayout::Start PageLayout::EndOf(int page) const {
+  return page + 1 < PageCount() ? starts_[static_cast<size_t>(page) + 1]
+                                : Start{grid_.RowCount() + 1, 0};
 }
 
 Page PageLayout::MakePage(int number) const {
@@ -215,9 +222,13 @@ Page PageLayout::MakePage(int number) const {
   PlaceHead(page);
   double y = RowsTop();
   std::vector<double> ys{y - RowHeight(1), y};
-  for (int32_t row = first_rows_[static_cast<size_t>(number)]; row <= LastRow(number); ++row) {
-    y = PlaceRow(page, row, y);
+  const Start end = EndOf(number);
+  Start at = starts_[static_cast<size_t>(number)];
+  for (; at.row < end.row || at.line < end.line; at = {at.row + 1, 0}) {
+    const int32_t lines = (at.row < end.row ? RowLines(at.row) : end.line) - at.line;
+    y = PlaceRow(page, at.row, at.line, lines, y);
     ys.push_back(y);
+    if (at.row == end.row) break;
   }
   PlaceGridLines(page, ys);
   if (number + 1 == PageCount()) PlaceTotals(page, y + 0.5 * kTextSize);
@@ -237,13 +248,14 @@ void PageLayout::PlaceHead(Page& page) const {
   double x = left;
   for (const PrintColumn& column : columns_) {
     page.texts.push_back({x, y + kPadding / 4 * size_, column.width, size_, PrintAlign::Center,
-                          true, grid_.Header(column.column)});
+                          true, grid_.PlainHeader(column.column)});
     x += column.width;
   }
 }
 
-double PageLayout::PlaceRow(Page& page, int32_t row, double y) const {
-  const double height = RowHeight(RowLines(row));
+double PageLayout::PlaceRow(Page& page, int32_t row, int32_t first_line, int32_t lines,
+                            double y) const {
+  const double height = RowHeight(lines);
   if (const auto color = grid_.RowColor(row)) {
     double width = 0;
     for (const PrintColumn& column : columns_) width += column.width;
@@ -252,16 +264,15 @@ double PageLayout::PlaceRow(Page& page, int32_t row, double y) const {
   double x = paper_.margin;
   for (const PrintColumn& column : columns_) {
     const double room = column.width - kPadding * size_;
-    double line_y = y + kPadding / 4 * size_;
     const std::string text = grid_.CellText(column.column, row);
-    for (std::string& line :
-         column.number || !wraps_ ? std::vector<std::string>{text} : Wrap(text, room)) {
-      if (!line.empty()) {
-        page.texts.push_back({x + kPadding / 2 * size_, line_y, room, size_,
-                              column.number ? PrintAlign::Right : PrintAlign::Left, false,
-                              std::move(line)});
-      }
-      line_y += kLine * size_;
+    const std::vector<std::string> all =
+        column.number || !wraps_ ? std::vector<std::string>{text} : Wrap(text, room);
+    for (int32_t i = 0; i < lines && first_line + i < std::ssize(all); ++i) {
+      const std::string& line = all[static_cast<size_t>(first_line + i)];
+      if (line.empty()) continue;
+      page.texts.push_back({x + kPadding / 2 * size_, y + (kPadding / 4 + i * kLine) * size_, room,
+                            size_, column.number ? PrintAlign::Right : PrintAlign::Left, false,
+                            line});
     }
     x += column.width;
   }

@@ -31,7 +31,7 @@ class PageLayout final : public PageSource {
   bool Landscape() const { return landscape_; }
   double PageWidth() const override { return landscape_ ? paper_.height : paper_.width; }
   double PageHeight() const override { return landscape_ ? paper_.width : paper_.height; }
-  int PageCount() const override { return static_cast<int>(first_rows_.size()); }
+  int PageCount() const override { return static_cast<int>(starts_.size()); }
   /// Font size of the table, in points.
   double FontSize() const { return size_; }
   Page MakePage(int number) const override;
@@ -42,6 +42,12 @@ class PageLayout final : public PageSource {
     bool number;       // right-aligned, never wrapped
     double needed;     // widest text, at size 1
     double width = 0;  // points, padding included
+  };
+
+  /// Where a page goes on: a grid row, and the line of it for a row higher than a page.
+  struct Start {
+    int32_t row;
+    int32_t line;
   };
 
   void ChooseColumns();
@@ -60,9 +66,9 @@ class PageLayout final : public PageSource {
   double RowsTop() const;
   double RowsBottom() const;
   double TotalsHeight() const;
-  int32_t LastRow(int page) const;
+  Start EndOf(int page) const;
   void PlaceHead(Page& page) const;
-  double PlaceRow(Page& page, int32_t row, double y) const;
+  double PlaceRow(Page& page, int32_t row, int32_t first_line, int32_t lines, double y) const;
   void PlaceGridLines(Page& page, const std::vector<double>& ys) const;
   void PlaceTotals(Page& page, double y) const;
   void PlaceFoot(Page& page, int number) const;
@@ -80,7 +86,7 @@ class PageLayout final : public PageSource {
   std::string count_;                // how many records there are
   std::vector<std::string> totals_;  // captions with their values, in order
   std::string in_words_;             // the last total in capital numerals, "" for none
-  std::vector<int32_t> first_rows_;  // first grid row of each page, past the end for totals alone
+  std::vector<Start> starts_;        // of the pages; past the last row for totals alone
 };
 
 }  // namespace qvzj

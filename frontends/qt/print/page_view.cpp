@@ -2,13 +2,12 @@
 
 #include <QPainter>
 
-#include "frontends/qt/print/paint_page.h"
 #include "frontends/qt/theme.h"
 
 namespace qvzj::qt {
 
 PageView::PageView(const PageSource& pages, const QFont& font, QWidget* parent)
-    : QWidget(parent), pages_(pages), font_(font), page_(pages.MakePage(0)) {
+    : QWidget(parent), pages_(pages), painter_(font), page_(pages.MakePage(0)) {
   resize(sizeHint());
 }
 
@@ -38,7 +37,7 @@ void PageView::paintEvent(QPaintEvent*) {
   painter.drawRect(sheet.adjusted(-0.5, -0.5, 0.5, 0.5));
   painter.translate(kRoom, kRoom);
   painter.scale(scale_, scale_);
-  PaintPage(painter, page_, font_);
+  painter_.Paint(painter, page_);
 }
 
 }  // namespace qvzj::qt

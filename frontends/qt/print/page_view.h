@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QFont>
 #include <QWidget>
 
+#include "frontends/qt/print/paint_page.h"
 #include "platform/pages.h"
 
 namespace qvzj::qt {
@@ -29,7 +29,7 @@ class PageView : public QWidget {
 
  private:
   const PageSource& pages_;
-  QFont font_;
+  PagePainter painter_;
   Page page_;
   int current_ = 0;
   double scale_ = 1;

@@ -1,5 +1,6 @@
 #include "frontends/qt/print/paint_page.h"
 
+#include <QGlyphRun>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPdfWriter>
@@ -19,37 +20,77 @@ constexpr double kLineHeight = 1.35;
 constexpr int kPdfDots = 1200;
 constexpr QRgb kLineColor = 0xFFB4BAC2;
 
+double Units(double points) { return points * kSubunits; }
+
 int AlignmentOf(PrintAlign align) {
   if (align == PrintAlign::Center) return Qt::AlignHCenter;
   return align == PrintAlign::Right ? Qt::AlignRight : Qt::AlignLeft;
 }
 
+/// Left edge of something `width` wide in a text's room.
+double LeftEdge(const PlacedText& text, double width) {
+  const double slack = Units(text.width) - width;
+  if (text.align == PrintAlign::Left) return Units(text.x);
+  return Units(text.x) + (text.align == PrintAlign::Right ? slack : slack / 2);
+}
+
 }  // namespace
 
-void PaintPage(QPainter& painter, const Page& page, const QFont& font) {
+PagePainter::Face& PagePainter::FaceOf(double size, bool bold) {
+  const int units = qRound(Units(size));
+  const auto [place, is_new] = faces_.try_emplace({units, bold});
+  if (is_new) {
+    QFont& font = place->second.font = font_;
+    font.setPixelSize(units);
+    font.setBold(bold);
+    font.setKerning(false);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    place->second.raw = QRawFont::fromFont(font);
+  }
+  return place->second;
+}
+
+void PagePainter::PaintText(QPainter& painter, const PlacedText& text) {
+  const Face& face = FaceOf(text.size, text.bold);
+  const QString line = FromUtf8(text.text);
+  const double height = Units(text.size * kLineHeight);
+  const QList<quint32> glyphs = face.raw.glyphIndexesForString(line);
+  if (glyphs.contains(0)) {  // a character that another font must help out with
+    painter.setFont(face.font);
+    painter.drawText(
+        QRectF(Units(text.x), Units(text.y), Units(text.width), height),
+        AlignmentOf(text.align) | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip, line);
+    return;
+  }
+  QList<QPointF> places;
+  places.reserve(glyphs.size());
+  double width = 0;
+  for (const QPointF& advance : face.raw.advancesForGlyphIndexes(glyphs)) {
+    places << QPointF(width, 0);
+    width += advance.x();
+  }
+  QGlyphRun run;
+  run.setRawFont(face.raw);
+  run.setGlyphIndexes(glyphs);
+  run.setPositions(places);
+  const double base = (height + face.raw.ascent() - face.raw.descent()) / 2;
+  painter.drawGlyphRun(QPointF(LeftEdge(text, width), Units(text.y) + base), run);
+}
+
+void PagePainter::Paint(QPainter& painter, const Page& page) {
   painter.save();
   painter.scale(1 / kSubunits, 1 / kSubunits);
-  const auto unit = [](double points) { return points * kSubunits; };
   for (const PlacedFill& fill : page.fills) {
-    painter.fillRect(QRectF(unit(fill.x), unit(fill.y), unit(fill.width), unit(fill.height)),
+    painter.fillRect(QRectF(Units(fill.x), Units(fill.y), Units(fill.width), Units(fill.height)),
                      QColor(QRgb(fill.color)));
   }
-  painter.setPen(QPen(QColor(kLineColor), unit(kLineWidth)));
+  painter.setPen(QPen(QColor(kLineColor), Units(kLineWidth)));
   for (const PlacedLine& line : page.lines) {
-    painter.drawLine(QPointF(unit(line.x1), unit(line.y1)), QPointF(unit(line.x2), unit(line.y2)));
+    painter.drawLine(QPointF(Units(line.x1), Units(line.y1)),
+                     QPointF(Units(line.x2), Units(line.y2)));
   }
   painter.setPen(Qt::black);
-  QFont sized = font;
-  sized.setKerning(false);
-  for (const PlacedText& text : page.texts) {
-    sized.setPixelSize(qRound(unit(text.size)));
-    sized.setBold(text.bold);
-    painter.setFont(sized);
-    painter.drawText(
-        QRectF(unit(text.x), unit(text.y), unit(text.width), unit(text.size * kLineHeight)),
-        AlignmentOf(text.align) | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
-        FromUtf8(text.text));
-  }
+  for (const PlacedText& text : page.texts) PaintText(painter, text);
   painter.restore();
 }
 
@@ -70,10 +111,11 @@ bool PaintPages(QPagedPaintDevice& device, int dots, const PageSource& pages, in
   };
   if (!painter.begin(&device)) throw refused(first);
   painter.scale(dots / kPointsAnInch, dots / kPointsAnInch);
+  PagePainter pages_painter(font);
   for (int number = first; number <= last; ++number) {
     if (progress && !progress(number - first, last - first + 1)) return false;
     if (number > first && !device.newPage()) throw refused(number);
-    PaintPage(painter, pages.MakePage(number), font);
+    pages_painter.Paint(painter, pages.MakePage(number));
   }
   return true;
 }

@@ -4,10 +4,14 @@
 
 #include <QClipboard>
 #include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QMenu>
 #include <QSettings>
+#include <QTimer>
 
+#include "frontends/qt/ask_file.h"
 #include "frontends/qt/export_grid.h"
 #include "frontends/qt/find_text.h"
 #include "frontends/qt/layout_store.h"
@@ -130,7 +134,7 @@ TEST_F(Tools, ExportTheGridAndSayHowManyRows) {
   SuiteExporter exporter;
   Around().exporter = &exporter;
   const QString file = QString::fromStdString((world_.folder.Path() / "out.csv").string());
-  qt::WriteGrid(world_.Window(), form_.Grid2, qt::TextsOf(0), file, ExportFormat::CsvUtf8);
+  qt::WriteGrid(world_.Window(), form_.Grid2, {}, qt::TextsOf(0), file, ExportFormat::CsvUtf8);
   QFile written(file);
   ASSERT_TRUE(written.open(QIODevice::ReadOnly));
   EXPECT_TRUE(QString::fromUtf8(written.readAll()).contains("XP3"));
@@ -139,10 +143,56 @@ TEST_F(Tools, ExportTheGridAndSayHowManyRows) {
   EXPECT_EQ(said[0].rfind("已导出 3 行", 0), 0U) << said[0];
 }
 
+TEST_F(Tools, ExportTheColumnsAsTheUserArrangedThem) {
+  SuiteExporter exporter;
+  Around().exporter = &exporter;
+  QHeaderView* header = table_.horizontalHeader();
+  header->moveSection(header->visualIndex(1), 0);
+  const QString file = QString::fromStdString((world_.folder.Path() / "moved.csv").string());
+  QTimer::singleShot(50, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    dialog->selectNameFilter(dialog->nameFilters().at(1));
+    emit dialog->filterSelected(dialog->nameFilters().at(1));
+    dialog->findChild<QLineEdit*>()->setText(file);
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  emit table_.customContextMenuRequested({5, 5});
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  for (QAction* action : menu->actions()) {
+    if (action->text() == "导出(&E)…") action->trigger();
+  }
+  menu->close();
+  world_.Settle();
+  QFile written(file);
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(QString::fromUtf8(written.readLine()).contains("票号,日期,客户单位,"));
+}
+
+TEST(AskFile, ProposesANameOfTheChosenType) {
+  QWidget owner;
+  QStringList names;
+  QTimer::singleShot(50, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    const auto name = [&] { return QFileInfo(dialog->selectedFiles().value(0)).fileName(); };
+    names << name();
+    for (const QString& filter : dialog->nameFilters()) {
+      dialog->selectNameFilter(filter);
+      emit dialog->filterSelected(filter);
+      names << name();
+    }
+    dialog->reject();
+  });
+  qt::AskSaveFile(owner, {"t", "No. 1.5", {{"Book", "xlsx"}, {"List", "csv"}}}, false);
+  EXPECT_EQ(names, (QStringList{"No. 1.5.xlsx", "No. 1.5.xlsx", "No. 1.5.csv"}));
+}
+
 TEST_F(Tools, SayWhyAnExportFailed) {
   SuiteExporter exporter;
   Around().exporter = &exporter;
-  qt::WriteGrid(world_.Window(), form_.Grid2, qt::TextsOf(0), "/nowhere/out.csv",
+  qt::WriteGrid(world_.Window(), form_.Grid2, {}, qt::TextsOf(0), "/nowhere/out.csv",
                 ExportFormat::CsvUtf8);
   EXPECT_EQ(world_.headless.boxes.TakeErrors().size(), 1U);
 }

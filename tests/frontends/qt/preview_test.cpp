@@ -1,16 +1,18 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QTimer>
 #include <QWheelEvent>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "frontends/qt/print/page_desk.h"
+#include "frontends/qt/print/page_output.h"
 #include "frontends/qt/print/paint_page.h"
 #include "frontends/qt/print/preview_window.h"
 #include "frontends/qt/theme.h"
@@ -26,23 +28,23 @@ namespace fs = std::filesystem;
 /// Pages that say their number.
 class Numbered : public PageSource {
  public:
-  explicit Numbered(int count, bool landscape = false) : count_(count), landscape_(landscape) {}
+  explicit Numbered(int count, std::string said = "page") : count_(count), said_(std::move(said)) {}
   int PageCount() const override { return count_; }
-  double PageWidth() const override { return landscape_ ? 842 : 595; }
-  double PageHeight() const override { return landscape_ ? 595 : 842; }
+  double PageWidth() const override { return 595; }
+  double PageHeight() const override { return 842; }
   Page MakePage(int page) const override {
     Page made;
     PlacedText text;
     text.x = text.y = 40;
-    text.width = 200;
-    text.text = "page " + std::to_string(page + 1);
+    text.width = 400;
+    text.text = count_ == 1 ? said_ : said_ + std::to_string(page + 1);
     made.texts.push_back(text);
     return made;
   }
 
  private:
   int count_;
-  bool landscape_;
+  std::string said_;
 };
 
 class Preview : public testing::Test {
@@ -271,6 +273,47 @@ TEST_F(PdfFile, LeavesTheOlderOneWholeWhenTheDiskIsFull) {
   }
   EXPECT_EQ(Bytes(), "old");
   EXPECT_EQ(Files(), 1) << "half a file stayed behind";
+}
+
+TEST_F(PdfFile, CanBeSearchedForItsTexts) {
+  if (std::system("command -v pdftotext >/dev/null 2>&1") != 0) {
+    GTEST_SKIP() << "no reader of PDF files on this machine (package poppler-utils)";
+  }
+  Numbered page(1, "票号 PZ20240301-0017 实收 1234.50");
+  qt::WritePdf(page, QString::fromStdString(file_.string()), "t", qt::ThemeFont(false), {});
+  const fs::path text = folder_.Path() / "out.txt";
+  ASSERT_EQ(std::system(("pdftotext " + file_.string() + " " + text.string()).c_str()), 0);
+  std::string line;
+  std::getline(std::ifstream(text) >> std::ws, line);
+  EXPECT_EQ(line, "票号 PZ20240301-0017 实收 1234.50");
+}
+
+/// A desktop output whose layout takes so long that the user sees it.
+TEST(PageOutput, LetsTheUserCancelTheLayout) {
+  qt::QtPageOutput output(qt::ThemeFont(false), [] { return false; });
+  const auto dialog = [] {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      auto* work = qobject_cast<QProgressDialog*>(window);
+      if (work != nullptr && work->isVisible()) return work;
+    }
+    return static_cast<QProgressDialog*>(nullptr);
+  };
+  int64_t done = 0;
+  while (dialog() == nullptr && done < 1000) {
+    ASSERT_TRUE(output.ShowProgress(++done, 10000));
+    QTest::qSleep(5);
+  }
+  ASSERT_NE(dialog(), nullptr);
+  EXPECT_EQ(dialog()->labelText(), "正在排版…");
+  EXPECT_EQ(dialog()->windowModality(), Qt::ApplicationModal) << "the list must stay as it is";
+  const int shown = dialog()->value();
+  EXPECT_TRUE(output.ShowProgress(5000, 10000));
+  EXPECT_GT(dialog()->value(), shown);
+  auto* cancel = dialog()->findChild<QPushButton*>();
+  EXPECT_EQ(cancel->text(), "取消");
+  cancel->click();
+  EXPECT_FALSE(output.ShowProgress(5001, 10000));
+  EXPECT_EQ(dialog(), nullptr);
 }
 
 TEST_F(PdfFile, IsNotWrittenIntoAFolderThatIsNotThere) {

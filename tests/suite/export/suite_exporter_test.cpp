@@ -2,14 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <optional>
-#include <sstream>
 
 #include "platform/basic/errors.h"
 #include "platform/ui/form.h"
+#include "tests/suite/export/read_back.h"
+#include "tests/support/small_files.h"
 
 namespace qvzj {
 namespace {
@@ -42,12 +41,7 @@ class SuiteExporterTest : public testing::Test {
   }
   ~SuiteExporterTest() override { fs::remove_all(folder); }
 
-  std::string Written() const {
-    std::ifstream in(request.path, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << in.rdbuf();
-    return bytes.str();
-  }
+  std::string Written() const { return test::BytesOf(request.path); }
 
   fs::path folder =
       fs::temp_directory_path() /
@@ -100,28 +94,68 @@ TEST_F(SuiteExporterTest, SaysWhenTheFileCannotBeWritten) {
   EXPECT_THROW(ExportXlsx(request), Error);
 }
 
-/// What an independent spreadsheet reads in a workbook, as comma-separated values; empty when
-/// there is none on this machine.
-std::optional<std::string> ReadBack(const fs::path& workbook) {
-  if (std::system("command -v soffice >/dev/null 2>&1") != 0) return std::nullopt;
-  const std::string folder = workbook.parent_path().string();
-  const std::string command = "HOME='" + folder +
-                              "' timeout 120 soffice --headless --convert-to "
-                              "'csv:Text - txt - csv (StarCalc):44,34,76,1' --outdir '" +
-                              folder + "' '" + workbook.string() + "' >/dev/null 2>&1";
-  EXPECT_EQ(std::system(command.c_str()), 0);
-  std::ifstream in(fs::path(workbook).replace_extension("csv"), std::ios::binary);
-  std::ostringstream bytes;
-  bytes << in.rdbuf();
-  return bytes.str();
+TEST_F(SuiteExporterTest, LeavesTheOldFileWhenTheDiskIsFull) {
+  std::ofstream(request.path) << "old";
+  grid.SetRowCount(3000);
+  {
+    const test::SmallFiles full(1000);
+    EXPECT_THROW(ExportCsv(request, false), Error);
+    EXPECT_THROW(ExportCsv(request, true), Error);
+    EXPECT_THROW(ExportXlsx(request), Error);
+  }
+  EXPECT_EQ(Written(), "old");
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 1);
+}
+
+TEST_F(SuiteExporterTest, RefusesAWorkbookWithoutRoomForItsTemporaryFiles) {
+  std::ofstream(request.path) << "old";
+  XlsxBounds bounds;
+  bounds.free_space = UINT64_MAX;
+  try {
+    ExportXlsx(request, bounds);
+    ADD_FAILURE() << "nothing was thrown";
+  } catch (const Error& error) {
+    EXPECT_NE(std::string(error.what()).find("No space left on device"), std::string::npos);
+  }
+  EXPECT_EQ(Written(), "old");
+}
+
+TEST_F(SuiteExporterTest, WritesTheColumnsThatAreAskedForInTheirOrder) {
+  request.columns = {3, 1};
+  ExportCsv(request, false);
+  EXPECT_EQ(Written().substr(3, 15), "金额,日期\r\n");
+}
+
+TEST_F(SuiteExporterTest, LeavesOutTheArrowOfTheSortedColumn) {
+  grid.SetHeader(1, "日期↑");
+  ExportCsv(request, false);
+  EXPECT_EQ(Written().substr(3, 14), "日期,摘要,");
+}
+
+TEST_F(SuiteExporterTest, WritesEveryTextThatASpreadsheetWouldRunAsATextInCsv) {
+  for (const std::string text : {"=1+1", "+1", "-1", "@a", "\ta", "\ra"}) {
+    grid.SetCellText(2, 1, text);
+    ExportCsv(request, false);
+    EXPECT_NE(Written().find("'" + text), std::string::npos) << text;
+  }
+}
+
+TEST_F(SuiteExporterTest, SaysOnHowManySheetsTheRowsAre) {
+  grid.SetRowCount(25);
+  XlsxBounds bounds;
+  bounds.rows_of_a_sheet = 10;
+  const ExportResult result = ExportXlsx(request, bounds);
+  EXPECT_EQ(result.rows, 25);
+  EXPECT_EQ(result.sheets, 3);
+  EXPECT_EQ(ExportXlsx(request).sheets, 1);
 }
 
 TEST_F(SuiteExporterTest, WritesAWorkbookThatAnIndependentSpreadsheetReadsTheSame) {
+  if (!test::HasSpreadsheet()) GTEST_SKIP() << test::kNoSpreadsheet;
   request.path = (folder / "out.xlsx").string();
   ExportXlsx(request);
-  const auto read = ReadBack(request.path);
-  if (!read) GTEST_SKIP() << "no LibreOffice on this machine (package libreoffice-calc-nogui)";
-  EXPECT_EQ(*read,
+  test::ReadBackWorkbooks(folder);
+  EXPECT_EQ(test::BytesOf(folder / "out.csv"),
             "\"日期\",\"摘要\",\"金额\"\n"
             "2024-03-01,\"货款, \"\"首付\"\"\",-1234.50\n"
             "2024-03-02,\"=1+1\",\n"

@@ -61,6 +61,14 @@ class PageLayoutTest : public testing::Test {
     });
   }
 
+  /// Top of the page's foot.
+  static double FootOf(const Page& page) {
+    for (const PlacedText& text : page.texts) {
+      if (text.text == "制表人: 张三") return text.y;
+    }
+    return 0;
+  }
+
   ui::Form form{"form"};
   ui::Grid grid{form, "Grid2"};
   FixedMetrics metrics;
@@ -124,6 +132,63 @@ TEST_F(PageLayoutTest, WrapsWhatNoPaperHoldsWithoutLosingACharacter) {
   EXPECT_EQ(characters, 240u);
 }
 
+TEST_F(PageLayoutTest, ContinuesARowThatNoPageHoldsOnTheNextPages) {
+  std::string text;
+  for (int i = 0; i < 6000; ++i) text += "货";
+  Fill(3, "款");
+  grid.SetCellText(3, 2, text);
+  const PageLayout layout = Layout();
+  EXPECT_GT(layout.PageCount(), 2);
+  size_t characters = 0;
+  std::vector<std::string> vouchers;
+  for (int number = 0; number < layout.PageCount(); ++number) {
+    const Page page = layout.MakePage(number);
+    EXPECT_FALSE(Overflows(layout, page));
+    const double foot = FootOf(page);
+    for (const PlacedText& text_of_page : page.texts) {
+      if (text_of_page.text.rfind("货", 0) == 0) {
+        characters += text_of_page.text.size() / 3;
+        EXPECT_LE(text_of_page.y + text_of_page.size * 1.35, foot) << "page " << number + 1;
+      }
+      if (text_of_page.text.rfind("PZ", 0) == 0) vouchers.push_back(text_of_page.text);
+    }
+  }
+  EXPECT_EQ(characters, 6000u);
+  EXPECT_EQ(vouchers, (std::vector<std::string>{"PZ1", "PZ2", "PZ3"}));
+  EXPECT_TRUE(Has(layout.MakePage(layout.PageCount() - 1), "应收金额: 100.00"));
+}
+
+TEST_F(PageLayoutTest, KeepsEveryColumnOfAWideRegister) {
+  grid.SetColumnCount(14);
+  for (int32_t column = 1; column <= 14; ++column) {
+    grid.SetColumnHidden(column, false);
+    grid.SetHeader(column, "列" + std::to_string(column));
+  }
+  grid.SetRowCount(1);
+  for (int32_t column = 5; column <= 13; ++column) {
+    grid.SetCellText(column, 1, std::to_string(column) + std::string(60, 'w'));
+  }
+  job.kind = 0;
+  const PageLayout layout = Layout();
+  const Page page = layout.MakePage(0);
+  EXPECT_TRUE(layout.Landscape());
+  EXPECT_FALSE(Overflows(layout, page));
+  for (int32_t column = 1; column <= 14; ++column) {
+    EXPECT_TRUE(Has(page, "列" + std::to_string(column)));
+  }
+  size_t letters = 0;
+  for (const std::string& text : Texts(page)) {
+    letters += static_cast<size_t>(std::count(text.begin(), text.end(), 'w'));
+  }
+  EXPECT_EQ(letters, 9 * 60u);
+}
+
+TEST_F(PageLayoutTest, LeavesOutTheArrowOfTheSortedColumn) {
+  Fill(1);
+  grid.SetHeader(2, "票号↓");
+  EXPECT_TRUE(Has(Layout().MakePage(0), "票号"));
+}
+
 TEST_F(PageLayoutTest, AlignsAmountsToTheRight) {
   Fill(1);
   const Page page = Layout().MakePage(0);
@@ -157,6 +222,27 @@ TEST_F(PageLayoutTest, ClosesTheLedgerWithItsTotalsAndTheLastOneInWords) {
   EXPECT_FALSE(Has(layout.MakePage(0), "应收金额: 100.00"));
 }
 
+TEST_F(PageLayoutTest, SetsTheTotalsInTwoLinesAsOnTheScreen) {
+  Fill(1);
+  const auto lines_of_totals = [this] {
+    const Page page = Layout().MakePage(0);
+    std::vector<std::pair<double, int>> lines;
+    for (const PlacedText& text : page.texts) {
+      if (!text.bold || text.text.find("金额: ") == std::string::npos) continue;
+      if (lines.empty() || lines.back().first != text.y) lines.emplace_back(text.y, 0);
+      ++lines.back().second;
+    }
+    std::vector<int> counts;
+    for (const auto& line : lines) counts.push_back(line.second);
+    return counts;
+  };
+  job.totals = {"一金额:", "1", "二金额:", "2", "三金额:", "3",
+                "四金额:", "4", "五金额:", "5", "六金额:", "6"};
+  EXPECT_EQ(lines_of_totals(), (std::vector<int>{3, 3}));
+  job.totals.resize(8);
+  EXPECT_EQ(lines_of_totals(), (std::vector<int>{2, 2}));
+}
+
 TEST_F(PageLayoutTest, GivesNoAmountInWordsWhenAForeignCurrencyIsAmongTheEntries) {
   Fill(3);
   grid.SetCellNumber(13, 2, 7.2);
@@ -179,20 +265,33 @@ TEST_F(PageLayoutTest, NeverPutsTheTotalsOverTheFoot) {
     const PageLayout layout = Layout();
     const Page last = layout.MakePage(layout.PageCount() - 1);
     double totals_bottom = 0;
-    double foot = layout.PageHeight();
+    const double foot = FootOf(last);
     for (const PlacedText& text : last.texts) {
       if (text.text == "人民币大写: 叁拾元整") totals_bottom = text.y + text.size * 1.35;
-      if (text.text == "制表人: 张三") foot = text.y;
     }
     ASSERT_GT(totals_bottom, 0) << rows;
     EXPECT_LE(totals_bottom, foot) << rows;
   }
 }
 
-TEST_F(PageLayoutTest, StopsWhenTheUserCancels) {
+TEST_F(PageLayoutTest, StopsWhenTheUserCancelsWhileTheColumnsAreMeasured) {
   Fill(5000);
   const PageLayout layout(job, Date::FromYmd(2024, 3, 15), metrics, {},
                           [](int64_t, int64_t) { return false; });
+  EXPECT_TRUE(layout.Cancelled());
+  EXPECT_EQ(layout.PageCount(), 0);
+}
+
+TEST_F(PageLayoutTest, StopsWhenTheUserCancelsWhileThePagesAreBroken) {
+  Fill(5000);
+  int64_t last = 0;
+  const PageLayout layout(job, Date::FromYmd(2024, 3, 15), metrics, {},
+                          [&](int64_t done, int64_t total) {
+                            EXPECT_GT(done, last) << "the work goes on, not back";
+                            EXPECT_EQ(total, 10000);
+                            last = done;
+                            return done <= 5000;
+                          });
   EXPECT_TRUE(layout.Cancelled());
   EXPECT_EQ(layout.PageCount(), 0);
 }
