@@ -32,11 +32,15 @@ constexpr int64_t kManyCustomers = 100'000;
 /// Up to here times must stay alike.
 constexpr int64_t kBoundedSize = 1'000'000;
 
-/// Seconds on the clock: the work is the server's as well as this process's.
+/// By the clock: the work is the server's as well as this process's.
+double SecondsSince(Clock::time_point start) {
+  return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
 double Seconds(const Work& work) {
   const auto start = Clock::now();
   work();
-  return std::chrono::duration<double>(Clock::now() - start).count();
+  return SecondsSince(start);
 }
 
 double Median(std::vector<double> values) {
@@ -44,21 +48,21 @@ double Median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
+/// Median seconds of a few runs, one after another; of one that takes long.
+double TurnOf(const Work& work) {
+  std::vector<double> runs{Seconds(work)};
+  while (runs.front() < 0.005 && runs.size() < 20) runs.push_back(Seconds(work));
+  return Median(std::move(runs));
+}
+
 /// Median seconds of each work. They run turn by turn, so that what else the machine does weighs on
 /// all alike: for `budget` seconds, at least three turns.
 std::vector<double> InTurns(double budget, const std::vector<Work>& works) {
+  for (const Work& work : works) work();  // pays for cold caches
   std::vector<std::vector<double>> turns(works.size());
-  for (size_t i = 0; i < works.size(); ++i) {
-    const double first = Seconds(works[i]);  // pays for cold caches; the slow ones do not notice
-    if (first > 5) turns[i].push_back(first);
-  }
-  double spent = 0;
-  for (int turn = 0; turn < 3 || (spent < budget && turn < 200); ++turn) {
-    for (size_t i = 0; i < works.size(); ++i) {
-      if (turns[i].size() > 2 && turns[i].front() > 5) continue;
-      turns[i].push_back(Seconds(works[i]));
-      spent += turns[i].back();
-    }
+  const auto start = Clock::now();
+  for (int turn = 0; turn < 3 || (SecondsSince(start) < budget && turn < 100); ++turn) {
+    for (size_t i = 0; i < works.size(); ++i) turns[i].push_back(TurnOf(works[i]));
   }
   std::vector<double> medians;
   for (std::vector<double>& times : turns) medians.push_back(Median(std::move(times)));

@@ -1,5 +1,6 @@
 #include "control/qvJxc_Zj.h"
 
+#include <algorithm>
 #include <exception>
 
 #include "forms/startup.h"
@@ -33,19 +34,31 @@ bool LedgerIsThere() {
   return CountRows("tAccountDetail", "1=2") != -1;
 }
 
-// The data path as a message may show it: a password within a server's details is left out.
-std::string ShownPath(const std::string& path) {
-  std::string shown = path;
-  const std::string lower = basic::Lower(path);
-  for (const char* key : {"pwd=", "password="}) {
-    const size_t place = lower.find(key);
-    if (place == std::string::npos) continue;
-    const size_t start = place + std::string_view(key).size();
-    const bool braced = start < path.size() && path[start] == '{';
-    const size_t end = braced ? path.find('}', start) : path.find(';', start);
-    return shown.replace(start, end == std::string::npos ? end : end - start + braced, "***");
+// Place behind the value that begins at `start` in a server's details. Braces hold any character;
+// two closing ones stand for one.
+size_t EndOfValue(const std::string& details, size_t start) {
+  if (start == details.size() || details[start] != '{') {
+    return std::min(details.find(';', start), details.size());
   }
-  return shown;
+  for (size_t at = start + 1; at < details.size(); ++at) {
+    if (details[at] != '}') continue;
+    if (details.compare(at, 2, "}}") != 0) return at + 1;
+    ++at;
+  }
+  return details.size();
+}
+
+// The data path as a message may show it: passwords within a server's details are left out.
+std::string ShownPath(std::string path) {
+  for (const char* key : {"pwd=", "password="}) {
+    size_t from = 0;
+    for (size_t at; (at = basic::Lower(path).find(key, from)) != std::string::npos;) {
+      const size_t start = at + std::string_view(key).size();
+      path.replace(start, EndOfValue(path, start) - start, "***");
+      from = start;
+    }
+  }
+  return path;
 }
 
 }  // namespace

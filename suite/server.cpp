@@ -18,7 +18,8 @@ std::unique_ptr<data::Store> OpenServer(const ServerLogin& login,
   odbc.engine =
       server.kind == ServerKind::TransactSql ? ServerEngine::TransactSql : ServerEngine::PostgreSql;
   odbc.connection_string = ConnectionString(login, server);
-  odbc.secrets = {login.password, PasswordIn(login.address)};
+  odbc.secrets = PasswordsIn(login.address);
+  odbc.secrets.push_back(login.password);
   odbc.login_timeout = options.login_timeout;
   odbc.statement_timeout = options.statement_timeout;
   odbc.lock_timeout = options.busy_timeout;

@@ -77,6 +77,17 @@ void AddHabits(Builder& text, const ServerOptions& options) {
   text.Add("KeepaliveInterval", "10");
 }
 
+/// The value that begins at `start`, without its braces.
+std::string ValueAt(const std::string& text, size_t start) {
+  if (text.compare(start, 1, "{") != 0) return text.substr(start, text.find(';', start) - start);
+  std::string value;
+  for (size_t i = start + 1; i < text.size(); ++i) {
+    if (text[i] == '}' && text.compare(++i, 1, "}") != 0) break;
+    value += text[i];
+  }
+  return value;
+}
+
 }  // namespace
 
 std::string ConnectionString(const ServerLogin& login, const ServerOptions& options) {
@@ -99,19 +110,17 @@ std::string ConnectionString(const ServerLogin& login, const ServerOptions& opti
   return text.Text();
 }
 
-std::string PasswordIn(const std::string& connection_string) {
+std::vector<std::string> PasswordsIn(const std::string& connection_string) {
   const std::string text = ";" + connection_string;
-  constexpr std::string_view kKey = ";pwd=";
-  const size_t key = basic::Lower(text).find(kKey);
-  if (key == std::string::npos) return {};
-  const std::string value = text.substr(key + kKey.size());
-  if (!value.starts_with('{')) return value.substr(0, value.find(';'));
-  std::string password;
-  for (size_t i = 1; i < value.size(); ++i) {
-    if (value[i] == '}' && value.substr(++i, 1) != "}") break;
-    password += value[i];
+  const std::string lower = basic::Lower(text);
+  std::vector<std::string> passwords;
+  for (const std::string_view key : {";pwd=", ";password="}) {
+    for (size_t at = 0; (at = lower.find(key, at)) != std::string::npos;) {
+      at += key.size();
+      passwords.push_back(ValueAt(text, at));
+    }
   }
-  return password;
+  return passwords;
 }
 
 }  // namespace qvzj

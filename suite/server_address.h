@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace qvzj {
 
@@ -34,7 +35,7 @@ struct ServerOptions {
 /// The ODBC connection string for a login. What a whole connection string already says is kept.
 std::string ConnectionString(const ServerLogin& login, const ServerOptions& options);
 
-/// The password that a whole connection string holds; "" when it holds none.
-std::string PasswordIn(const std::string& connection_string);
+/// The passwords that a whole connection string holds, under either name that drivers know.
+std::vector<std::string> PasswordsIn(const std::string& connection_string);
 
 }  // namespace qvzj

@@ -69,16 +69,23 @@ TEST(ServerAddress, RequiresEncryptionWhereAsked) {
   EXPECT_NE(Text("h", options).find("Encrypt=yes;"), std::string::npos);
 }
 
-TEST(PasswordIn, ReadsPlainAndBracedValues) {
-  EXPECT_EQ(PasswordIn("DRIVER={a;b};Pwd=word;UID=u"), "word");
-  EXPECT_EQ(PasswordIn("PWD={a;b}}c=};UID=u"), "a;b}c=");
-  EXPECT_EQ(PasswordIn("UID=u;PWD=last"), "last");
-  EXPECT_EQ(PasswordIn("db.example:5432"), "");
+using Passwords = std::vector<std::string>;
+
+TEST(PasswordsIn, ReadsPlainAndBracedValues) {
+  EXPECT_EQ(PasswordsIn("DRIVER={a;b};Pwd=word;UID=u"), Passwords{"word"});
+  EXPECT_EQ(PasswordsIn("PWD={a;b}}c=};UID=u"), Passwords{"a;b}c="});
+  EXPECT_EQ(PasswordsIn("UID=u;PWD=last"), Passwords{"last"});
+  EXPECT_EQ(PasswordsIn("UID=u;PWD={open"), Passwords{"open"});
+  EXPECT_EQ(PasswordsIn("db.example:5432"), Passwords{});
 }
 
-TEST(PasswordIn, ReadsBackWhatAConnectionStringWasMadeOf) {
+TEST(PasswordsIn, ReadsEitherNameAsOftenAsItIsThere) {
+  EXPECT_EQ(PasswordsIn("Password=a;PWD=b;password={c;d}"), (Passwords{"b", "a", "c;d"}));
+}
+
+TEST(PasswordsIn, ReadsBackWhatAConnectionStringWasMadeOf) {
   for (const std::string password : {"geheim;{1}", "}}", "plain", "a=b"}) {
-    EXPECT_EQ(PasswordIn(ConnectionString({"host", "u", password, "d"}, {})), password);
+    EXPECT_EQ(PasswordsIn(ConnectionString({"host", "u", password, "d"}, {})), Passwords{password});
   }
 }
 

@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <fstream>
 #include <random>
@@ -90,7 +91,48 @@ std::string Contents(const fs::path& file) {
   return text.str();
 }
 
+/// A process and all its children.
+std::vector<pid_t> FamilyOf(pid_t parent) {
+  std::vector<pid_t> family{parent};
+  const std::string number = std::to_string(parent);
+  std::ifstream children("/proc/" + number + "/task/" + number + "/children");
+  for (pid_t child; children >> child;) family.push_back(child);
+  return family;
+}
+
 }  // namespace
+
+bool Lives(pid_t process) {
+  // The state stands behind the name, which ends with the last bracket.
+  const std::string state = Contents("/proc/" + std::to_string(process) + "/stat");
+  const size_t name_end = state.rfind(')');
+  return name_end != std::string::npos && state.compare(name_end, 3, ") Z") != 0;
+}
+
+FolderKeeper::FolderKeeper(const fs::path& folder) {
+  int ends[2];
+  if (pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error("cannot make a pipe");
+  alive_ = ends[1];
+  std::string path = folder.string();
+  remover_ = fork();
+  if (remover_ == 0) {
+    // Holds no file of the tests open, and waits until the other end is closed.
+    dup2(ends[0], STDIN_FILENO);
+    const int nowhere = open("/dev/null", O_WRONLY);
+    dup2(nowhere, STDOUT_FILENO);
+    dup2(nowhere, STDERR_FILENO);
+    setsid();
+    execl("/bin/sh", "sh", "-c", "cat; while [ -e \"$0\" ]; do rm -rf \"$0\"; sleep 0.1; done",
+          path.c_str(), nullptr);
+    _exit(127);
+  }
+  close(ends[0]);
+}
+
+FolderKeeper::~FolderKeeper() {
+  close(alive_);
+  Wait(remover_);
+}
 
 std::string PrivatePostgres::Missing() {
   if (!fs::exists(std::string(kPrograms) + "postgres")) return "PostgreSQL 15 is not installed";
@@ -122,19 +164,36 @@ void PrivatePostgres::InitializeCluster() {
       }
     }
   }
-  const Words words{std::string(kPrograms) + "initdb",
-                    "--pgdata",
-                    (folder_.Path() / "data").string(),
-                    "--username",
-                    kUser,
-                    "--pwfile",
-                    password.string(),
-                    "--auth=scram-sha-256",
-                    "--encoding=UTF8",
-                    "--locale=C",
-                    "--no-sync",
-                    "--no-instructions"};
-  if (Wait(Spawn(words, log)) != 0) throw std::runtime_error("initdb failed: " + Contents(log));
+  Do("initdb", {std::string(kPrograms) + "initdb", "--pgdata", (folder_.Path() / "data").string(),
+                "--username", kUser, "--pwfile", password.string(), "--auth=scram-sha-256",
+                "--encoding=UTF8", "--locale=C", "--no-sync", "--no-instructions"});
+  const bool tls = std::find(settings_.begin(), settings_.end(), "ssl=on") != settings_.end();
+  if (tls) MakeCertificate();
+}
+
+void PrivatePostgres::MakeCertificate() {
+  const fs::path data = folder_.Path() / "data";
+  Do("openssl", {"/usr/bin/openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2",
+                 "-subj", "/CN=localhost", "-keyout", (data / "server.key").string(), "-out",
+                 (data / "server.crt").string()});
+}
+
+void PrivatePostgres::Do(const std::string& what, const Words& words) {
+  if (Wait(Spawn(words, Log())) != 0)
+    throw std::runtime_error(what + " failed: " + Contents(Log()));
+}
+
+void PrivatePostgres::LimitFiles(uint64_t bytes) {
+  // As the server's user, whose processes root itself need not be allowed to limit.
+  const std::string limit = "--fsize=" + (bytes == 0 ? "unlimited" : std::to_string(bytes)) + ":";
+  for (const pid_t process : FamilyOf(server_)) {
+    const int status =
+        Wait(Spawn({"/usr/bin/prlimit", "--pid", std::to_string(process), limit}, Log()));
+    // A child may be gone by now.
+    if (status != 0 && process == server_) {
+      throw std::runtime_error("the server's files cannot be limited: " + Contents(Log()));
+    }
+  }
 }
 
 void PrivatePostgres::Start() {
@@ -172,9 +231,14 @@ void PrivatePostgres::SpawnServer() {
 }
 
 void PrivatePostgres::Kill() {
-  kill(server_, SIGKILL);
+  // The processes that serve the connections too: one that has not noticed yet would still answer.
+  const std::vector<pid_t> family = FamilyOf(server_);
+  for (const pid_t process : family) kill(process, SIGKILL);
   Wait(server_);
   server_ = -1;
+  for (const pid_t process : family) {
+    while (Lives(process)) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
 }
 
 void PrivatePostgres::RunFile(const std::string& database, const std::filesystem::path& file) {

@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -11,15 +12,31 @@
 
 namespace qvzj::test {
 
+/// True while a process runs; a dead one of which only its number is left does not.
+bool Lives(pid_t process);
+
+/// Removes a folder when the object is gone, also when that is because the process was killed.
+class FolderKeeper {
+ public:
+  explicit FolderKeeper(const std::filesystem::path& folder);
+  ~FolderKeeper();
+  FolderKeeper(const FolderKeeper&) = delete;
+  FolderKeeper& operator=(const FolderKeeper&) = delete;
+
+ private:
+  int alive_ = -1;  ///< end of a pipe that is closed with this process
+  pid_t remover_ = -1;
+};
+
 /// A private PostgreSQL server on a loopback port of its own, in a folder of its own. It ends with
-/// the object and, should this process be killed, with the process.
+/// the object and, should this process be killed, with the process; so does the folder.
 class PrivatePostgres {
  public:
   /// Why no server can be started here; "" when one can.
   static std::string Missing();
 
   /// Makes the cluster and starts it, with settings "name=value" besides those that make it
-  /// private. Throws std::runtime_error with the server's log.
+  /// private; with "ssl=on" also a certificate. Throws std::runtime_error with the server's log.
   explicit PrivatePostgres(std::vector<std::string> settings = {});
   ~PrivatePostgres();
   PrivatePostgres(const PrivatePostgres&) = delete;
@@ -44,15 +61,25 @@ class PrivatePostgres {
   /// Ends the server without warning, as a failing machine does.
   void Kill();
   void Start();
+  /// No file of the server may grow beyond so many bytes from here on, as on a full disk; 0 takes
+  /// the limit away. Its log of changes needs 16 MB.
+  void LimitFiles(uint64_t bytes);
+
+  const std::filesystem::path& Folder() const { return folder_.Path(); }
+  pid_t Process() const { return server_; }
 
  private:
   std::string MakeFrom(const std::string& model);
   void InitializeCluster();
+  void MakeCertificate();
+  /// Runs a program as the server's user and waits; throws when it fails.
+  void Do(const std::string& what, const std::vector<std::string>& words);
   void SpawnServer();
   bool IsReady() const;
   std::filesystem::path Log() const { return folder_.Path() / "log"; }
 
   TemporaryFolder folder_;
+  FolderKeeper keeper_{folder_.Path()};
   std::vector<std::string> settings_;
   int port_ = 0;
   pid_t server_ = -1;

@@ -1,3 +1,6 @@
+#include <chrono>
+#include <thread>
+
 #include "tests/adapters/odbc/server.h"
 #include "tests/support/world.h"
 
@@ -88,6 +91,49 @@ TEST_F(ModuleOnAServer, KeepsWhatWasKeyedWhenTheServerHasNoRoomLeft) {
   Server().Run(database_, "drop trigger full_disk on tAccountDetail");
   form.UserClick(form.cmdAcntSave);
   EXPECT_EQ(Entries(), "2");
+}
+
+TEST_F(ModuleOnAServer, KeepsWhatWasKeyedWhenTheServersFilesCanGrowNoMore) {
+  frmZj& form = world_.Form();
+  // A table of one row a page, which has to grow for every new row.
+  Server().RunAll(database_, {"alter table tAccountDetail set (fillfactor=10)",
+                              "insert into tAccountDetail (fCompID,fType1,fBrief) select 77,0,"
+                              "repeat('x',1900) from generate_series(1,2200)"});
+  const std::string size = OpenServer(LoginTo(database_), {})
+                               ->Native("select pg_relation_size('taccountdetail')")
+                               .Text(0);
+  KeyEntry();
+  Server().LimitFiles(std::stoull(size));
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_NE(Errors().find("could not extend file"), std::string::npos);
+  EXPECT_EQ(form.txtAcnt2(1).Text(), "A2");
+  EXPECT_TRUE(form.Grid2.Visible());
+  EXPECT_EQ(form.Grid2.RowCount(), 1);
+  Server().LimitFiles(0);
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_EQ(Errors(), "");
+  EXPECT_EQ(Entries(), "2202");
+  EXPECT_EQ(form.Grid2.RowCount(), 2);
+}
+
+TEST_F(ModuleOnAServer, ShowsNothingHalfWhenTheServerDiesUnderARefresh) {
+  frmZj& form = world_.Form();
+  auto holder = OpenServer(LoginTo(database_), {});
+  holder->Native("begin");
+  holder->Native("lock table tAccountDetail in access exclusive mode");
+  std::thread killer([] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    Server().Kill();
+  });
+  form.UserClick(form.cmdAcntRefresh);
+  killer.join();
+  EXPECT_NE(Errors(), "");
+  EXPECT_TRUE(form.Grid1.Visible());
+  EXPECT_TRUE(form.Grid2.Visible());
+  Server().Start();
+  form.UserClick(form.cmdAcntRefresh);
+  EXPECT_EQ(Errors(), "");
+  EXPECT_EQ(form.Grid2.RowCount(), 1);
 }
 
 }  // namespace

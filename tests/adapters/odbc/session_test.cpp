@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <filesystem>
+#include <thread>
+
 #include "platform/basic/errors.h"
 #include "tests/adapters/odbc/server.h"
 
@@ -101,6 +105,21 @@ TEST_F(OdbcSessions, RefuseAnUnencryptedServerWhereEncryptionIsRequired) {
   EXPECT_NE(text.find("SSL"), std::string::npos) << text;
 }
 
+TEST_F(OdbcSessions, EncryptWhereTheServerOffersIt) {
+  if (!std::filesystem::exists("/usr/bin/openssl")) GTEST_SKIP() << "openssl is not installed";
+  PrivatePostgres server({"ssl=on"});
+  const ServerLogin login{server.Address(), PrivatePostgres::kUser, PrivatePostgres::kPassword,
+                          "postgres"};
+  for (const bool require : {false, true}) {
+    ConnectionOptions options;
+    options.server.require_tls = require;
+    const auto session = OpenServer(login, options);
+    EXPECT_EQ(
+        session->Native("select ssl::text from pg_stat_ssl where pid=pg_backend_pid()").Text(0),
+        "true");
+  }
+}
+
 TEST_F(OdbcSessions, ReadOnAfterTheServerCameBack) {
   auto session = Open();
   session->Execute(kInsert);
@@ -163,6 +182,19 @@ TEST_F(OdbcSessions, WaitForAnotherSessionAndThenSaySoAndGoOn) {
     EXPECT_NE(Failure(*session, "Update cards Set fType0=1 Where fID=5"), "");
   }
   EXPECT_EQ(session->Query(kCount).Text(0), "1");
+}
+
+TEST_F(OdbcSessions, AnswerNothingWhenTheServerDiesInTheMiddleOfAnAnswer) {
+  auto session = OpenServer(LoginTo(database_), {});
+  std::thread killer([] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    Server().Kill();
+  });
+  // Ten million rows take far longer than that.
+  EXPECT_THROW(session->Native("select g, g::text from generate_series(1,10000000) g"), DataError);
+  killer.join();
+  Server().Start();
+  EXPECT_EQ(session->Query(kCount).Text(0), "0");
 }
 
 TEST_F(OdbcSessions, SayThatARightIsMissing) {
