@@ -247,6 +247,11 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
       return;
     case PE_FrameDefaultButton:
       return;
+    case PE_Frame:
+      painter->setPen(ColorsFor(option->palette).strong_border);
+      painter->setBrush(Qt::NoBrush);
+      painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+      return;
     case PE_PanelMenu:
       painter->fillRect(option->rect, ColorsFor(option->palette).card);
       painter->setPen(ColorsFor(option->palette).strong_border);
@@ -269,6 +274,14 @@ void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, 
     case CE_TabBarTabShape:
       if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option)) {
         DrawTab(*tab, *painter);
+      }
+      return;
+    case CE_ComboBoxLabel:
+      if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
+        // A text that is not in the list is shown like any other.
+        QStyleOptionComboBox plain(*combo);
+        plain.palette.setBrush(QPalette::ButtonText, plain.palette.windowText());
+        QProxyStyle::drawControl(element, &plain, painter, widget);
       }
       return;
     case CE_HeaderSection:

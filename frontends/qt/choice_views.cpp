@@ -6,15 +6,19 @@
 #include <QDateEdit>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
+#include <QStyleOption>
+#include <QTextCharFormat>
 #include <QToolButton>
 #include <utility>
 
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/keys.h"
 #include "frontends/qt/line_link.h"
+#include "frontends/qt/native_texts.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 
@@ -28,10 +32,13 @@ basic::Date FromNative(const QDate& date) {
   return basic::Date::FromYmd(date.year(), date.month(), date.day());
 }
 
-/// Plain marks in place of the toolkit's coloured arrows.
+/// Plain marks in place of the toolkit's coloured arrows, and an edge all around.
 void DressCalendar(QCalendarWidget& calendar) {
   calendar.setGridVisible(false);
   calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  calendar.layout()->setContentsMargins(1, 1, 1, 1);
+  calendar.setAutoFillBackground(true);
+  calendar.setBackgroundRole(QPalette::Dark);
   for (const auto& [name, mark] :
        {std::pair{"qt_calendar_prevmonth", "‹"}, std::pair{"qt_calendar_nextmonth", "›"}}) {
     auto* button = calendar.findChild<QToolButton*>(name);
@@ -53,7 +60,7 @@ ComboView::ComboView(FormWindow& window, ui::ComboBox& combo, QWidget* parent)
     native_->setCompleter(nullptr);  // what stands in the box is what was typed
     link_ = std::make_unique<LineLink>(
         *native_->lineEdit(), combo_, [this](const std::function<bool()>& act) { return Act(act); },
-        [this] { return Live(); });
+        [this] { return Live(); }, TextsOf(window.Traditional() ? 1 : 0).shortened);
   }
   Adopt(native_, native_->lineEdit());
   connect(native_, &QComboBox::activated, this, [this](int index) {
@@ -186,7 +193,7 @@ void ListView::ShowItems() {
 namespace {
 
 /// A date field that makes its calendar when it is first dropped: a calendar takes longer to make
-/// than all the other fields of a screen together.
+/// than all the other fields of a screen together. F4 and Alt+Down drop it, as they drop lists.
 class DateEdit : public QDateEdit {
  public:
   using QDateEdit::QDateEdit;
@@ -194,10 +201,39 @@ class DateEdit : public QDateEdit {
  protected:
   void mousePressEvent(QMouseEvent* event) override {
     if (!calendar_) MakeCalendar();
+    ColourCalendar();
     QDateEdit::mousePressEvent(event);
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool alt = event->modifiers().testFlag(Qt::AltModifier);
+    if (event->key() == Qt::Key_F4 || (alt && event->key() == Qt::Key_Down)) {
+      Drop();
+    } else {
+      QDateEdit::keyPressEvent(event);
+    }
   }
 
  private:
+  /// The toolkit drops a calendar for a press on the arrow alone.
+  void Drop() {
+    QStyleOptionComboBox option;
+    option.initFrom(this);
+    const QPointF arrow =
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this)
+            .center();
+    QMouseEvent press(QEvent::MouseButtonPress, arrow, mapToGlobal(arrow), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    mousePressEvent(&press);
+  }
+  /// The application may have gone from light to dark since.
+  void ColourCalendar() {
+    QTextCharFormat format;
+    format.setForeground(ColorsFor(palette()).negative);
+    for (Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
+      calendar_->setWeekdayTextFormat(day, format);
+    }
+  }
   void MakeCalendar() {
     calendar_ = calendarWidget();
     DressCalendar(*calendar_);

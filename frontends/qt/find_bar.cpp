@@ -69,6 +69,7 @@ bool FindBar::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize) Place();
     return false;
   }
+  composition_.See(*event);
   if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) return false;
   const auto* key = static_cast<QKeyEvent*>(event);
   const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
@@ -78,6 +79,7 @@ bool FindBar::eventFilter(QObject* watched, QEvent* event) {
     event->accept();
     return true;
   }
+  if (composition_.UnderWay()) return true;
   if (enter || again) {
     Find(key->modifiers().testFlag(Qt::ShiftModifier));
   } else {

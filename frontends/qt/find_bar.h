@@ -3,6 +3,8 @@
 #include <QWidget>
 #include <functional>
 
+#include "frontends/qt/composition.h"
+
 class QLabel;
 class QLineEdit;
 
@@ -36,6 +38,7 @@ class FindBar : public QWidget {
   QString not_found_;
   std::function<bool(const QString&, bool)> find_;
   std::function<void()> closed_;
+  Composition composition_;
 };
 
 }  // namespace qvzj::qt

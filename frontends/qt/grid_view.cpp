@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <QToolTip>
+#include <algorithm>
 
 #include "frontends/qt/column_keeper.h"
 #include "frontends/qt/form_window.h"
@@ -247,6 +248,13 @@ void GridView::CurrentMoved(const QModelIndex& current) {
 void GridView::CountPageRows() {
   const int height = table_->verticalHeader()->defaultSectionSize();
   if (height > 0) grid_.SetPageRows(table_->viewport()->height() / height);
+}
+
+QPoint GridView::MenuPlace() const {
+  const QRect cell = table_->visualRect(table_->currentIndex());
+  const QRect room = table_->viewport()->rect();
+  return room.intersects(cell) ? QPoint(std::max(cell.left(), 0) + 12, cell.bottom())
+                               : room.center();
 }
 
 bool GridView::IsModelKey(const ui::Key& key) const {

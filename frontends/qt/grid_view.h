@@ -46,6 +46,8 @@ class GridView : public ControlView {
  protected:
   bool FocusesOnPress() const override { return true; }
   bool IsModelKey(const ui::Key& key) const override;
+  /// Under the current row.
+  QPoint MenuPlace() const override;
 
  private:
   void ConnectTable();

@@ -1,7 +1,9 @@
 #include "frontends/qt/line_link.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QToolTip>
 #include <algorithm>
 #include <utility>
 
@@ -29,8 +31,9 @@ Selection WantedSelection(const QString& text, const ui::EditBox& box) {
 
 }  // namespace
 
-LineLink::LineLink(QLineEdit& line, ui::EditBox& box, Act act, std::function<bool()> live)
-    : line_(line), box_(box), act_(std::move(act)), live_(std::move(live)) {
+LineLink::LineLink(QLineEdit& line, ui::EditBox& box, Act act, std::function<bool()> live,
+                   QString cut)
+    : line_(line), box_(box), act_(std::move(act)), live_(std::move(live)), cut_(std::move(cut)) {
   connect(&line_, &QLineEdit::textEdited, this, [this] { Edited(); });
   connect(&line_, &QLineEdit::selectionChanged, this, [this] { Selected(); });
   connect(&line_, &QLineEdit::cursorPositionChanged, this, [this] { Selected(); });
@@ -108,8 +111,17 @@ void LineLink::Edited() {
   const int32_t caret = CharactersBefore(text, line_.cursorPosition());
   const std::string utf8 = ToUtf8(text);
   act_([&] { return box_.GetForm().UserEdited(box_, utf8, caret); });
-  if (live_()) ShowText();
+  if (live_()) {
+    ShowText();
+    if (line_.text().size() < text.size()) TellCut();
+  }
   edit_ = Edit::None;
+}
+
+void LineLink::TellCut() const {
+  // A dropped key is seen at once; what a whole word or a pasted text has lost is not.
+  QApplication::beep();
+  QToolTip::showText(line_.mapToGlobal(QPoint(0, line_.height())), cut_, &line_);
 }
 
 void LineLink::Selected() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 #include <functional>
 
 #include "platform/ui/form.h"
@@ -17,7 +18,8 @@ class LineLink : public QObject {
  public:
   using Act = std::function<bool(const std::function<bool()>&)>;
   /// `act` runs a user's act (FormWindow::Act); `live` tells whether the form is still there.
-  LineLink(QLineEdit& line, ui::EditBox& box, Act act, std::function<bool()> live);
+  /// `cut` is shown when the form does not take all of a text that came in at once.
+  LineLink(QLineEdit& line, ui::EditBox& box, Act act, std::function<bool()> live, QString cut);
 
   /// True for the keys that Key() takes.
   static bool TakesKey(const ui::Key& key);
@@ -30,11 +32,13 @@ class LineLink : public QObject {
   void Edited();
   void Selected();
   void Correct(const QString& wanted);
+  void TellCut() const;
 
   QLineEdit& line_;
   ui::EditBox& box_;
   Act act_;
   std::function<bool()> live_;
+  QString cut_;
   enum class Edit { None, ByKey, ByEditor };
   Edit edit_ = Edit::None;  // the edit that is on its way through the form
 };

@@ -44,6 +44,7 @@ NativeTexts Simplified() {
   texts.exported = "已导出 %1 行：\n%2";
   texts.sheets = "一个工作表放不下，分在 %1 个工作表中。";
   texts.lost = "有 %1 个字符无法用该编码保存，已写成“?”。";
+  texts.shortened = "放不下或不能录入的文字没有录入。";
   return texts;
 }
 
@@ -82,6 +83,7 @@ NativeTexts Traditional() {
   texts.exported = "已匯出 %1 行：\n%2";
   texts.sheets = "一個工作表放不下，分在 %1 個工作表中。";
   texts.lost = "有 %1 個字元無法用該編碼保存，已寫成「?」。";
+  texts.shortened = "放不下或不能輸入的文字沒有輸入。";
   return texts;
 }
 

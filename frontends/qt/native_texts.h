@@ -23,6 +23,7 @@ struct NativeTexts {
   QString sheets;        ///< %1 sheets that the rows took
   QString not_exported;  ///< %1 the reason
   QString lost;          ///< %1 characters that the file's encoding lacks
+  QString shortened;     ///< a field did not take all of a text
 };
 
 /// By language: 0 simplified, anything else traditional Chinese.

@@ -7,6 +7,7 @@
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/keys.h"
 #include "frontends/qt/line_link.h"
+#include "frontends/qt/native_texts.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 
@@ -19,7 +20,7 @@ LineView::LineView(FormWindow& window, ui::TextBox& box, QWidget* parent)
   line_->setAlignment((box_.RightAligned() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
   link_ = std::make_unique<LineLink>(
       *line_, box_, [this](const std::function<bool()>& act) { return Act(act); },
-      [this] { return Live(); });
+      [this] { return Live(); }, TextsOf(window.Traditional() ? 1 : 0).shortened);
 }
 
 LineView::~LineView() = default;

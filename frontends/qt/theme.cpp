@@ -30,7 +30,7 @@ QPalette PaletteOf(const Colors& colors) {
   palette.setColor(QPalette::Base, colors.base);
   palette.setColor(QPalette::AlternateBase, colors.read_only);
   palette.setColor(QPalette::Text, colors.text);
-  palette.setColor(QPalette::PlaceholderText, colors.text);
+  palette.setColor(QPalette::PlaceholderText, colors.muted);
   palette.setColor(QPalette::Button, colors.card);
   palette.setColor(QPalette::ButtonText, colors.text);
   palette.setColor(QPalette::BrightText, colors.negative);

@@ -1,5 +1,7 @@
 #include "frontends/qt/view.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -58,6 +60,7 @@ bool ControlView::Act(const std::function<bool()>& act) { return window_.Act(act
 
 bool ControlView::eventFilter(QObject* watched, QEvent* event) {
   if (!Live()) return false;
+  composition_.See(*event);
   switch (event->type()) {
     case QEvent::ShortcutOverride:
       return HandleKey(*static_cast<QKeyEvent*>(event), true);
@@ -84,8 +87,18 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool ControlView::HandleKey(QKeyEvent& event, bool only_ask) {
+  if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier) {
+    // The other key for the menu, for keyboards that lack the one.
+    if (only_ask) {
+      event.accept();
+    } else {
+      AskForMenu();
+    }
+    return true;
+  }
   const std::optional<ui::Key> key = KeyOf(event);
   if (!key || !IsModelKey(*key)) return false;
+  if (composition_.UnderWay()) return true;
   if (only_ask) {
     event.accept();
   } else {
@@ -93,6 +106,15 @@ bool ControlView::HandleKey(QKeyEvent& event, bool only_ask) {
   }
   return true;
 }
+
+void ControlView::AskForMenu() {
+  QWidget* asked = FocusWidget();
+  const QPoint at = MenuPlace();
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, at, asked->mapToGlobal(at));
+  QCoreApplication::sendEvent(asked, &event);
+}
+
+QPoint ControlView::MenuPlace() const { return FocusWidget()->rect().center(); }
 
 void ControlView::SendKey(const ui::Key& key) {
   Act([&] { return GetForm().UserKey(key); });

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <memory>
 
+#include "frontends/qt/composition.h"
 #include "platform/ui/form.h"
 
 class QContextMenuEvent;
@@ -64,6 +65,8 @@ class ControlView : public QObject {
   /// Called instead of the widget's own press when the press has just moved the focus here. True
   /// when the widget shall not see it.
   virtual bool SwallowFocusingPress() const { return false; }
+  /// Where a menu that is asked for by key drops, in the widget that takes the focus.
+  virtual QPoint MenuPlace() const;
   /// Runs a user's act; false when it was refused or the form has gone.
   bool Act(const std::function<bool()>& act);
   /// False once the form has gone; nothing of the control may be touched then.
@@ -75,9 +78,11 @@ class ControlView : public QObject {
  private:
   bool HandleKey(QKeyEvent& event, bool only_ask);
   bool HandlePress();
+  void AskForMenu();
   void HandleFocusIn(Qt::FocusReason reason);
 
   ui::Control* control_;
+  Composition composition_;
 };
 
 /// The view for a control's kind; null for menu entries, which exist only while popped up.

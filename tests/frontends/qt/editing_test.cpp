@@ -3,6 +3,7 @@
 #include <QCalendarWidget>
 #include <QClipboard>
 #include <QInputMethodEvent>
+#include <QToolTip>
 
 #include "tests/frontends/qt/window_world.h"
 
@@ -21,6 +22,11 @@ class Editing : public ::testing::Test {
     form_.UserFocus(box);
     world_.Settle();
     return world_.Line(box);
+  }
+  /// What an input method shows in the field before a word is chosen.
+  static void Compose(QWidget& field, const char* text) {
+    QInputMethodEvent event(QString::fromUtf8(text), {});
+    QApplication::sendEvent(&field, &event);
   }
   /// What an input method hands over when a word is chosen.
   static void Commit(QLineEdit& line, const char* text) {
@@ -42,6 +48,23 @@ TEST_F(Editing, DropsACalendarThatIsMadeWhenItIsFirstAskedFor) {
   EXPECT_TRUE(calendar->isVisible());
   EXPECT_EQ(calendar->verticalHeaderFormat(), QCalendarWidget::NoVerticalHeader);
   calendar->parentWidget()->close();
+}
+
+TEST_F(Editing, DropsTheCalendarByKey) {
+  form_.UserFocus(form_.dtpAcntDate);
+  world_.Settle();
+  auto& edit = world_.Native<QDateEdit>(form_.dtpAcntDate);
+  const basic::Date before = form_.dtpAcntDate.Value();
+  const std::pair<Qt::Key, Qt::KeyboardModifier> keys[] = {{Qt::Key_F4, Qt::NoModifier},
+                                                           {Qt::Key_Down, Qt::AltModifier}};
+  for (const auto& [key, modifier] : keys) {
+    QTest::keyClick(&edit, key, modifier);
+    auto* calendar = edit.findChild<QCalendarWidget*>();
+    ASSERT_NE(calendar, nullptr);
+    EXPECT_TRUE(calendar->isVisible());
+    calendar->parentWidget()->close();
+  }
+  EXPECT_EQ(form_.dtpAcntDate.Value(), before);
 }
 
 TEST_F(Editing, TakesTypedTextIntoTheForm) {
@@ -66,6 +89,80 @@ TEST_F(Editing, CutsWhatAnInputMethodBringsToTheFieldsBytes) {
   Commit(line, "一二三四五六七八九十十一");
   EXPECT_EQ(form_.txtAcnt2(1).Text(), "一二三四五六七八九十");
   EXPECT_EQ(world_.Text(line), "一二三四五六七八九十");
+}
+
+TEST_F(Editing, SaysThatATextWasCut) {
+  QLineEdit& line = Enter(form_.txtAcnt2(7));
+  Commit(line, "一二三四五六七八九十十一");
+  EXPECT_EQ(form_.txtAcnt2(7).Text(), "一二三四五六七八九十");
+  EXPECT_FALSE(QToolTip::text().isEmpty());
+  QToolTip::hideText();
+}
+
+TEST_F(Editing, ShowsACompositionWithoutTakingIt) {
+  QLineEdit& line = Enter(form_.txtAcnt2(6));
+  const int before = line.inputMethodQuery(Qt::ImCursorRectangle).toRect().x();
+  Compose(line, "huokuan");
+  EXPECT_GT(line.inputMethodQuery(Qt::ImCursorRectangle).toRect().x(), before);
+  EXPECT_EQ(form_.txtAcnt2(6).Text(), "");
+  EXPECT_EQ(line.text(), "");
+  Commit(line, "货款");
+  EXPECT_EQ(form_.txtAcnt2(6).Text(), "货款");
+}
+
+TEST_F(Editing, LeavesTheKeysOfACompositionToIt) {
+  QLineEdit& line = Enter(form_.txtAcnt2(6));
+  Commit(line, "付");
+  Compose(line, "huokuan");
+  for (Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backspace}) {
+    QTest::keyClick(&line, key);
+  }
+  world_.Settle();
+  EXPECT_EQ(form_.Focused(), &form_.txtAcnt2(6));
+  EXPECT_EQ(form_.txtAcnt2(6).Text(), "付");
+  Commit(line, "货款");
+  EXPECT_EQ(form_.txtAcnt2(6).Text(), "付货款");
+  QTest::keyClick(&line, Qt::Key_Return);
+  EXPECT_NE(form_.Focused(), &form_.txtAcnt2(6));
+}
+
+TEST_F(Editing, TakesNumbersFromAnInputMethod) {
+  QLineEdit& line = Enter(form_.txtAcnt2(4));
+  Compose(line, "１２．５");
+  QTest::keyClick(&line, Qt::Key_Return);
+  EXPECT_EQ(form_.Focused(), &form_.txtAcnt2(4));
+  Commit(line, "１２．５");
+  QTest::keyClick(&line, Qt::Key_Return);
+  EXPECT_EQ(form_.txtAcnt2(4).Text(), "12.50");
+}
+
+TEST_F(Editing, KeepsADateThatAnInputMethodComposesIn) {
+  form_.UserFocus(form_.dtpAcntDate);
+  world_.Settle();
+  auto& edit = world_.Native<QDateEdit>(form_.dtpAcntDate);
+  const basic::Date before = form_.dtpAcntDate.Value();
+  auto* line = edit.findChild<QLineEdit*>();
+  Compose(*line, "jintian");
+  QTest::keyClick(line, Qt::Key_Return);
+  world_.Settle();
+  EXPECT_EQ(form_.Focused(), &form_.dtpAcntDate);
+  Commit(*line, "今天");
+  QTest::keyClick(line, Qt::Key_Return);
+  world_.Settle();
+  EXPECT_NE(form_.Focused(), &form_.dtpAcntDate);
+  EXPECT_EQ(form_.dtpAcntDate.Value(), before);
+}
+
+TEST_F(Editing, ComposesInAnEditableList) {
+  form_.UserFocus(form_.cboDoneMan);
+  world_.Settle();
+  QLineEdit* line = world_.Native<QComboBox>(form_.cboDoneMan).lineEdit();
+  Compose(*line, "lisi");
+  QTest::keyClick(line, Qt::Key_Return);
+  world_.Settle();
+  EXPECT_EQ(form_.Focused(), &form_.cboDoneMan);
+  Commit(*line, "李四");
+  EXPECT_EQ(form_.cboDoneMan.Text(), "李四");
 }
 
 TEST_F(Editing, CutsPastedTextToTheFieldsBytes) {

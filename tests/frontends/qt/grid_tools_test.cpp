@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QInputMethodEvent>
 #include <QMenu>
 #include <QSettings>
 #include <QTimer>
@@ -112,6 +113,34 @@ TEST_F(Tools, FindByTheLineOverTheGrid) {
   QTest::keyClick(line, Qt::Key_Escape);
   world_.Settle();
   EXPECT_TRUE(table_.hasFocus());
+}
+
+TEST_F(Tools, DropTheirMenuUnderTheCurrentRowByKey) {
+  form_.UserFocus(form_.Grid2);
+  world_.Settle();
+  QTest::keyClick(&table_, Qt::Key_F10, Qt::ShiftModifier);
+  QWidget* menu = QApplication::activePopupWidget();
+  ASSERT_NE(menu, nullptr);
+  const QRect row = table_.visualRect(table_.currentIndex());
+  EXPECT_EQ(menu->y(), table_.viewport()->mapToGlobal(row.bottomLeft()).y());
+  menu->close();
+}
+
+TEST_F(Tools, FindAComposedWordWhenItIsHandedOver) {
+  form_.UserFocus(form_.Grid2);
+  world_.Settle();
+  QTest::keyClick(&table_, Qt::Key_F, Qt::ControlModifier);
+  auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  ASSERT_NE(line, nullptr);
+  QInputMethodEvent composed("xp", {});
+  QApplication::sendEvent(line, &composed);
+  QTest::keyClick(line, Qt::Key_Escape);
+  ASSERT_TRUE(line->isVisible());
+  QInputMethodEvent chosen;
+  chosen.setCommitString("XP3");
+  QApplication::sendEvent(line, &chosen);
+  QTest::keyClick(line, Qt::Key_Return);
+  EXPECT_EQ(form_.Grid2.ActiveRow(), 3);
 }
 
 TEST_F(Tools, OfferPrintingByTheFormsOwnButton) {
