@@ -123,6 +123,16 @@ class XlsxWriter {
       Text(0, place++, grid_.PlainHeader(column.column), head_);
     }
     worksheet_freeze_panes(sheet_, 1, 0);
+    PreparePrinting();
+  }
+
+  /// Who prints the sheet gets its whole width, under the header on every page.
+  void PreparePrinting() {
+    constexpr uint8_t kA4 = 9;
+    worksheet_set_paper(sheet_, kA4);
+    worksheet_set_landscape(sheet_);
+    worksheet_fit_to_pages(sheet_, 1, 0);
+    worksheet_repeat_rows(sheet_, 0, 0);
   }
 
   double ColumnWidth(int32_t column) const {
