@@ -50,7 +50,7 @@ void frmLogin::WriteCaptions(int16_t language) {
   SetCaption(LoginTitle(language));
   lblUser.SetCaption(InLanguage(language, "用户(&U):", "用戶(&U):"));
   lblPassword.SetCaption(InLanguage(language, "密码(&P):", "密碼(&P):"));
-  cmdOK.SetCaption(InLanguage(language, "确定(&O)", "确定(&O)"));
+  cmdOK.SetCaption(InLanguage(language, "确定(&O)", "確定(&O)"));
   cmdCancel.SetCaption(InLanguage(language, "取消(&C)", "取消(&C)"));
   txtUser.SetAccessibleName(ui::ShownCaption(lblUser.Caption()));
   txtPassword.SetAccessibleName(ui::ShownCaption(lblPassword.Caption()));

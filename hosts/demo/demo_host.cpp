@@ -14,26 +14,36 @@ DemoHost::DemoHost(const QString& data, const QString& settings_file)
   control_.setUserPath(data_);
   control_.setSQLData(0);
   control_.setMyModel("11111111111");
-  control_.setUserName("admin");
+  Employ("admin", "示例贸易有限公司");
   control_.setZgName("admin");
-  control_.setCompName("示例贸易有限公司");
+}
+
+void DemoHost::Employ(const std::string& user, const std::string& company) {
+  user_ = user;
+  control_.setUserName(user);
+  if (company.empty()) return;
+  company_ = company;
+  control_.setCompName(company);
+}
+
+bool DemoHost::HasUsers() const {
+  return std::filesystem::exists(std::filesystem::path(data_) / kRightsFile);
 }
 
 bool DemoHost::LogIn() {
-  const std::filesystem::path rights = std::filesystem::path(data_) / kRightsFile;
-  if (!std::filesystem::exists(rights)) return true;
+  if (!HasUsers()) return true;
   UserCall call;
   call.action = UserCall::kLogin;
   call.language = language_;
   call.access.user_path = data_;
-  call.rights_file = rights.string();
+  call.rights_file = (std::filesystem::path(data_) / kRightsFile).string();
   Around().user->Run(call);
   if (call.user_name.empty()) return false;
-  control_.setUserName(call.user_name);
+  Close();
+  Employ(call.user_name, call.comp_name);
   control_.setZgName(call.zg_name);
   control_.setMyPower(call.my_power);
   control_.setPowerPath(data_);
-  if (!call.comp_name.empty()) control_.setCompName(call.comp_name);
   return true;
 }
 

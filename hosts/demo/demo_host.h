@@ -16,8 +16,14 @@ class DemoHost {
   explicit DemoHost(const QString& data, const QString& settings_file = {});
 
   /// Logs a user in where the data folder holds a rights database (made by qvdb user); false when
-  /// the user gives up. Without one the demo's "admin" works and may do everything.
+  /// the user gives up, and whoever worked before goes on. An open control is closed by the change.
+  /// Without such a database the demo's "admin" works and may do everything.
   bool LogIn();
+  /// True when there is a rights database, so that somebody else can log in.
+  bool HasUsers() const;
+  /// Who works, and for which company.
+  const std::string& User() const { return user_; }
+  const std::string& Company() const { return company_; }
   /// Opens the control in a run mode; an open one in another mode or language is closed first.
   void Open(int16_t run_mode);
   /// Opens the customers on one of them, as another screen of the suite names it.
@@ -31,8 +37,12 @@ class DemoHost {
   qt::QtPresenter& Windows() { return component_.Windows(); }
 
  private:
+  void Employ(const std::string& user, const std::string& company);
+
   Component component_;
   std::string data_;
+  std::string user_;
+  std::string company_;
   qvJxc_Zj control_;
   int16_t language_ = 0;
   int16_t open_mode_ = -1;  // run mode of the open screen

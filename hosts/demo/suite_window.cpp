@@ -3,17 +3,17 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QSpinBox>
-#include <iterator>
+#include <QVBoxLayout>
 
+#include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 #include "hosts/demo/demo_host.h"
+#include "hosts/demo/suite_texts.h"
 
 namespace qvzj::demo {
 
@@ -24,90 +24,187 @@ constexpr int16_t kAccountsRunMode = 1;
 constexpr int16_t kFundCustomersRunMode = 10;
 constexpr int16_t kFundAccountsRunMode = 11;
 
-QString Said(bool traditional, const char* simplified_text, const char* traditional_text) {
-  return QString::fromUtf8(traditional ? traditional_text : simplified_text);
-}
+constexpr int kWidth = 460;
+constexpr int kMargin = 28;
+constexpr int kGap = 12;
+constexpr int kTileHeight = 60;
+constexpr int kFieldHeight = 30;
+constexpr double kCompanySize = 15;  // points
 
 }  // namespace
 
-SuiteWindow::SuiteWindow(DemoHost& host)
-    : host_(host),
-      title_(new QLabel(this)),
-      customers_(new QPushButton(this)),
-      accounts_(new QPushButton(this)),
-      fund_customers_(new QPushButton(this)),
-      fund_accounts_(new QPushButton(this)),
-      customer_id_(new QSpinBox(this)),
-      customer_name_(new QLineEdit(this)),
-      open_customer_(new QPushButton(this)),
-      language_(new QComboBox(this)),
-      appearance_(new QComboBox(this)) {
-  QFont large = qt::ThemeFont(false);
-  large.setPointSizeF(14);
-  title_->setFont(large);
-  for (QPushButton* button : {customers_, accounts_}) button->setMinimumSize(170, 64);
-  language_->addItems({"简体中文", "繁體中文"});
-  appearance_->addItems({"", "", ""});
+SuiteWindow::SuiteWindow(DemoHost& host) : host_(host) {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  column->setSpacing(kGap / 2);
+  AddHead(*column);
+  AddTiles(*column);
+  AddOtherWays(*column);
+  AddTaste(*column);
+  setMinimumWidth(kWidth);
+  Caption();
+}
 
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(28, 24, 28, 24);
-  grid->setSpacing(14);
-  grid->addWidget(title_, 0, 0, 1, 2, Qt::AlignLeft);
-  grid->addWidget(customers_, 1, 0);
-  grid->addWidget(accounts_, 1, 1);
-  AddOtherWays(*grid);
-  grid->addWidget(language_, 5, 0);
-  grid->addWidget(appearance_, 5, 1);
-  QWidget* const order[] = {customers_,     accounts_,    fund_customers_,
-                            fund_accounts_, customer_id_, customer_name_,
-                            open_customer_, language_,    appearance_};
-  for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
-  for (QWidget* part : findChildren<QWidget*>()) part->setStyle(qt::ThemeStyle());
+void SuiteWindow::AddHead(QBoxLayout& column) {
+  company_ = new QLabel;
+  company_->setTextFormat(Qt::PlainText);
+  column.addWidget(company_);
+  auto* row = new QHBoxLayout;
+  user_ = new QLabel;
+  user_->setTextFormat(Qt::PlainText);
+  row->addWidget(user_);
+  row->addStretch();
+  change_user_ = new QPushButton;
+  change_user_->setObjectName("change_user");
+  if (!host_.HasUsers()) change_user_->hide();
+  connect(change_user_, &QPushButton::clicked, this, [this] { ChangeUser(); });
+  row->addWidget(change_user_);
+  column.addLayout(row);
+  column.addSpacing(kGap);
+}
 
-  connect(customers_, &QPushButton::clicked, this, [this] { host_.Open(kCustomersRunMode); });
-  connect(accounts_, &QPushButton::clicked, this, [this] { host_.Open(kAccountsRunMode); });
+QPushButton* SuiteWindow::AddWay(QBoxLayout& row, const QString& name, int run_mode) {
+  auto* button = new QPushButton;
+  button->setObjectName(name);
+  button->setMinimumHeight(kFieldHeight);
+  connect(button, &QPushButton::clicked, this,
+          [this, run_mode] { host_.Open(static_cast<int16_t>(run_mode)); });
+  row.addWidget(button);
+  return button;
+}
+
+QLabel* SuiteWindow::AddHint(QBoxLayout& column) {
+  auto* hint = new QLabel;
+  muted_.push_back(hint);
+  column.addWidget(hint);
+  return hint;
+}
+
+void SuiteWindow::AddTiles(QBoxLayout& column) {
+  auto* tiles = new QHBoxLayout;
+  tiles->setSpacing(kGap);
+  const auto add = [&](const QString& name, int run_mode, QLabel*& hint) {
+    auto* tile = new QVBoxLayout;
+    QPushButton* button = AddWay(*tile, name, run_mode);
+    button->setMinimumHeight(kTileHeight);
+    hint = AddHint(*tile);
+    hint->setAlignment(Qt::AlignHCenter);
+    tiles->addLayout(tile, 1);
+    return button;
+  };
+  customers_ = add("customers", kCustomersRunMode, customers_hint_);
+  accounts_ = add("accounts", kAccountsRunMode, accounts_hint_);
+  column.addLayout(tiles);
+  column.addSpacing(kGap);
+}
+
+void SuiteWindow::AddOtherWays(QBoxLayout& column) {
+  fund_system_ = AddHint(column);
+  auto* fund = new QHBoxLayout;
+  fund->setSpacing(kGap);
+  fund_customers_ = AddWay(*fund, "fund_customers", kFundCustomersRunMode);
+  fund_accounts_ = AddWay(*fund, "fund_accounts", kFundAccountsRunMode);
+  column.addLayout(fund);
+  column.addSpacing(kGap);
+
+  other_screen_ = AddHint(column);
+  auto* named = new QHBoxLayout;
+  named->setSpacing(kGap);
+  customer_id_ = new QSpinBox;
+  customer_id_->setRange(1, 999'999'999);
+  customer_id_->setFixedWidth(118);
+  customer_name_ = new QLineEdit;
+  customer_name_->setObjectName("customer_name");
+  muted_.push_back(customer_name_);  // what stands in it while it is empty
+  open_customer_ = new QPushButton;
+  open_customer_->setObjectName("open_customer");
+  for (QWidget* part : {static_cast<QWidget*>(customer_id_), static_cast<QWidget*>(customer_name_),
+                        static_cast<QWidget*>(open_customer_)}) {
+    part->setMinimumHeight(kFieldHeight);
+    named->addWidget(part);
+  }
+  connect(open_customer_, &QPushButton::clicked, this, [this] { OpenCustomer(); });
+  connect(customer_name_, &QLineEdit::returnPressed, this, [this] { OpenCustomer(); });
+  column.addLayout(named);
+  column.addSpacing(kGap);
+}
+
+void SuiteWindow::AddTaste(QBoxLayout& column) {
+  column.addStretch();
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kGap / 2);
+  const auto add = [&](QLabel*& label, const QStringList& items) {
+    label = AddHint(*row);
+    auto* box = new QComboBox;
+    box->addItems(items);
+    box->setMinimumHeight(kFieldHeight);
+    row->addWidget(box, 1);
+    return box;
+  };
+  language_ = add(language_label_, {"简体中文", "繁體中文"});
+  language_->setObjectName("language");
+  row->addSpacing(kGap);
+  appearance_ = add(appearance_label_, {"", "", ""});
+  appearance_->setObjectName("appearance");
   connect(language_, &QComboBox::activated, this, [this](int index) {
     host_.SetLanguage(static_cast<int16_t>(index));
     Caption();
   });
   connect(appearance_, &QComboBox::activated, this, [this](int index) { ChooseAppearance(index); });
-  Caption();
+  column.addLayout(row);
 }
 
-void SuiteWindow::AddOtherWays(QGridLayout& grid) {
-  grid.addWidget(fund_customers_, 2, 0);
-  grid.addWidget(fund_accounts_, 2, 1);
-  customer_id_->setRange(1, 999'999'999);
-  auto* named = new QHBoxLayout;
-  named->addWidget(customer_id_);
-  named->addWidget(customer_name_, 1);
-  grid.addLayout(named, 3, 0, 1, 2);
-  grid.addWidget(open_customer_, 4, 0, 1, 2);
-  connect(fund_customers_, &QPushButton::clicked, this,
-          [this] { host_.Open(kFundCustomersRunMode); });
-  connect(fund_accounts_, &QPushButton::clicked, this,
-          [this] { host_.Open(kFundAccountsRunMode); });
-  const auto open = [this] { host_.OpenCustomer(customer_id_->value(), customer_name_->text()); };
-  connect(open_customer_, &QPushButton::clicked, this, open);
-  connect(customer_name_, &QLineEdit::returnPressed, this, open);
+void SuiteWindow::Colour() {
+  setPalette(qt::ThemePalette(qt::Appearance::System));
+  QPalette stepping_back;
+  for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::PlaceholderText}) {
+    stepping_back.setColor(role, qt::ColorsFor(palette()).muted);
+  }
+  for (QWidget* part : muted_) part->setPalette(stepping_back);
 }
 
 void SuiteWindow::Caption() {
   const bool traditional = host_.Language() == 1;
-  setFont(qt::ThemeFont(traditional));
-  setPalette(qt::ThemePalette(qt::Appearance::System));
-  setWindowTitle(Said(traditional, "示例进销存", "示例進銷存"));
-  title_->setText(Said(traditional, "示例贸易有限公司", "示例貿易有限公司"));
-  customers_->setText(Said(traditional, "客户往来帐", "客戶往來帳"));
-  accounts_->setText(Said(traditional, "资金帐户", "資金帳戶"));
-  fund_customers_->setText(Said(traditional, "资金系统: 客户", "資金系統: 客戶"));
-  fund_accounts_->setText(Said(traditional, "资金系统: 帐户", "資金系統: 帳戶"));
-  customer_id_->setPrefix(Said(traditional, "客户序号 ", "客戶序號 "));
-  customer_name_->setPlaceholderText(Said(traditional, "客户名称 (可不填)", "客戶名稱 (可不填)"));
-  open_customer_->setText(Said(traditional, "打开该客户的往来帐", "打開該客戶的往來帳"));
-  appearance_->setItemText(0, Said(traditional, "跟随系统外观", "跟隨系統外觀"));
-  appearance_->setItemText(1, Said(traditional, "浅色", "淺色"));
-  appearance_->setItemText(2, Said(traditional, "深色", "深色"));
+  const SuiteTexts& texts = SuiteTextsOf(traditional);
+  qt::Dress(*this, traditional);
+  Colour();
+  QFont large = qt::ThemeFont(traditional);
+  large.setPointSizeF(kCompanySize);
+  company_->setFont(large);
+  setWindowTitle(texts.title);
+  company_->setText(qt::FromUtf8(host_.Company()));
+  user_->setText(texts.user + qt::FromUtf8(host_.User()));
+  change_user_->setText(texts.change_user);
+  CaptionWays(texts);
+  language_label_->setText(texts.language);
+  language_->setAccessibleName(texts.language);
+  appearance_label_->setText(texts.appearance);
+  appearance_->setAccessibleName(texts.appearance);
+  for (int i = 0; i < 3; ++i) appearance_->setItemText(i, texts.appearances[i]);
+}
+
+void SuiteWindow::CaptionWays(const SuiteTexts& texts) {
+  customers_->setText(texts.customers);
+  customers_hint_->setText(texts.customers_hint);
+  accounts_->setText(texts.accounts);
+  accounts_hint_->setText(texts.accounts_hint);
+  fund_system_->setText(texts.fund_system);
+  fund_customers_->setText(texts.fund_customers);
+  fund_accounts_->setText(texts.fund_accounts);
+  other_screen_->setText(texts.other_screen);
+  customer_id_->setPrefix(texts.customer_id);
+  customer_id_->setAccessibleName(QString(texts.customer_id).trimmed());
+  customer_name_->setPlaceholderText(texts.customer_name);
+  customer_name_->setAccessibleName(texts.customer_name);
+  open_customer_->setText(texts.open_customer);
+}
+
+void SuiteWindow::ChangeUser() {
+  if (host_.LogIn()) Caption();
+}
+
+void SuiteWindow::OpenCustomer() {
+  host_.OpenCustomer(customer_id_->value(), customer_name_->text());
 }
 
 void SuiteWindow::ChooseAppearance(int index) {
@@ -117,13 +214,18 @@ void SuiteWindow::ChooseAppearance(int index) {
     QApplication::setPalette(
         qt::ThemePalette(index == 1 ? qt::Appearance::Light : qt::Appearance::Dark));
   }
-  setPalette(qt::ThemePalette(qt::Appearance::System));
+}
+
+bool SuiteWindow::event(QEvent* event) {
+  if (event->type() == QEvent::ApplicationPaletteChange) {
+    Colour();
+  }
+  return QWidget::event(event);
 }
 
 void SuiteWindow::closeEvent(QCloseEvent* event) {
   host_.Close();
-  event->accept();
-  QApplication::quit();
+  event->accept();  // it was the last window, which ends the program
 }
 
 }  // namespace qvzj::demo

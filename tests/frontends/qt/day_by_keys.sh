@@ -80,7 +80,7 @@ host=$!
 title=客户往来帐管理系统
 until_true 30 "the suite's window" shows 示例进销存 1
 suite=$(xdotool search --onlyvisible --name 示例进销存)
-click "$suite" 110 98
+click "$suite" 110 130
 until_true 30 "the customers' window" shows "$title" 1
 main=$(xdotool search --onlyvisible --name "$title" | tail -1)
 sleep 0.5
