@@ -55,18 +55,31 @@ double TurnOf(const Work& work) {
   return Median(std::move(runs));
 }
 
-/// Median seconds of each work. They run turn by turn, so that what else the machine does weighs on
-/// all alike: for `budget` seconds, at least three turns.
-std::vector<double> InTurns(double budget, const std::vector<Work>& works) {
+/// Seconds of each work, by turn. They run turn by turn, so that what else the machine does weighs
+/// on all alike: for `budget` seconds, at least three turns.
+using Turns = std::vector<std::vector<double>>;
+
+Turns InTurns(double budget, const std::vector<Work>& works) {
   for (const Work& work : works) work();  // pays for cold caches
-  std::vector<std::vector<double>> turns(works.size());
+  Turns turns(works.size());
   const auto start = Clock::now();
   for (int turn = 0; turn < 3 || (SecondsSince(start) < budget && turn < 100); ++turn) {
     for (size_t i = 0; i < works.size(); ++i) turns[i].push_back(TurnOf(works[i]));
   }
+  return turns;
+}
+
+std::vector<double> MediansOf(const Turns& turns) {
   std::vector<double> medians;
-  for (std::vector<double>& times : turns) medians.push_back(Median(std::move(times)));
+  for (const std::vector<double>& times : turns) medians.push_back(Median(times));
   return medians;
+}
+
+/// Median ratio of two works of the same turn.
+double RatioOf(const std::vector<double>& times, const std::vector<double>& against) {
+  std::vector<double> ratios;
+  for (size_t turn = 0; turn < times.size(); ++turn) ratios.push_back(times[turn] / against[turn]);
+  return Median(std::move(ratios));
 }
 
 std::string Grouped(int64_t number) {
@@ -118,7 +131,7 @@ class Bench {
         session.Query(statement.text);
       });
     }
-    Add(statement.name, InTurns(budget_, works));
+    Add(statement.name, MediansOf(InTurns(budget_, works)));
   }
 
   /// Goes from another customer, without loading its entries, to the one on the first row.
@@ -139,7 +152,7 @@ class Bench {
     std::cerr << name << std::endl;
     constexpr int kTurns = 7;
     const int acts_a_turn = budget_ > 0 ? 15 : 1;
-    std::vector<std::vector<double>> turns(ledgers_.size());
+    Turns turns(ledgers_.size());
     for (int turn = 0; turn < kTurns; ++turn) {
       for (size_t i = 0; i < ledgers_.size(); ++i) {
         ServerForm opened(ledgers_[i]->Login());
@@ -149,15 +162,8 @@ class Bench {
         turns[i].push_back(Median(std::move(acts)));
       }
     }
-    std::vector<double> growths;
-    for (int turn = 0; turn < kTurns; ++turn) {
-      const auto place = static_cast<size_t>(turn);
-      growths.push_back(turns[Bounded()][place] / turns[0][place]);
-    }
-    std::vector<double> seconds;
-    for (std::vector<double>& times : turns) seconds.push_back(Median(std::move(times)));
-    Add(name, std::move(seconds));
-    rows_.back().growth = Median(std::move(growths));
+    Add(name, MediansOf(turns));
+    rows_.back().growth = RatioOf(turns[Bounded()], turns[0]);
     rows_.back().allowed = 1.2;
   }
 
@@ -171,10 +177,10 @@ class Bench {
       frmZj& form = opened.Form();
       form.UserClick(form.OptSelect(0));
       const std::string condition = LedgerCondition(form);
-      const std::vector<double> times = InTurns(budget_, {[&] { ledger->FetchBare(WholeLedger()); },
-                                                          [&] { LoadLedger(form, condition); }});
-      loads.push_back(times[1]);
-      ratios.push_back(times[1] / times[0]);
+      const Turns times = InTurns(budget_, {[&] { ledger->FetchBare(WholeLedger()); },
+                                            [&] { LoadLedger(form, condition); }});
+      loads.push_back(Median(times[1]));
+      ratios.push_back(RatioOf(times[1], times[0]));
     }
     Add("ledger of all customers, in the module", std::move(loads));
     rows_.push_back({"  against the same rows through ODBC alone", std::move(ratios), {}, 1.5});
@@ -187,10 +193,9 @@ class Bench {
       wide_->FetchBare(WholeRegister());
       wide_->FetchBare(LedgerOfOne());
     };
-    const std::vector<double> times =
-        InTurns(budget_, {bare, [&] { LoadCustomers(opened.Form()); }});
-    many_ = times[1];
-    many_ratio_ = times[1] / times[0];
+    const Turns times = InTurns(budget_, {bare, [&] { LoadCustomers(opened.Form()); }});
+    many_ = Median(times[1]);
+    many_ratio_ = RatioOf(times[1], times[0]);
     many_rows_ = opened.Form().Grid1.RowCount();
   }
 
