@@ -38,7 +38,14 @@ double DaysOf(const QDateTime& moment) {
 
 }  // namespace
 
-ControlWidget::ControlWidget(QWidget* parent) : QWidget(parent) { control_.InitProperties(); }
+ControlWidget::ControlWidget(QWidget* parent, bool designing)
+    : QWidget(parent), designing_(designing) {
+  control_.InitProperties();
+}
+
+void ControlWidget::Design(const char* property, const QVariant& value) {
+  if (designing_) designed_.insert(property, value);
+}
 
 QVariantMap ControlWidget::SaveProperties() const {
   VariantBag bag;
@@ -59,28 +66,80 @@ void ControlWidget::setPropertyBagText(const QString& json) {
   RestoreProperties(QJsonDocument::fromJson(json.toUtf8()).object().toVariantMap());
 }
 
-QString ControlWidget::myName() const { return FromUtf8(control_.myName()); }
-QString ControlWidget::UserID() const { return FromUtf8(control_.UserID()); }
-QString ControlWidget::Default() const { return FromUtf8(control_.Default()); }
+QString ControlWidget::myName() const {
+  return designing_ ? Designed("myName").toString() : FromUtf8(control_.myName());
+}
+QString ControlWidget::UserID() const {
+  return designing_ ? Designed("UserID").toString() : FromUtf8(control_.UserID());
+}
+QString ControlWidget::Default() const {
+  return designing_ ? Designed("Default").toString() : FromUtf8(control_.Default());
+}
 
-void ControlWidget::setUserPath(const QString& value) { control_.setUserPath(ToUtf8(value)); }
-void ControlWidget::setMyName(const QString& value) { control_.setMyName(ToUtf8(value)); }
-void ControlWidget::setMyDate(const QDateTime& value) { control_.setMyDate(DaysOf(value)); }
-void ControlWidget::setPassword(const QString& value) { control_.setPassword(ToUtf8(value)); }
+void ControlWidget::setMyTaskID(int value) {
+  control_.setMyTaskID(value);
+  Design("myTaskID", value);
+}
+void ControlWidget::setUserPath(const QString& value) {
+  control_.setUserPath(ToUtf8(value));
+  Design("UserPath", value);
+}
+void ControlWidget::setMyName(const QString& value) {
+  control_.setMyName(ToUtf8(value));
+  Design("myName", value);
+}
+void ControlWidget::setMyDate(const QDateTime& value) {
+  control_.setMyDate(DaysOf(value));
+  Design("myDate", value);
+}
+void ControlWidget::setPassword(const QString& value) {
+  control_.setPassword(ToUtf8(value));
+  Design("Password", value);
+}
 void ControlWidget::setSQLData(int value) {
-  OrWarn("SQLData", [&] { control_.setSQLData(basic::ToInt16(value)); });
+  OrWarn("SQLData", [&] {
+    control_.setSQLData(basic::ToInt16(value));
+    Design("SQLData", value);
+  });
 }
 void ControlWidget::setLanguage(int value) {
-  OrWarn("Language", [&] { control_.setLanguage(basic::ToInt16(value)); });
+  OrWarn("Language", [&] {
+    control_.setLanguage(basic::ToInt16(value));
+    Design("Language", value);
+  });
 }
-void ControlWidget::setPowerPath(const QString& value) { control_.setPowerPath(ToUtf8(value)); }
-void ControlWidget::setUserName(const QString& value) { control_.setUserName(ToUtf8(value)); }
-void ControlWidget::setZgName(const QString& value) { control_.setZgName(ToUtf8(value)); }
-void ControlWidget::setCompName(const QString& value) { control_.setCompName(ToUtf8(value)); }
-void ControlWidget::setMyPower(const QString& value) { control_.setMyPower(ToUtf8(value)); }
-void ControlWidget::setMyModel(const QString& value) { control_.setMyModel(ToUtf8(value)); }
-void ControlWidget::setUserID(const QString& value) { control_.setUserID(ToUtf8(value)); }
-void ControlWidget::setDefault(const QString& value) { control_.setDefault(ToUtf8(value)); }
+void ControlWidget::setPowerPath(const QString& value) {
+  control_.setPowerPath(ToUtf8(value));
+  Design("PowerPath", value);
+}
+void ControlWidget::setUserName(const QString& value) {
+  control_.setUserName(ToUtf8(value));
+  Design("UserName", value);
+}
+void ControlWidget::setZgName(const QString& value) {
+  control_.setZgName(ToUtf8(value));
+  Design("ZgName", value);
+}
+void ControlWidget::setCompName(const QString& value) {
+  control_.setCompName(ToUtf8(value));
+  Design("CompName", value);
+}
+void ControlWidget::setMyPower(const QString& value) {
+  control_.setMyPower(ToUtf8(value));
+  Design("myPower", value);
+}
+void ControlWidget::setMyModel(const QString& value) {
+  control_.setMyModel(ToUtf8(value));
+  Design("myModel", value);
+}
+void ControlWidget::setUserID(const QString& value) {
+  control_.setUserID(ToUtf8(value));
+  Design("UserID", value);
+}
+void ControlWidget::setDefault(const QString& value) {
+  control_.setDefault(ToUtf8(value));
+  Design("Default", value);
+}
 
 void ControlWidget::refresh(int MfRunMode, int myShowMode) {
   OrWarn("refresh",

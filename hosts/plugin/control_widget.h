@@ -11,30 +11,32 @@ namespace qvzj {
 
 /// The control as a Qt widget: the host's properties as Qt properties, `refresh` as a slot, and
 /// persistence through a property store that the host supplies. Properties that the control does
-/// not let a host read back answer an empty value here.
+/// not let a host read back answer an empty value here. On a form designer's desk they answer what
+/// was set there, so that the designer can show and save it.
 class ControlWidget : public QWidget {
   Q_OBJECT
-  Q_PROPERTY(int myTaskID READ NoNumber WRITE setMyTaskID STORED false)
-  Q_PROPERTY(QString UserPath READ NoText WRITE setUserPath STORED false)
-  Q_PROPERTY(QString myName READ myName WRITE setMyName STORED false)
-  Q_PROPERTY(QDateTime myDate READ NoDate WRITE setMyDate STORED false)
-  Q_PROPERTY(QString Password READ NoText WRITE setPassword STORED false)
-  Q_PROPERTY(int SQLData READ NoNumber WRITE setSQLData STORED false)
+  Q_PROPERTY(int myTaskID READ DesignedMyTaskID WRITE setMyTaskID)
+  Q_PROPERTY(QString UserPath READ DesignedUserPath WRITE setUserPath)
+  Q_PROPERTY(QString myName READ myName WRITE setMyName)
+  Q_PROPERTY(QDateTime myDate READ DesignedMyDate WRITE setMyDate)
+  Q_PROPERTY(QString Password READ DesignedPassword WRITE setPassword)
+  Q_PROPERTY(int SQLData READ DesignedSQLData WRITE setSQLData)
   Q_PROPERTY(int AlertType READ AlertType WRITE setAlertType STORED false)
-  Q_PROPERTY(int Language READ NoNumber WRITE setLanguage STORED false)
-  Q_PROPERTY(QString PowerPath READ NoText WRITE setPowerPath STORED false)
-  Q_PROPERTY(QString UserName READ NoText WRITE setUserName STORED false)
-  Q_PROPERTY(QString ZgName READ NoText WRITE setZgName STORED false)
-  Q_PROPERTY(QString CompName READ NoText WRITE setCompName STORED false)
-  Q_PROPERTY(QString myPower READ NoText WRITE setMyPower STORED false)
-  Q_PROPERTY(QString myModel READ NoText WRITE setMyModel STORED false)
-  Q_PROPERTY(QString UserID READ UserID WRITE setUserID STORED false)
-  Q_PROPERTY(QString Default READ Default WRITE setDefault STORED false)
+  Q_PROPERTY(int Language READ DesignedLanguage WRITE setLanguage)
+  Q_PROPERTY(QString PowerPath READ DesignedPowerPath WRITE setPowerPath)
+  Q_PROPERTY(QString UserName READ DesignedUserName WRITE setUserName)
+  Q_PROPERTY(QString ZgName READ DesignedZgName WRITE setZgName)
+  Q_PROPERTY(QString CompName READ DesignedCompName WRITE setCompName)
+  Q_PROPERTY(QString myPower READ DesignedMyPower WRITE setMyPower)
+  Q_PROPERTY(QString myModel READ DesignedMyModel WRITE setMyModel)
+  Q_PROPERTY(QString UserID READ UserID WRITE setUserID)
+  Q_PROPERTY(QString Default READ Default WRITE setDefault)
   /// The saved values as JSON: what a form file keeps of the control.
   Q_PROPERTY(QString propertyBag READ PropertyBagText WRITE setPropertyBagText DESIGNABLE false)
 
  public:
-  explicit ControlWidget(QWidget* parent = nullptr);
+  /// `designing`: the widget lies on a form designer's desk.
+  explicit ControlWidget(QWidget* parent = nullptr, bool designing = false);
 
   /// Saves the control into a store of the host's; values equal to their presets are left out.
   Q_INVOKABLE QVariantMap SaveProperties() const;
@@ -47,11 +49,22 @@ class ControlWidget : public QWidget {
   QString Default() const;
   int AlertType() const { return control_.AlertType(); }
   QString PropertyBagText() const;
-  QString NoText() const { return {}; }
-  int NoNumber() const { return 0; }
-  QDateTime NoDate() const { return {}; }
 
-  void setMyTaskID(int value) { control_.setMyTaskID(value); }
+  // What a designer has set; empty in a running host.
+  int DesignedMyTaskID() const { return Designed("myTaskID").toInt(); }
+  QString DesignedUserPath() const { return Designed("UserPath").toString(); }
+  QDateTime DesignedMyDate() const { return Designed("myDate").toDateTime(); }
+  QString DesignedPassword() const { return Designed("Password").toString(); }
+  int DesignedSQLData() const { return Designed("SQLData").toInt(); }
+  int DesignedLanguage() const { return Designed("Language").toInt(); }
+  QString DesignedPowerPath() const { return Designed("PowerPath").toString(); }
+  QString DesignedUserName() const { return Designed("UserName").toString(); }
+  QString DesignedZgName() const { return Designed("ZgName").toString(); }
+  QString DesignedCompName() const { return Designed("CompName").toString(); }
+  QString DesignedMyPower() const { return Designed("myPower").toString(); }
+  QString DesignedMyModel() const { return Designed("myModel").toString(); }
+
+  void setMyTaskID(int value);
   void setUserPath(const QString& value);
   void setMyName(const QString& value);
   void setMyDate(const QDateTime& value);
@@ -81,7 +94,21 @@ class ControlWidget : public QWidget {
   QSize sizeHint() const override;
 
  private:
+  QVariant Designed(const char* property) const { return designed_.value(property); }
+  /// Keeps a value for the designer; the module's own values are shared by all controls.
+  void Design(const char* property, const QVariant& value);
+
   qvJxc_Zj control_;
+  bool designing_;
+  QVariantMap designed_;
 };
 
 }  // namespace qvzj
+
+/// The widget under the name by which forms, and the code that is made of them, know it.
+class qvJxc_Zj : public qvzj::ControlWidget {
+  Q_OBJECT
+
+ public:
+  using ControlWidget::ControlWidget;
+};

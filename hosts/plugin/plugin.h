@@ -21,6 +21,10 @@ class Plugin : public QObject, public QDesignerCustomWidgetInterface, public QvZ
   QWidget* CreateControl(QWidget* parent) override;
 
   QWidget* createWidget(QWidget* parent) override { return CreateControl(parent); }
+  /// Called by Qt Designer only: from now on controls lie on its desk.
+  void initialize(QDesignerFormEditorInterface* designer) override;
+  bool isInitialized() const override { return designing_; }
+  QString domXml() const override;
   QString name() const override { return QStringLiteral("qvJxc_Zj"); }
   QString group() const override { return QStringLiteral("qvZj_ocx"); }
   QString toolTip() const override;
@@ -31,6 +35,7 @@ class Plugin : public QObject, public QDesignerCustomWidgetInterface, public QvZ
 
  private:
   std::unique_ptr<Component> component_;
+  bool designing_ = false;
 };
 
 }  // namespace qvzj

@@ -7,6 +7,7 @@
 #include <QUiLoader>
 #include <QVariantMap>
 #include <QWidget>
+#include <QtUiPlugin/QDesignerCustomWidgetInterface>
 #include <memory>
 
 #include "hosts/plugin/qv_zj_factory.h"
@@ -29,11 +30,12 @@ std::unique_ptr<QWidget> LoadForm(const QByteArray& properties) {
 
 QWidget* ControlOf(QWidget& form) { return form.findChild<QWidget*>(QStringLiteral("zj")); }
 
+// Form tools refuse a widget whose class has another name.
 TEST(Plugin, IsFoundByTheFormLoaderAsACustomWidget) {
   const auto form = LoadForm("");
   ASSERT_TRUE(form);
   ASSERT_TRUE(ControlOf(*form));
-  EXPECT_STREQ(ControlOf(*form)->metaObject()->className(), "qvzj::ControlWidget");
+  EXPECT_STREQ(ControlOf(*form)->metaObject()->className(), "qvJxc_Zj");
 }
 
 TEST(Plugin, TakesItsPropertiesFromAFormFile) {
@@ -90,6 +92,38 @@ TEST(Plugin, MakesControlsForAHostThatLoadsItItself) {
   EXPECT_EQ(control->parent(), &screen);
   EXPECT_TRUE(control->setProperty("Default", "erp"));
   EXPECT_EQ(control->property("Default").toString(), "erp");
+}
+
+TEST(Plugin, ShowsADesignerWhatWasSetThere) {
+  QPluginLoader loader(QDir(QStringLiteral(QV_PLUGIN_DIR)).filePath("qv_Zj_Ocx.so"));
+  auto* plugin = qobject_cast<QDesignerCustomWidgetInterface*>(loader.instance());
+  ASSERT_TRUE(plugin) << qPrintable(loader.errorString());
+  int desk = 0;  // stands for the designer, of which only the presence counts
+  plugin->initialize(reinterpret_cast<QDesignerFormEditorInterface*>(&desk));
+  QWidget screen;
+  QWidget* first = plugin->createWidget(&screen);
+  QWidget* second = plugin->createWidget(&screen);
+  plugin->initialize(nullptr);
+  first->setProperty("UserPath", "/data");
+  second->setProperty("UserPath", "/other");
+  second->setProperty("myName", QString::fromUtf8("乙"));
+  EXPECT_EQ(first->property("UserPath").toString(), "/data");
+  EXPECT_EQ(first->property("myName").toString(), "");
+  EXPECT_EQ(second->property("UserPath").toString(), "/other");
+}
+
+TEST(Plugin, IsDroppedUnderANameThatIsNotItsClass) {
+  QPluginLoader loader(QDir(QStringLiteral(QV_PLUGIN_DIR)).filePath("qv_Zj_Ocx.so"));
+  auto* plugin = qobject_cast<QDesignerCustomWidgetInterface*>(loader.instance());
+  ASSERT_TRUE(plugin) << qPrintable(loader.errorString());
+  QByteArray form = plugin->domXml().toUtf8();
+  QBuffer device(&form);
+  QUiLoader forms;
+  forms.addPluginPath(QStringLiteral(QV_PLUGIN_DIR));
+  const std::unique_ptr<QWidget> control(forms.load(&device));
+  ASSERT_TRUE(control);
+  EXPECT_STREQ(control->metaObject()->className(), qPrintable(plugin->name()));
+  EXPECT_NE(control->objectName(), plugin->name());
 }
 
 }  // namespace
