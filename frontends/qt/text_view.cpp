@@ -17,6 +17,8 @@ LineView::LineView(FormWindow& window, ui::TextBox& box, QWidget* parent)
     : ControlView(window, box), box_(box), line_(new QLineEdit(parent)) {
   Adopt(line_);
   if (box_.Masked()) line_->setEchoMode(QLineEdit::Password);
+  // Input methods then offer figures, not words.
+  if (box_.RightAligned()) line_->setInputMethodHints(Qt::ImhFormattedNumbersOnly);
   line_->setAlignment((box_.RightAligned() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
   link_ = std::make_unique<LineLink>(
       *line_, box_, [this](const std::function<bool()>& act) { return Act(act); },

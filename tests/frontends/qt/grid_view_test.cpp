@@ -112,6 +112,68 @@ TEST_F(LedgerTable, GivesEveryRowTheHeightOfTheOneThatWasDragged) {
   EXPECT_EQ(table_.rowHeight(2), 40);
 }
 
+/// Counts the paintings of one widget and remembers whether it was ever hidden.
+struct Watch : QObject {
+  explicit Watch(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++paints;
+    if (event->type() == QEvent::Hide) hidden = true;
+    return false;
+  }
+  int paints = 0;
+  bool hidden = false;
+};
+
+TEST_F(LedgerTable, IsPaintedOnceForALoad) {
+  form_.UserFocus(form_.cmdAcntRefresh);
+  world_.Settle();
+  world_.AddEntry("2024-01-05", "P4", 10, 0);
+  Watch grid(*table_.viewport());
+  world_.Window().Act([&] { return form_.UserClick(form_.cmdAcntRefresh); });
+  world_.Settle();
+  EXPECT_EQ(table_.model()->rowCount(), 4);
+  EXPECT_EQ(grid.paints, 1);
+  EXPECT_FALSE(grid.hidden);
+}
+
+TEST_F(LedgerTable, ShowsTheHourglassWhileItLoads) {
+  struct : ui::FormObserver {
+    void ControlChanged(ui::Control& control, ui::Aspect aspect) override {
+      if (control.GetKind() != ui::Kind::Grid || aspect != ui::Aspect::Visible) return;
+      busy = busy || QApplication::overrideCursor() != nullptr;
+    }
+    void FormChanged(ui::Form&, ui::Aspect) override {}
+    void PopUpMenu(ui::Form&, ui::MenuItem&, int32_t, int32_t) override {}
+    bool busy = false;
+  } watch;
+  form_.AddObserver(&watch);
+  world_.Window().Act([&] { return form_.UserClick(form_.cmdAcntRefresh); });
+  form_.RemoveObserver(&watch);
+  EXPECT_TRUE(watch.busy);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(LedgerTable, WalksByThePageAndToBothEnds) {
+  for (int i = 4; i <= 60; ++i) world_.AddEntry("2024-02-01", "P" + std::to_string(i), 1, 0);
+  form_.UserClick(form_.cmdAcntRefresh);
+  form_.UserFocus(form_.Grid2);
+  world_.Settle();
+  const auto press = [&](Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+    QTest::keyClick(&table_, key, with);
+    world_.Settle();
+    const QRect row = table_.visualRect(table_.currentIndex());
+    EXPECT_TRUE(row.top() >= 0 && row.bottom() <= table_.viewport()->height());
+    return form_.Grid2.ActiveRow();
+  };
+  for (Qt::KeyboardModifiers with : {Qt::NoModifier, Qt::ControlModifier}) {
+    EXPECT_EQ(press(Qt::Key_End, with), 60);
+    EXPECT_EQ(press(Qt::Key_Home, with), 1);
+  }
+  const int page = press(Qt::Key_PageDown);
+  EXPECT_GT(page, 5);
+  EXPECT_EQ(press(Qt::Key_PageUp), 1);
+}
+
 TEST_F(LedgerTable, FollowsTheRegisterToAnotherCustomer) {
   qt::GridView& registers = world_.GridOf(form_.Grid1);
   const QRect cell = registers.Table()->visualRect(registers.Table()->model()->index(1, 1));
