@@ -1,11 +1,11 @@
 #include "control/qvJxc_Zj.h"
 
-#include <algorithm>
 #include <exception>
 
 #include "forms/startup.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
+#include "platform/data/details.h"
 #include "platform/surroundings.h"
 #include "services/connect.h"
 #include "services/context.h"
@@ -34,27 +34,13 @@ bool LedgerIsThere() {
   return CountRows("tAccountDetail", "1=2") != -1;
 }
 
-// Place behind the value that begins at `start` in a server's details. Braces hold any character;
-// two closing ones stand for one.
-size_t EndOfValue(const std::string& details, size_t start) {
-  if (start == details.size() || details[start] != '{') {
-    return std::min(details.find(';', start), details.size());
-  }
-  for (size_t at = start + 1; at < details.size(); ++at) {
-    if (details[at] != '}') continue;
-    if (details.compare(at, 2, "}}") != 0) return at + 1;
-    ++at;
-  }
-  return details.size();
-}
-
 // The data path as a message may show it: passwords within a server's details are left out.
 std::string ShownPath(std::string path) {
   for (const char* key : {"pwd=", "password="}) {
     size_t from = 0;
     for (size_t at; (at = basic::Lower(path).find(key, from)) != std::string::npos;) {
       const size_t start = at + std::string_view(key).size();
-      path.replace(start, EndOfValue(path, start) - start, "***");
+      path.replace(start, data::EndOfValue(path, start) - start, "***");
       from = start;
     }
   }

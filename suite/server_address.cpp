@@ -1,6 +1,11 @@
 #include "suite/server_address.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 #include "platform/basic/text.h"
+#include "platform/data/details.h"
 
 namespace qvzj {
 namespace {
@@ -11,7 +16,22 @@ std::string Quoted(const std::string& value) {
   return "{" + basic::Replace(value, "}", "}}") + "}";
 }
 
-/// Builds the string; a key that is there already is not added again.
+/// The value that begins at `start`, without its braces.
+std::string ValueAt(const std::string& text, size_t start) {
+  const std::string value = text.substr(start, data::EndOfValue(text, start) - start);
+  if (!value.starts_with('{')) return value;
+  const size_t closing = value.ends_with('}') ? 1 : 0;
+  return basic::Replace(value.substr(1, value.size() - 1 - closing), "}}", "}");
+}
+
+/// Names under which drivers take the same thing.
+constexpr std::array<std::array<std::string_view, 4>, 3> kSynonyms{{
+    {"uid", "username", "user", "user id"},
+    {"pwd", "password"},
+    {"database", "db", "initial catalog"},
+}};
+
+/// Builds the string; what is there already, under whichever name, is not added again.
 class Builder {
  public:
   explicit Builder(std::string text) : text_(std::move(text)) {
@@ -21,13 +41,37 @@ class Builder {
     if (value.empty() || Has(key)) return;
     text_ += key + "=" + Quoted(value) + ";";
   }
+  /// True when that is there under any of its names.
   bool Has(const std::string& key) const {
-    const std::string keys = ";" + basic::Lower(text_);
-    return keys.find(";" + basic::Lower(key) + "=") != std::string::npos;
+    const std::string wanted = basic::Lower(key);
+    const auto names = std::find_if(kSynonyms.begin(), kSynonyms.end(),
+                                    [&](const auto& set) { return set.front() == wanted; });
+    if (names == kSynonyms.end()) return HasName(wanted);
+    return std::any_of(names->begin(), names->end(),
+                       [this](std::string_view name) { return !name.empty() && HasName(name); });
+  }
+  /// Puts the first of the `enough` values unless one of them is there.
+  void Require(const std::string& key, const std::vector<std::string>& enough) {
+    const size_t place = PlaceOf(key);
+    if (place != std::string::npos) {
+      const size_t value = place + key.size() + 1;
+      const std::string said = basic::Lower(ValueAt(text_, value));
+      if (std::find(enough.begin(), enough.end(), said) != enough.end()) return;
+      text_.erase(place, data::EndOfValue(text_, value) + 1 - place);
+    }
+    Add(key, enough.front());
   }
   const std::string& Text() const { return text_; }
 
  private:
+  bool HasName(std::string_view name) const {
+    return PlaceOf(std::string(name)) != std::string::npos;
+  }
+  /// Where the name of that key begins, in any case of letters.
+  size_t PlaceOf(const std::string& key) const {
+    return (";" + basic::Lower(text_)).find(";" + basic::Lower(key) + "=");
+  }
+
   std::string text_;
 };
 
@@ -65,27 +109,18 @@ void AddTransactSql(Builder& text, const ServerOptions& options, const HostAndPo
 /// What every connection of the kind needs, however the server was named.
 void AddHabits(Builder& text, const ServerOptions& options) {
   if (options.kind == ServerKind::TransactSql) {
-    text.Add("Encrypt", options.require_tls ? "yes" : "optional");
+    if (options.require_tls) text.Require("Encrypt", {"yes", "mandatory", "strict"});
+    text.Add("Encrypt", "optional");
     return;
   }
-  text.Add("SSLmode", options.require_tls ? "require" : "prefer");
+  if (options.require_tls) text.Require("SSLmode", {"require", "verify-ca", "verify-full"});
+  text.Add("SSLmode", "prefer");
   // Answers come in portions through a cursor: a million rows are never held twice.
   text.Add("UseDeclareFetch", "1");
   text.Add("Fetch", "4096");
   // A server that vanished without a word is noticed within a minute.
   text.Add("KeepaliveTime", "30");
   text.Add("KeepaliveInterval", "10");
-}
-
-/// The value that begins at `start`, without its braces.
-std::string ValueAt(const std::string& text, size_t start) {
-  if (text.compare(start, 1, "{") != 0) return text.substr(start, text.find(';', start) - start);
-  std::string value;
-  for (size_t i = start + 1; i < text.size(); ++i) {
-    if (text[i] == '}' && text.compare(++i, 1, "}") != 0) break;
-    value += text[i];
-  }
-  return value;
 }
 
 }  // namespace

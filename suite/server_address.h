@@ -26,7 +26,8 @@ struct ServerOptions {
   ServerKind kind = ServerKind::PostgreSql;
   /// Name of the ODBC driver as the machine knows it; empty: the usual one of the kind.
   std::string driver;
-  /// Refuses a connection that is not encrypted; otherwise encryption is used where it is offered.
+  /// Refuses a connection that is not encrypted, also where a whole connection string would take
+  /// one; otherwise encryption is used where it is offered.
   bool require_tls = false;
   /// True when the machine has a data source of that name.
   bool (*is_data_source)(const std::string& name) = nullptr;

@@ -52,6 +52,11 @@ TEST(ServerAddress, KeepsWhatAWholeConnectionStringSays) {
             "UseDeclareFetch=1;Fetch=4096;KeepaliveTime=30;KeepaliveInterval=10;");
 }
 
+TEST(ServerAddress, KnowsTheOtherNamesOfUserPasswordAndDatabase) {
+  EXPECT_EQ(Text("Server=s;Username=me;Password=mine;db=books"),
+            std::string("Server=s;Username=me;Password=mine;db=books;") + kPostgresHabits);
+}
+
 TEST(ServerAddress, LeavesOutWhatIsNotGiven) {
   EXPECT_EQ(ConnectionString({"h", "", "", ""}, {}),
             std::string("DRIVER={PostgreSQL Unicode};SERVER=h;") + kPostgresHabits);
@@ -67,6 +72,22 @@ TEST(ServerAddress, RequiresEncryptionWhereAsked) {
   EXPECT_NE(Text("h", options).find("SSLmode=require;"), std::string::npos);
   options.kind = ServerKind::TransactSql;
   EXPECT_NE(Text("h", options).find("Encrypt=yes;"), std::string::npos);
+}
+
+TEST(ServerAddress, LetsNoWholeConnectionStringWeakenTheEncryptionThatIsRequired) {
+  ServerOptions options;
+  options.require_tls = true;
+  for (const char* said : {"prefer", "disable", "{allow}"}) {
+    const std::string text = Text(std::string("sslMODE=") + said + ";Server=s", options);
+    EXPECT_TRUE(text.starts_with("Server=s;DATABASE=suite;")) << text;
+    EXPECT_NE(text.find("SSLmode=require;"), std::string::npos) << text;
+  }
+  EXPECT_NE(Text("SSLmode=verify-full;Server=s", options).find("SSLmode=verify-full;"),
+            std::string::npos);
+  options.kind = ServerKind::TransactSql;
+  EXPECT_NE(Text("Server=s;Encrypt=no", options).find("Server=s;DATABASE"), std::string::npos);
+  EXPECT_NE(Text("Server=s;Encrypt=no", options).find("Encrypt=yes;"), std::string::npos);
+  EXPECT_NE(Text("Server=s;Encrypt=strict", options).find("Encrypt=strict;"), std::string::npos);
 }
 
 using Passwords = std::vector<std::string>;

@@ -137,6 +137,20 @@ TEST_F(QvdbOnPostgres, AnImportThatTheServerRefusesLeavesNothingBehind) {
   EXPECT_EQ(One("select count(*) from cards"), "0");
 }
 
+TEST_F(QvdbOnPostgres, AUserWhoOwnsNoTableImportsWithoutAComplaint) {
+  Server().RunAll(database_,
+                  {"do $$begin create role importer login password 'w0rd'; exception when "
+                   "duplicate_object then null; end$$",
+                   "grant select, insert on all tables in schema public to importer",
+                   "grant select, update on all sequences in schema public to importer"});
+  EXPECT_EQ(Run({"import", "customers", "-", "--server", Server().Address(), "--database",
+                 database_, "--user", "importer", "--password", "w0rd"},
+                "CompCode,compname\nK1,甲\n"),
+            0);
+  EXPECT_EQ(err_, "");
+  EXPECT_EQ(One("select compname from cards"), "甲");
+}
+
 TEST_F(QvdbOnPostgres, ADryRunTriesEverythingAndKeepsNothing) {
   EXPECT_EQ(OnServer({"import", "customers", "-", "--dry-run"}, "CompCode,compname\nK1,甲\n"), 0);
   EXPECT_EQ(One("select count(*) from cards"), "0");
