@@ -31,6 +31,7 @@ test  fonts-noto-cjk       the window's tests measure Chinese text
 test  qt6-translations-l10n  a test asks whether those dialogs speak Chinese
 test  xvfb                 an X server without a screen, for the test by real keys
 test  poppler-utils        reads PDF files back
+test  unzip                looks into workbooks
 test  xdotool              presses those keys
 test  postgresql-15        a private server for the tests of the server dialect
 test  odbc-postgresql      the driver through which it is reached

@@ -29,6 +29,8 @@ class GridTools : public QObject {
   /// Moves the active cell to the next cell that contains the text (ASCII case does not count),
   /// around at the end. False when there is none, or the form kept the cell.
   bool Find(const QString& text, bool backwards);
+  /// Asks for a file and exports the grid into it.
+  void Export();
 
  private:
   void ShowMenu(const QPoint& at);
@@ -37,7 +39,6 @@ class GridTools : public QObject {
   void OpenFind();
   /// The bar, made when it is first asked for.
   FindBar& Bar();
-  void Export();
   void Print();
   /// 0-based columns from left to right as the user sees them.
   std::vector<int> ShownColumns() const;

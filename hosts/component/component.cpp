@@ -1,6 +1,5 @@
 #include "hosts/component/component.h"
 
-#include "frontends/qt/theme.h"
 #include "services/context.h"
 
 namespace qvzj {
@@ -8,7 +7,7 @@ namespace qvzj {
 Component::Component(const QString& settings_file)
     : surroundings_(settings_file),
       connections_({.language = [] { return int{Shared().Language}; }}),
-      pages_(qt::ThemeFont(false), [] { return Shared().Language == 1; }) {
+      pages_([] { return Shared().Language == 1; }) {
   surroundings_.Install();
   Surroundings& around = Around();
   around.connections = &connections_;

@@ -5,8 +5,8 @@
 
 namespace qvzj::demo {
 
-/// Writes a picture of a screen as a small PNG file: with a palette of its 256 most used colours,
-/// which flat drawing hardly exceeds. False when the file cannot be written.
+/// Writes a picture of a screen as a small PNG file: with a palette of its most used colours and a
+/// few between them, which flat drawing hardly needs more of. False when the file cannot be written.
 bool SaveSmallPng(const QImage& image, const QString& file);
 
 }  // namespace qvzj::demo

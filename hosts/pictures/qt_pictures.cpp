@@ -24,7 +24,7 @@ struct QtPictures::Running {
   char name[16] = "qvzj-script";
   char* arguments[2] = {name, nullptr};
   QApplication application{argument_count, arguments};
-  qt::QtPageOutput pages{qt::ThemeFont(false), Traditional};
+  qt::QtPageOutput pages{Traditional};
   SuitePrint print{pages, *Around().clock};
 };
 

@@ -6,13 +6,21 @@
 #include "frontends/qt/print/preview_texts.h"
 #include "frontends/qt/print/preview_window.h"
 #include "frontends/qt/text.h"
+#include "frontends/qt/theme.h"
 
 namespace qvzj::qt {
 
-QtPageOutput::QtPageOutput(const QFont& font, std::function<bool()> traditional)
-    : font_(font), metrics_(font), traditional_(std::move(traditional)) {}
+QtPageOutput::QtPageOutput(std::function<bool()> traditional)
+    : traditional_(std::move(traditional)) {}
 
 QtPageOutput::~QtPageOutput() = default;
+
+const QtPageOutput::Face& QtPageOutput::CurrentFace() const {
+  const bool traditional = traditional_();
+  std::optional<Face>& face = faces_[traditional ? 1 : 0];
+  if (!face) face.emplace(ThemeFont(traditional));
+  return *face;
+}
 
 bool QtPageOutput::ShowProgress(int64_t done, int64_t total) {
   if (!pdf_path_.isEmpty()) return true;
@@ -29,10 +37,10 @@ bool QtPageOutput::ShowProgress(int64_t done, int64_t total) {
 void QtPageOutput::Output(const PageSource& pages, const std::string& title) {
   work_.reset();
   if (!pdf_path_.isEmpty()) {
-    WritePdf(pages, pdf_path_, FromUtf8(title), font_, {});
+    WritePdf(pages, pdf_path_, FromUtf8(title), CurrentFace().font, {});
     return;
   }
-  PreviewWindow preview(pages, FromUtf8(title), font_, traditional_(),
+  PreviewWindow preview(pages, FromUtf8(title), CurrentFace().font, traditional_(),
                         QApplication::activeWindow());
   preview.exec();
 }

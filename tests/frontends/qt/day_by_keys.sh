@@ -140,6 +140,15 @@ press ctrl+a
 put "$work/ledger.xlsx"
 press Return
 until_true 20 "the workbook" test -s "$work/ledger.xlsx"
+number=$(answer_of "select fAcntNo from tAccountDetail where fCompID=5 and fMoneyA=77" |
+  sed 's/^sql: //')
+if command -v unzip >/dev/null; then
+  unzip -p "$work/ledger.xlsx" xl/worksheets/sheet1.xml >"$work/sheet.xml"
+  grep -q "$number" "$work/sheet.xml" || fail "the entry $number is not in the workbook"
+  grep -q "<v>77</v>" "$work/sheet.xml" || fail "its amount is not a number in the workbook"
+else
+  echo "unzip is not installed, so the workbook's contents are not looked at"
+fi
 confirm "the report of the export"
 until_true 20 "the end of the boxes" no_box
 
@@ -154,6 +163,13 @@ press ctrl+a
 put "$work/ledger.pdf"
 press Return
 until_true 20 "the PDF file" grep -q '%%EOF' "$work/ledger.pdf"
+if command -v pdftotext >/dev/null; then
+  pdftotext "$work/ledger.pdf" "$work/ledger.txt"
+  grep -q 往来总帐清单 "$work/ledger.txt" || fail "the printed page has no title"
+  grep -q "$number" "$work/ledger.txt" || fail "the entry $number is not on the printed page"
+else
+  echo "pdftotext is not installed, so the PDF file's contents are not looked at"
+fi
 press Escape
 until_true 20 "the end of the preview" no_box
 

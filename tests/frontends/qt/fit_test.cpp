@@ -2,6 +2,9 @@
 
 #include <QHeaderView>
 
+#include "forms/frmList.h"
+#include "suite/login.h"
+#include "suite/task_form.h"
 #include "tests/frontends/qt/window_world.h"
 
 namespace qvzj::test {
@@ -61,6 +64,56 @@ TEST_P(Captions, AreOfAReadableChineseFont) {
     }
   }
 }
+
+TEST_P(Captions, WouldBeSeenToBeCut) {
+  Open();
+  frmZj& form = world_.Form();
+  const std::vector<ui::Control*> captioned{&form.cmdPrint, &form.chkDate(0), &form.OptSelect(0),
+                                            &form.lblTotal(0)};
+  for (ui::Control* control : captioned) {
+    control->SetCaption("一个长得放不下的标题一个长得放不下的标题");
+    world_.Settle();
+    const qt::TextFit fit = world_.Window().ViewOf(*control)->Fit();
+    EXPECT_GT(fit.needed, fit.available) << control->FullName();
+  }
+}
+
+/// Every dialog of the module and of the suite's stand-ins.
+class Dialogs : public ::testing::TestWithParam<int16_t> {
+ protected:
+  void ExpectWhole(ui::Form& form) {
+    qt::FormWindow window(form, {[] { return int{GetParam()}; }, nullptr});
+    window.show();
+    WindowWorld::Settle();
+    for (const auto& view : window.Views()) {
+      const qt::TextFit fit = view->Fit();
+      EXPECT_LE(fit.needed, fit.available)
+          << view->GetControl().FullName() << " " << view->GetControl().Caption();
+    }
+  }
+
+  World world_;
+};
+
+TEST_P(Dialogs, ShowTheirTextsWhole) {
+  world_.control.setLanguage(GetParam());
+  world_.Sql("insert into Employees values ('001', '张三');");
+  world_.Open(kCustomers);
+  frmLogin login(GetParam(), {});
+  ExpectWhole(login);
+  frmList list;
+  list.Load();
+  ExpectWhole(list);
+  TaskCall call;
+  call.language = GetParam();
+  call.access.user_path = Shared().UserPath;
+  frmTask visits(call);
+  ExpectWhole(visits);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, Dialogs, ::testing::Values(0, 1), [](const auto& info) {
+  return std::string(info.param == 0 ? "Simplified" : "Traditional");
+});
 
 INSTANTIATE_TEST_SUITE_P(LanguagesModesAndSizes, Captions,
                          ::testing::Values(Case{0, 0, 12000, 8565}, Case{0, 1, 12000, 8565},

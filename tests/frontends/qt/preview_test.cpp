@@ -290,7 +290,7 @@ TEST_F(PdfFile, CanBeSearchedForItsTexts) {
 
 /// A desktop output whose layout takes so long that the user sees it.
 TEST(PageOutput, LetsTheUserCancelTheLayout) {
-  qt::QtPageOutput output(qt::ThemeFont(false), [] { return false; });
+  qt::QtPageOutput output([] { return false; });
   const auto dialog = [] {
     for (QWidget* window : QApplication::topLevelWidgets()) {
       auto* work = qobject_cast<QProgressDialog*>(window);

@@ -17,7 +17,7 @@ fail() {
 }
 
 shoot() { # DATA
-  timeout 60 "$demo" --data "$1" --settings "$work/settings" --shots "$work/pictures" \
+  timeout 300 "$demo" --data "$1" --settings "$work/settings" --shots "$work/pictures" \
     >"$work/output" 2>"$work/said"
 }
 
@@ -29,5 +29,7 @@ grep -q "系统数据库 $work/missing 属早期版本" "$work/said" || fail "th
 "$qvdb" demo --data "$work/data" --customers 5 --entries 40 >"$work/output" 2>&1 ||
   fail "no data"
 shoot "$work/data" || fail "the screens were not drawn"
-[ -s "$work/pictures/customers-simplified.png" ] || fail "a picture is missing"
+for picture in customers-simplified accounts-traditional-print-end customers-dark-find suite-dark; do
+  [ -s "$work/pictures/$picture.png" ] || fail "the picture $picture is missing"
+done
 ! grep -q "^qvzj-demo:" "$work/said" || fail "something was said"
