@@ -42,7 +42,7 @@ constexpr std::array<SearchField, 7> kSearchFields = {{{"CompCode", "客户编�
 constexpr std::array<int32_t, 13> kRegisterWidths = {1000, 2400, 1000, 1800, 1800, 1800, 900,
                                                      900,  900,  1500, 1500, 600,  600};
 constexpr std::array<int32_t, 18> kLedgerWidths = {1170, 1560, 2040, 1395, 1395, 1395,
-                                                   1950, 1560, 1560, 900,  900,  900,
+                                                   1950, 1890, 1890, 900,  900,  900,
                                                    800,  600,  600,  800,  800,  800};
 
 /// A field that fails its check must not keep the user from giving up or leaving.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPointer>
@@ -93,6 +94,10 @@ Answer QtBoxes::Show(const std::string& text, int style, const std::string& titl
   box.setDefaultButton(accept);
   box.setEscapeButton(reject != nullptr ? reject : accept);
   DressBox(box);
+  // Wide enough for the title beside the window's own buttons.
+  if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
+    label->setMinimumWidth(box.fontMetrics().horizontalAdvance(box.windowTitle()) + 40);
+  }
   box.exec();
   if (owner) owner->activateWindow();
 

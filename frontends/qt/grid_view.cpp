@@ -27,7 +27,7 @@ class CellDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
-  /// A text that does not fit its cell is shown whole as a tool tip.
+  /// A text that does not fit its cell, or runs out of sight, is shown whole as a tool tip.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override {
     if (event->type() != QEvent::ToolTip) {
@@ -36,7 +36,8 @@ class CellDelegate : public QStyledItemDelegate {
     const QString text = index.data().toString();
     const int margins = 2 * (view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
     const int needed = option.fontMetrics.horizontalAdvance(text) + margins;
-    QToolTip::showText(event->globalPos(), needed > option.rect.width() ? text : QString(), view);
+    const QRect seen = option.rect.intersected(view->viewport()->rect());
+    QToolTip::showText(event->globalPos(), needed > seen.width() ? text : QString(), view);
     return true;
   }
 

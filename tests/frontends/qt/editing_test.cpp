@@ -276,6 +276,21 @@ TEST_F(Editing, TypesANewNameIntoAnEditableList) {
   EXPECT_EQ(combo.currentText(), "Wu");
 }
 
+TEST_F(Editing, LeavesFieldsAloneThatTheWheelPassesOver) {
+  form_.UserFocus(form_.txtAcnt2(6));
+  world_.Settle();
+  const basic::Date date = form_.dtpAcntDate.Value();
+  const int32_t currency = form_.cboHb.ListIndex();
+  for (QWidget* field : {static_cast<QWidget*>(&world_.Native<QDateEdit>(form_.dtpAcntDate)),
+                         static_cast<QWidget*>(&world_.Native<QComboBox>(form_.cboHb))}) {
+    QWheelEvent event(field->rect().center(), field->mapToGlobal(field->rect().center()), {},
+                      {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(field, &event);
+  }
+  EXPECT_EQ(form_.dtpAcntDate.Value(), date);
+  EXPECT_EQ(form_.cboHb.ListIndex(), currency);
+}
+
 TEST_F(Editing, ClearsACurrencyFilterWithDelete) {
   form_.UserChoose(form_.cboHb2, 0);
   form_.UserFocus(form_.cboHb2);

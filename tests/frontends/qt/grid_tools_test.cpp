@@ -7,10 +7,12 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QMenu>
 #include <QSettings>
 #include <QTimer>
+#include <QToolTip>
 
 #include "frontends/qt/ask_file.h"
 #include "frontends/qt/export_grid.h"
@@ -124,6 +126,31 @@ TEST_F(Tools, DropTheirMenuUnderTheCurrentRowByKey) {
   const QRect row = table_.visualRect(table_.currentIndex());
   EXPECT_EQ(menu->y(), table_.viewport()->mapToGlobal(row.bottomLeft()).y());
   menu->close();
+}
+
+TEST_F(Tools, TellATextThatRunsOutOfSight) {
+  const auto told = [&](int column) {
+    const QModelIndex cell = table_.model()->index(0, column);
+    const QRect place = table_.visualRect(cell);
+    const QPoint at(place.left() + 3, place.center().y());
+    QToolTip::hideText();
+    QStyleOptionViewItem option;
+    option.initFrom(&table_);
+    option.rect = place;
+    QHelpEvent event(QEvent::ToolTip, at, table_.viewport()->mapToGlobal(at));
+    table_.itemDelegate()->helpEvent(&event, &table_, option, cell);
+    return QToolTip::isVisible() ? QToolTip::text() : QString();
+  };
+  table_.setColumnWidth(1, 120);
+  EXPECT_EQ(told(1), "");
+  table_.setColumnWidth(1, 24);
+  table_.setColumnWidth(0, 24);
+  EXPECT_EQ(told(0), "2024-01-02");
+  // Wide enough, but only its beginning is in sight.
+  table_.setColumnWidth(0, table_.viewport()->width() - 30);
+  table_.setColumnWidth(1, 24);
+  table_.setColumnWidth(2, 200);
+  EXPECT_EQ(told(2), table_.model()->index(0, 2).data().toString());
 }
 
 TEST_F(Tools, FindAComposedWordWhenItIsHandedOver) {
