@@ -30,11 +30,12 @@ void Pdf(Script& script, const Arguments& arguments) {
   Pictures& pictures = PicturesOf(script);
   ui::Button& button = PrintButton(script, script.Find(arguments[0].text).control);
   RecordingPrint& print = script.Around().print;
+  if (!button.Usable()) throw ScriptError(button.FullName() + " is disabled");
   const size_t jobs = print.jobs.size();
   PrintComponent* before = std::exchange(print.inner, &pictures.PdfPrinter(arguments[1].text));
   const bool pressed = script.ActiveForm().UserClick(button);
   print.inner = before;
-  if (!pressed) throw ScriptError(button.FullName() + " cannot be pressed");
+  if (!pressed) return;  // what went wrong was reported as it happened
   if (print.jobs.size() == jobs) throw ScriptError("there is nothing to print");
 }
 

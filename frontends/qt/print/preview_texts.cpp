@@ -26,6 +26,7 @@ PreviewTexts Simplified() {
   texts.saved = "已存为 %1";
   texts.cancelled = "已取消";
   texts.printed = "已打印 %1 页";
+  texts.not_printed = "打印没有成功。\n%1";
   texts.not_written = "没有写成，原有的文件没有改动。\n%1";
   return texts;
 }
@@ -53,6 +54,7 @@ PreviewTexts Traditional() {
   texts.saved = "已存為 %1";
   texts.cancelled = "已取消";
   texts.printed = "已打印 %1 頁";
+  texts.not_printed = "打印沒有成功。\n%1";
   texts.not_written = "沒有寫成，原有的檔案沒有改動。\n%1";
   return texts;
 }

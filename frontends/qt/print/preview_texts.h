@@ -16,7 +16,7 @@ struct PreviewTexts {
   QString laying_out, painting, printing;  ///< what takes long
   QString saved, cancelled;                ///< %1 file
   QString printed;                         ///< %1 pages
-  QString not_written;                     ///< %1 the reason
+  QString not_printed, not_written;        ///< %1 the reason
 };
 
 /// In traditional or simplified Chinese.

@@ -194,6 +194,10 @@ void PreviewWindow::ChooseFit(PageFit fit) { desk_->SetFit(fit); }
 
 void PreviewWindow::Say(const QString& text) { said_->setText(text); }
 
+void PreviewWindow::Complain(const QString& text, const std::exception& error) {
+  Around().boxes->Error(ToUtf8(text.arg(QString::fromUtf8(error.what()))), ToUtf8(title_));
+}
+
 void PreviewWindow::Print() {
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(title_);
@@ -217,7 +221,7 @@ void PreviewWindow::Print() {
     if (!done) printer.abort();
     Say(done ? texts_.printed.arg(last - first + 1) : texts_.cancelled);
   } catch (const std::exception& error) {
-    Around().boxes->Error(error.what(), ToUtf8(title_));
+    Complain(texts_.not_printed, error);
   }
 }
 
@@ -233,8 +237,7 @@ void PreviewWindow::WritePdfTo(const QString& path) {
     const bool done = WritePdf(pages_, path, title_, font_, work.AsProgress());
     Say(done ? texts_.saved.arg(QFileInfo(path).fileName()) : texts_.cancelled);
   } catch (const std::exception& error) {
-    Around().boxes->Error(ToUtf8(texts_.not_written.arg(QString::fromUtf8(error.what()))),
-                          ToUtf8(title_));
+    Complain(texts_.not_written, error);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QFont>
+#include <exception>
 
 #include "platform/pages.h"
 
@@ -44,6 +45,7 @@ class PreviewWindow : public QDialog {
   void Print();
   void SavePdf();
   void Say(const QString& text);
+  void Complain(const QString& text, const std::exception& error);
 
   const PageSource& pages_;
   QString title_;

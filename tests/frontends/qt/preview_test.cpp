@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QPdfWriter>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QScrollBar>
@@ -235,11 +236,12 @@ class PdfFile : public testing::Test {
     return qt::WritePdf(Numbered(4), QString::fromStdString(file_.string()), "t",
                         qt::ThemeFont(false), progress);
   }
-  std::string Bytes() const {
+  static std::string Text(const fs::path& file) {
     std::ostringstream bytes;
-    bytes << std::ifstream(file_, std::ios::binary).rdbuf();
+    bytes << std::ifstream(file, std::ios::binary).rdbuf();
     return bytes.str();
   }
+  std::string Bytes() const { return Text(file_); }
   int64_t Files() const {
     return std::distance(fs::directory_iterator(folder_.Path()), fs::directory_iterator());
   }
@@ -286,6 +288,21 @@ TEST_F(PdfFile, CanBeSearchedForItsTexts) {
   std::string line;
   std::getline(std::ifstream(text) >> std::ws, line);
   EXPECT_EQ(line, "票号 PZ20240301-0017 实收 1234.50");
+}
+
+TEST_F(PdfFile, HoldsOnlyThePagesThatAreAskedFor) {
+  if (std::system("command -v pdftotext >/dev/null 2>&1") != 0) {
+    GTEST_SKIP() << "no reader of PDF files on this machine (package poppler-utils)";
+  }
+  {
+    QPdfWriter writer(QString::fromStdString(file_.string()));
+    const Numbered pages(5);
+    qt::FitPaper(writer, pages);
+    EXPECT_TRUE(qt::PaintPages(writer, 1200, pages, 1, 2, qt::ThemeFont(false), {}));
+  }
+  ASSERT_EQ(std::system(("pdftotext " + file_.string()).c_str()), 0);
+  const std::string text = Text(folder_.Path() / "out.txt");
+  EXPECT_EQ(text, "page2\n\n\x0Cpage3\n\n\x0C");
 }
 
 /// A desktop output whose layout takes so long that the user sees it.
