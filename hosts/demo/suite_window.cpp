@@ -178,6 +178,7 @@ void SuiteWindow::Caption() {
   CaptionWays(texts);
   language_label_->setText(texts.language);
   language_->setAccessibleName(texts.language);
+  language_->setCurrentIndex(traditional ? 1 : 0);  // the host may have changed it meanwhile
   appearance_label_->setText(texts.appearance);
   appearance_->setAccessibleName(texts.appearance);
   for (int i = 0; i < 3; ++i) appearance_->setItemText(i, texts.appearances[i]);

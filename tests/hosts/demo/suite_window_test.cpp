@@ -183,6 +183,13 @@ TEST_F(Suite, ClosesOneWayBeforeItOpensAnother) {
   EXPECT_EQ(windows, 1);
 }
 
+TEST_F(Suite, OpensInTheLanguageThatItsHostSpeaks) {
+  Start();
+  host_->SetLanguage(1);
+  window_ = std::make_unique<SuiteWindow>(*host_);
+  EXPECT_EQ(window_->findChild<QComboBox*>("language")->currentText(), "繁體中文");
+}
+
 TEST_F(Suite, ChangesTheLanguageOfItselfAndOfTheControl) {
   Start();
   Press("customers");
