@@ -55,10 +55,11 @@ double TurnOf(const Work& work) {
   return Median(std::move(runs));
 }
 
-/// Seconds of each work, by turn. They run turn by turn, so that what else the machine does weighs
-/// on all alike: for `budget` seconds, at least three turns.
+/// Seconds by work and turn.
 using Turns = std::vector<std::vector<double>>;
 
+/// Runs each work turn by turn, so that what else the machine does weighs on all alike: for
+/// `budget` seconds, at least three turns.
 Turns InTurns(double budget, const std::vector<Work>& works) {
   for (const Work& work : works) work();  // pays for cold caches
   Turns turns(works.size());
@@ -101,8 +102,8 @@ class Bench {
  public:
   Bench(const std::vector<int64_t>& sizes, int64_t many_customers, double budget)
       : sizes_(sizes), budget_(budget) {
-    std::vector<std::string> settings{"shared_buffers=512MB", "max_wal_size=8GB"};
-    server_ = std::make_unique<test::PrivatePostgres>(std::move(settings));
+    server_ =
+        std::make_unique<test::PrivatePostgres>(std::vector<std::string>{"shared_buffers=512MB"});
     for (const int64_t size : sizes) {
       std::cerr << "Filling a ledger of " << Grouped(size) << " entries" << std::endl;
       ledgers_.push_back(std::make_unique<ServerLedger>(*server_, kCustomers, size));
