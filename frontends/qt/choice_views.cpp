@@ -5,12 +5,14 @@
 #include <QComboBox>
 #include <QDateEdit>
 #include <QEvent>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QStyleOption>
+#include <QTableView>
 #include <QTextCharFormat>
 #include <QToolButton>
 #include <utility>
@@ -32,6 +34,10 @@ basic::Date FromNative(const QDate& date) {
   return basic::Date::FromYmd(date.year(), date.month(), date.day());
 }
 
+/// The calendar's own names of its buttons, and the marks they get.
+constexpr std::pair<const char*, const char*> kMonthButtons[] = {{"qt_calendar_prevmonth", "‹"},
+                                                                 {"qt_calendar_nextmonth", "›"}};
+
 /// Plain marks in place of the toolkit's coloured arrows, and an edge all around.
 void DressCalendar(QCalendarWidget& calendar) {
   calendar.setGridVisible(false);
@@ -39,8 +45,15 @@ void DressCalendar(QCalendarWidget& calendar) {
   calendar.layout()->setContentsMargins(1, 1, 1, 1);
   calendar.setAutoFillBackground(true);
   calendar.setBackgroundRole(QPalette::Dark);
-  for (const auto& [name, mark] :
-       {std::pair{"qt_calendar_prevmonth", "‹"}, std::pair{"qt_calendar_nextmonth", "›"}}) {
+  // It measures digits; the rows and columns of its table need more in a Chinese font.
+  if (const auto* days = calendar.findChild<QTableView*>()) {
+    constexpr int kColumns = 7;
+    constexpr int kLines = 9;  // month, weekdays, six weeks, and some air
+    const int column = std::max(days->horizontalHeader()->minimumSectionSize(), 40);
+    calendar.setMinimumSize(column * kColumns,
+                            days->verticalHeader()->minimumSectionSize() * kLines);
+  }
+  for (const auto& [name, mark] : kMonthButtons) {
     auto* button = calendar.findChild<QToolButton*>(name);
     if (button == nullptr) continue;
     button->setIcon(QIcon());
@@ -233,12 +246,17 @@ class DateEdit : public QDateEdit {
     for (Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
       calendar_->setWeekdayTextFormat(day, format);
     }
+    QPalette marks = palette();
+    marks.setBrush(QPalette::ButtonText, marks.highlightedText());
+    for (const auto& [name, mark] : kMonthButtons) {
+      if (auto* button = calendar_->findChild<QToolButton*>(name)) button->setPalette(marks);
+    }
   }
   void MakeCalendar() {
     calendar_ = calendarWidget();
-    DressCalendar(*calendar_);
     calendar_->setStyle(style());
     for (QWidget* part : calendar_->findChildren<QWidget*>()) part->setStyle(style());
+    DressCalendar(*calendar_);  // last, since it makes the calendar measure itself anew
   }
 
   QCalendarWidget* calendar_ = nullptr;

@@ -3,6 +3,7 @@
 #include <QCalendarWidget>
 #include <QClipboard>
 #include <QInputMethodEvent>
+#include <QTableView>
 #include <QToolTip>
 
 #include "tests/frontends/qt/window_world.h"
@@ -47,6 +48,21 @@ TEST_F(Editing, DropsACalendarThatIsMadeWhenItIsFirstAskedFor) {
   ASSERT_NE(calendar, nullptr);
   EXPECT_TRUE(calendar->isVisible());
   EXPECT_EQ(calendar->verticalHeaderFormat(), QCalendarWidget::NoVerticalHeader);
+  calendar->parentWidget()->close();
+}
+
+TEST_F(Editing, DropsACalendarThatShowsTheWholeMonth) {
+  auto& edit = world_.Native<QDateEdit>(form_.dtpAcntDate);
+  QTest::keyClick(&edit, Qt::Key_F4);
+  world_.Settle();
+  auto* calendar = edit.findChild<QCalendarWidget*>();
+  ASSERT_NE(calendar, nullptr);
+  auto* days = calendar->findChild<QTableView*>();
+  ASSERT_NE(days, nullptr);
+  const int last = days->model()->rowCount() - 1;
+  EXPECT_LE(days->rowViewportPosition(last) + days->rowHeight(last), days->viewport()->height());
+  EXPECT_GE(calendar->width(), calendar->sizeHint().width());
+  EXPECT_GE(calendar->height(), calendar->sizeHint().height());
   calendar->parentWidget()->close();
 }
 
