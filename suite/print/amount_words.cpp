@@ -10,8 +10,6 @@
 namespace qvzj {
 namespace {
 
-constexpr double kTooLarge = 1e15;
-
 struct Unit {
   int64_t value;
   const char* word;
@@ -49,7 +47,7 @@ std::string WholeInWords(int64_t number, const Words& words) {
 }  // namespace
 
 std::string AmountInWords(double amount, int16_t language) {
-  if (!(std::fabs(amount) < kTooLarge)) throw OverflowError("an amount in words");
+  if (!(std::fabs(amount) < kNoAmountInWords)) throw OverflowError("an amount in words");
   const Words& words = language == 1 ? kTraditional : kSimplified;
   std::string shown = basic::FormatFixed(amount, 2);
   std::string text;

@@ -130,10 +130,10 @@ void PageLayout::BuildTotals() {
   for (size_t i = 0; i + 1 < job_.totals.size(); i += 2) {
     totals_.push_back(job_.totals[i] + " " + job_.totals[i + 1]);
   }
-  if (!job_.totals.empty() && LedgerInLocalCurrency()) {
-    in_words_ =
-        words.amount_in_words + AmountInWords(basic::Val(job_.totals.back()), job_.language);
-  }
+  if (job_.totals.empty() || !LedgerInLocalCurrency()) return;
+  const double last = basic::Val(job_.totals.back());
+  if (std::fabs(last) >= kNoAmountInWords) return;
+  in_words_ = words.amount_in_words + AmountInWords(last, job_.language);
 }
 
 std::vector<std::string> PageLayout::Wrap(const std::string& text, double room) const {

@@ -251,6 +251,14 @@ TEST_F(PageLayoutTest, GivesNoAmountInWordsWhenAForeignCurrencyIsAmongTheEntries
   EXPECT_TRUE(Has(page, "实收金额: 30.00"));
 }
 
+TEST_F(PageLayoutTest, PrintsATotalTooLargeForWordsInFiguresAlone) {
+  Fill(1);
+  job.totals = {"实收金额:", "1000000000000000.00"};
+  const Page page = Layout().MakePage(0);
+  EXPECT_TRUE(Has(page, "实收金额: 1000000000000000.00"));
+  for (const std::string& text : Texts(page)) EXPECT_NE(text.rfind("人民币大写", 0), 0u) << text;
+}
+
 TEST_F(PageLayoutTest, ClosesTheRegisterWithItsCountAlone) {
   Fill(3);
   job.kind = 0;
