@@ -15,6 +15,7 @@
 #include <QTableView>
 #include <QTextCharFormat>
 #include <QToolButton>
+#include <algorithm>
 #include <utility>
 
 #include "frontends/qt/form_window.h"
