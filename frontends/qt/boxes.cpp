@@ -95,9 +95,10 @@ Answer QtBoxes::Show(const std::string& text, int style, const std::string& titl
   box.setEscapeButton(reject != nullptr ? reject : accept);
   DressBox(box);
   // Wide enough for the title beside the window's own buttons.
-  if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
-    label->setMinimumWidth(box.fontMetrics().horizontalAdvance(box.windowTitle()) + 40);
-  }
+  auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+  const int titled = box.fontMetrics().horizontalAdvance(box.windowTitle()) + 40;
+  // A longer text knows its width itself, which a minimum would take from it.
+  if (label != nullptr && label->sizeHint().width() < titled) label->setMinimumWidth(titled);
   box.exec();
   if (owner) owner->activateWindow();
 

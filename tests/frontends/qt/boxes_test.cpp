@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QFile>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -90,6 +91,25 @@ TEST(Boxes, ShowATextAsItIs) {
   });
   boxes.Show("<b>甲</b>", box::kPlain, "t");
   EXPECT_EQ(text, "<b>甲</b>");
+}
+
+TEST(Boxes, ShowShortAndLongTextsWhole) {
+  qt::QtBoxes boxes([] { return 0; });
+  for (const std::string text :
+       {"a", "帐目已经审核。是否反审核，取消“审核”标志？",
+        "系统数据库 /home/zhang/data 属早期版本，无 [客户往来帐管理系统] 功能。请升级系统！"
+        "系统数据库 /home/zhang/data 属早期版本，无 [客户往来帐管理系统] 功能。请升级系统！"}) {
+    WhenBoxComes([&](QDialog& dialog) {
+      const auto* label = dialog.findChild<QLabel*>("qt_msgbox_label");
+      const QRect needed = label->fontMetrics().boundingRect(
+          QRect(0, 0, label->wordWrap() ? label->width() : 100000, 100000),
+          label->wordWrap() ? Qt::TextWordWrap : 0, label->text());
+      EXPECT_LE(needed.width(), label->width()) << text;
+      EXPECT_LE(needed.height(), label->height()) << text;
+      dialog.reject();
+    });
+    boxes.Show(text, box::kQuestionOkCancel, "客户往来帐管理系统");
+  }
 }
 
 TEST(Boxes, TakeALineOfText) {
