@@ -1,5 +1,6 @@
 // The least that a host needs: load the plug-in, make the control, say who works where, open it.
 #include <QApplication>
+#include <QFileInfo>
 #include <QPluginLoader>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -13,7 +14,7 @@ int main(int argc, char** argv) {
     qWarning("usage: qvzj-minimal-host PLUGIN DATA_FOLDER");
     return 2;
   }
-  QPluginLoader loader(words[1]);
+  QPluginLoader loader(QFileInfo(words[1]).absoluteFilePath());
   auto* factory = qobject_cast<QvZjFactory*>(loader.instance());
   if (!factory) {
     qWarning("%s", qPrintable(loader.errorString()));
