@@ -19,6 +19,12 @@ frmTask::frmTask(const TaskCall& call)
   Place();
   Connect();
   Refill(0);
+  // Without a visit there is nothing to do but to write one.
+  if (Grid1.RowCount() > 0) {
+    SetFocus(Grid1);
+  } else {
+    SetFocus(txtBrief);
+  }
 }
 
 void frmTask::WriteCaptions(const TaskCall& call) {

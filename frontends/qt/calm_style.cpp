@@ -248,7 +248,8 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_FrameDefaultButton:
       return;
     case PE_Frame:
-      painter->setPen(ColorsFor(option->palette).strong_border);
+      painter->setPen(Has(*option, State_HasFocus) ? ColorsFor(option->palette).accent
+                                                   : ColorsFor(option->palette).strong_border);
       painter->setBrush(Qt::NoBrush);
       painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
       return;

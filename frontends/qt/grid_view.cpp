@@ -36,8 +36,10 @@ class CellDelegate : public QStyledItemDelegate {
     const QString text = index.data().toString();
     const int margins = 2 * (view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
     const int needed = option.fontMetrics.horizontalAdvance(text) + margins;
+    // Of several lines a cell shows the first.
+    const bool cut = text.contains(QLatin1Char('\n'));
     const QRect seen = option.rect.intersected(view->viewport()->rect());
-    QToolTip::showText(event->globalPos(), needed > seen.width() ? text : QString(), view);
+    QToolTip::showText(event->globalPos(), cut || needed > seen.width() ? text : QString(), view);
     return true;
   }
 
@@ -269,9 +271,6 @@ bool GridView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize && Live()) CountPageRows();
   if (event->type() == QEvent::PaletteChange) {
     model_->SetPalette(table_->palette(), ColorsFor(table_->palette()).negative);
-  }
-  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
-    table_->viewport()->update();  // the current row's shade tells the focus
   }
   const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
   if (key && Live() && tools_->HandleKey(*static_cast<QKeyEvent*>(event))) {

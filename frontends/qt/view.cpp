@@ -78,7 +78,11 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
       if (!focused && !scrolls) event->ignore();
       return !focused && !scrolls;
     }
+    case QEvent::FocusOut:
+      FocusWidget()->update();  // its frame tells the focus
+      return false;
     case QEvent::FocusIn:
+      FocusWidget()->update();
       if (!window_.Following()) HandleFocusIn(static_cast<QFocusEvent*>(event)->reason());
       return false;
     default:

@@ -129,6 +129,13 @@ TEST(TaskWindow, ListsTheCustomersVisitsAndShowsTheNewest) {
   });
 }
 
+TEST(TaskWindow, StartsOnTheNewestVisitOrReadyToWriteTheFirst) {
+  TaskWorld world;
+  world.InWindow([](frmTask& form) { EXPECT_EQ(form.Focused(), &form.Grid1); });
+  world.native->NativeScript("delete from tTaskList;");
+  world.InWindow([](frmTask& form) { EXPECT_EQ(form.Focused(), &form.txtBrief); });
+}
+
 TEST(TaskWindow, ShowsTheRowThatTheUserMovesTo) {
   TaskWorld world;
   world.InWindow([&](frmTask& form) {

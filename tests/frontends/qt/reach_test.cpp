@@ -4,6 +4,8 @@
 #include <set>
 
 #include "forms/frmList.h"
+#include "suite/login.h"
+#include "suite/task_form.h"
 #include "tests/frontends/qt/window_world.h"
 
 // What somebody needs who works without a mouse, or without seeing the screen.
@@ -94,16 +96,32 @@ TEST_P(Reach, TabWalksToEverythingThatCanBeChanged) {
   });
 }
 
-TEST(ReachPickList, NamesItsListAndButtons) {
-  WindowWorld world;
-  world.Show();
-  frmList list;
-  list.Load();
-  qt::FormWindow window(list, {});
+void ExpectNamesAndFocus(ui::Form& form) {
+  qt::FormWindow window(form, {});
+  window.show();
+  window.activateWindow();
+  WindowWorld::Settle();
   for (qt::ControlView* view : window.Views()) {
     if (view->FocusWidget()->focusPolicy() == Qt::NoFocus) continue;
-    EXPECT_FALSE(view->FocusWidget()->accessibleName().isEmpty()) << view->GetControl().FullName();
+    EXPECT_FALSE(view->FocusWidget()->accessibleName().isEmpty())
+        << form.Name() << ": " << view->GetControl().FullName();
   }
+  ASSERT_NE(form.Focused(), nullptr) << form.Name();
+  EXPECT_TRUE(window.ViewOf(*form.Focused())->FocusWidget()->hasFocus()) << form.Name();
+}
+
+TEST(ReachDialogs, NameTheirFieldsAndStartInOne) {
+  WindowWorld world;
+  world.Open(kCustomers);
+  frmLogin login(0, {});
+  ExpectNamesAndFocus(login);
+  frmList list;
+  list.Load();
+  ExpectNamesAndFocus(list);
+  TaskCall call;
+  call.access.user_path = Shared().UserPath;
+  frmTask visits(call);
+  ExpectNamesAndFocus(visits);
 }
 
 INSTANTIATE_TEST_SUITE_P(LanguagesAndModes, Reach,
