@@ -130,6 +130,15 @@ TEST_F(OdbcSessions, ReadOnAfterTheServerCameBack) {
   EXPECT_EQ(session->Query("select compname from cards").Text(0), "乙");
 }
 
+TEST_F(OdbcSessions, ReadOnAfterTheServerDroppedTheirConnectionAlone) {
+  auto session = Open();
+  session->Execute(kInsert);
+  Server().Run(database_,
+               "select pg_terminate_backend(pid) from pg_stat_activity where "
+               "datname=current_database() and pid<>pg_backend_pid()");
+  EXPECT_EQ(session->Query(kCount).Text(0), "1");
+}
+
 TEST_F(OdbcSessions, NeverRepeatAWriteWhoseOutcomeIsUnknown) {
   auto session = Open();
   session->Execute("Update cards Set compname='' Where fID=0");
