@@ -267,6 +267,27 @@ bool GridView::IsModelKey(const ui::Key& key) const {
   return sideways || IsListKey(key) || IsFormKey(key);
 }
 
+void GridView::SendKey(const ui::Key& key) {
+  if (key.name == ui::Key::Name::Left) {
+    StepSideways(-1);
+  } else if (key.name == ui::Key::Name::Right) {
+    StepSideways(1);
+  } else {
+    ControlView::SendKey(key);
+  }
+}
+
+void GridView::StepSideways(int step) {
+  const QHeaderView* header = table_->horizontalHeader();
+  int place = header->visualIndex(grid_.ActiveColumn() - 1);
+  do place += step;
+  while (place >= 0 && place < header->count() &&
+         header->isSectionHidden(header->logicalIndex(place)));
+  if (place < 0 || place >= header->count() || grid_.ActiveRow() < 1) return;
+  const int column = header->logicalIndex(place) + 1;
+  Act([&] { return GetForm().UserCell(grid_, column, grid_.ActiveRow()); });
+}
+
 bool GridView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize && Live()) CountPageRows();
   if (event->type() == QEvent::PaletteChange) {

@@ -46,11 +46,15 @@ class GridView : public ControlView {
  protected:
   bool FocusesOnPress() const override { return true; }
   bool IsModelKey(const ui::Key& key) const override;
+  /// Left and Right go by the order that the user gave the columns, of which the form knows
+  /// nothing.
+  void SendKey(const ui::Key& key) override;
   /// Under the current row.
   QPoint MenuPlace() const override;
 
  private:
   void ConnectTable();
+  void StepSideways(int step);
   /// Under which the user's columns are kept.
   QString KeptName() const;
   void ShowColumns();

@@ -174,6 +174,21 @@ TEST_F(LedgerTable, WalksByThePageAndToBothEnds) {
   EXPECT_EQ(press(Qt::Key_PageUp), 1);
 }
 
+TEST_F(LedgerTable, StepsSidewaysByTheOrderOfTheUser) {
+  form_.UserFocus(form_.Grid2);
+  form_.UserCell(form_.Grid2, 1, 1);
+  world_.Settle();
+  table_.horizontalHeader()->moveSection(6, 1);
+  QTest::keyClick(&table_, Qt::Key_Right);
+  EXPECT_EQ(form_.Grid2.ActiveColumn(), 7);
+  QTest::keyClick(&table_, Qt::Key_Right);
+  EXPECT_EQ(form_.Grid2.ActiveColumn(), 2);
+  for (int i = 0; i < 4; ++i) QTest::keyClick(&table_, Qt::Key_Left);
+  EXPECT_EQ(form_.Grid2.ActiveColumn(), 1);
+  for (int i = 0; i < 30; ++i) QTest::keyClick(&table_, Qt::Key_Right);
+  EXPECT_EQ(form_.Grid2.ActiveColumn(), 12);  // those behind are hidden
+}
+
 TEST_F(LedgerTable, FollowsTheRegisterToAnotherCustomer) {
   qt::GridView& registers = world_.GridOf(form_.Grid1);
   const QRect cell = registers.Table()->visualRect(registers.Table()->model()->index(1, 1));
