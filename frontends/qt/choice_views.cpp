@@ -85,6 +85,10 @@ ComboView::ComboView(FormWindow& window, ui::ComboBox& combo, QWidget* parent)
 
 ComboView::~ComboView() = default;
 
+void ComboView::CommitEdit() {
+  if (link_ && !link_->Editing()) CommitComposition();
+}
+
 void ComboView::SendKey(const ui::Key& key) {
   if (link_) {
     link_->Key(key);

@@ -16,6 +16,7 @@ class ComboView : public ControlView {
   ComboView(FormWindow& window, ui::ComboBox& combo, QWidget* parent);
   ~ComboView() override;
   QWidget* Widget() const override;
+  void CommitEdit() override;
   void Mirror(ui::Aspect aspect) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 

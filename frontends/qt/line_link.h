@@ -25,6 +25,8 @@ class LineLink : public QObject {
   static bool TakesKey(const ui::Key& key);
   /// Sends a key to the form.
   void Key(const ui::Key& key);
+  /// True while an edit is on its way through the form.
+  bool Editing() const { return edit_ != Edit::None; }
   void ShowText();
   void ShowSelection();
 

@@ -55,6 +55,10 @@ bool LineView::IsModelKey(const ui::Key& key) const {
   return LineLink::TakesKey(key) || IsFormKey(key);
 }
 
+void LineView::CommitEdit() {
+  if (!link_->Editing()) CommitComposition();
+}
+
 void LineView::SendKey(const ui::Key& key) { link_->Key(key); }
 
 MemoView::MemoView(FormWindow& window, ui::TextBox& box, QWidget* parent)
@@ -95,6 +99,10 @@ void MemoView::Mirror(ui::Aspect aspect) {
 bool MemoView::IsModelKey(const ui::Key& key) const {
   // A new line is an edit like any other and comes in through the text.
   return key.name != ui::Key::Name::Enter && IsFormKey(key);
+}
+
+void MemoView::CommitEdit() {
+  if (!editing_) CommitComposition();
 }
 
 void MemoView::ShowText() {

@@ -15,6 +15,7 @@ class LineView : public ControlView {
   LineView(FormWindow& window, ui::TextBox& box, QWidget* parent);
   ~LineView() override;
   QWidget* Widget() const override;
+  void CommitEdit() override;
   void Mirror(ui::Aspect aspect) override;
 
  protected:
@@ -34,6 +35,7 @@ class MemoView : public ControlView {
  public:
   MemoView(FormWindow& window, ui::TextBox& box, QWidget* parent);
   QWidget* Widget() const override;
+  void CommitEdit() override;
   void Mirror(ui::Aspect aspect) override;
 
  protected:

@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFocusEvent>
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QKeyEvent>
 
 #include "frontends/qt/form_window.h"
@@ -109,6 +111,12 @@ bool ControlView::HandleKey(QKeyEvent& event, bool only_ask) {
     SendKey(*key);
   }
   return true;
+}
+
+void ControlView::CommitComposition() {
+  if (composition_.UnderWay()) QGuiApplication::inputMethod()->commit();
+  // Some input methods hand over only when they are asked to begin anew.
+  if (composition_.UnderWay()) QGuiApplication::inputMethod()->reset();
 }
 
 void ControlView::AskForMenu() {

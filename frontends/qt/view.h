@@ -65,6 +65,9 @@ class ControlView : public QObject {
   /// Called instead of the widget's own press when the press has just moved the focus here. True
   /// when the widget shall not see it.
   virtual bool SwallowFocusingPress() const { return false; }
+  /// Has an input method hand over what it composes here, before the focus goes elsewhere: what
+  /// came afterwards would call the focus back.
+  void CommitComposition();
   /// Where a menu that is asked for by key drops, in the widget that takes the focus.
   virtual QPoint MenuPlace() const;
   /// Runs a user's act; false when it was refused or the form has gone.
