@@ -28,14 +28,16 @@ QStringList FiltersOf(const FileQuestion& question) {
   return filters;
 }
 
-/// The name with the ending of the chosen type instead of another type's.
-QString WithEnding(const QString& name, const FileQuestion& question, size_t chosen) {
-  const QFileInfo file(name);
-  const bool typed =
-      std::any_of(question.types.begin(), question.types.end(), [&](const FileType& type) {
-        return file.suffix().compare(type.ending, Qt::CaseInsensitive) == 0;
-      });
-  return (typed ? file.completeBaseName() : file.fileName()) + '.' + question.types[chosen].ending;
+/// The path, or name alone, with the ending of the chosen type instead of another type's.
+QString WithEnding(const QString& path, const FileQuestion& question, size_t chosen) {
+  const QString suffix = QFileInfo(path).suffix();
+  const auto typed = [&](const FileType& type) {
+    return suffix.compare(type.ending, Qt::CaseInsensitive) == 0;
+  };
+  const FileType& wanted = question.types[chosen];
+  if (typed(wanted)) return path;
+  const bool other = std::any_of(question.types.begin(), question.types.end(), typed);
+  return (other ? path.chopped(suffix.size() + 1) : path) + '.' + wanted.ending;
 }
 
 }  // namespace
@@ -61,11 +63,23 @@ FileAnswer AskSaveFile(QWidget& owner, const FileQuestion& question, bool tradit
   });
   Caption(dialog, TextsOf(traditional ? 1 : 0));
   Dress(dialog, traditional);
-  const bool accepted = dialog.exec() == QDialog::Accepted;
+  QString path;
+  while (path.isEmpty() && dialog.exec() == QDialog::Accepted) {
+    const QString given = dialog.selectedFiles().value(0);
+    if (given.isEmpty()) break;
+    const QString whole = WithEnding(given, question, chosen);
+    // A file that the dialog has not asked about: it comes again with that one's name.
+    const bool unasked = whole != given && QFileInfo::exists(whole);
+    if (unasked) {
+      choose(given);
+    } else {
+      path = whole;
+    }
+  }
   owner.activateWindow();
-  if (!accepted || dialog.selectedFiles().isEmpty()) return {};
-  folder = dialog.directory().absolutePath();
-  return {dialog.selectedFiles().first(), chosen};
+  if (path.isEmpty()) return {};
+  folder = QFileInfo(path).absolutePath();
+  return {path, chosen};
 }
 
 }  // namespace qvzj::qt

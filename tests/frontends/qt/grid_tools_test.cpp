@@ -21,6 +21,7 @@
 #include "frontends/qt/native_texts.h"
 #include "suite/export/suite_exporter.h"
 #include "tests/frontends/qt/window_world.h"
+#include "tests/support/temporary_folder.h"
 
 namespace qvzj::test {
 namespace {
@@ -243,6 +244,49 @@ TEST(AskFile, ProposesANameOfTheChosenType) {
   });
   qt::AskSaveFile(owner, {"t", "No. 1.5", {{"Book", "xlsx"}, {"List", "csv"}}}, false);
   EXPECT_EQ(names, (QStringList{"No. 1.5.xlsx", "No. 1.5.xlsx", "No. 1.5.csv"}));
+}
+
+/// Types a name into the question for a file that is open, and saves.
+void SaveAs(const QString& path) {
+  auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+  ASSERT_NE(dialog, nullptr);
+  dialog->findChild<QLineEdit*>()->setText(path);
+  QMetaObject::invokeMethod(dialog, "accept");
+}
+
+TEST(AskFile, GivesWhateverIsTypedTheEndingOfItsType) {
+  const TemporaryFolder folder;
+  const QString place = QString::fromStdString(folder.Path().string()) + "/";
+  for (const QString typed : {"list", "list.csv", "list.xlsx"}) {
+    QWidget owner;
+    QTimer::singleShot(50, [&] { SaveAs(place + typed); });
+    const qt::FileQuestion question{"t", "n", {{"Book", "xlsx"}, {"List", "csv"}}};
+    EXPECT_EQ(qt::AskSaveFile(owner, question, false).path, place + "list.xlsx")
+        << typed.toStdString();
+  }
+  QWidget owner;
+  QTimer::singleShot(50, [&] { SaveAs(place + "No. 1.5"); });
+  EXPECT_EQ(qt::AskSaveFile(owner, {"t", "n", {{"Book", "xlsx"}}}, false).path,
+            place + "No. 1.5.xlsx");
+}
+
+TEST(AskFile, ComesAgainWithTheNameOfTheFileThatItWouldReplace) {
+  const TemporaryFolder folder;
+  const QString place = QString::fromStdString(folder.Path().string()) + "/";
+  QFile there(place + "list.xlsx");
+  ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+  QWidget owner;
+  QString proposed;
+  QTimer::singleShot(50, [&] { SaveAs(place + "list.csv"); });
+  QTimer::singleShot(400, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    proposed = dialog->selectedFiles().value(0);
+    dialog->reject();
+  });
+  const qt::FileQuestion question{"t", "n", {{"Book", "xlsx"}, {"List", "csv"}}};
+  EXPECT_EQ(qt::AskSaveFile(owner, question, false).path, "");
+  EXPECT_EQ(proposed, place + "list.xlsx");
 }
 
 TEST_F(Tools, SayWhyAnExportFailed) {
