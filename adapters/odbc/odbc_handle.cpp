@@ -16,6 +16,7 @@ SQLWCHAR* Wide(char16_t* text) { return reinterpret_cast<SQLWCHAR*>(text); }
 /// The driver's records one after another, with line ends taken out.
 OdbcError ErrorOf(SQLSMALLINT type, SQLHANDLE handle) {
   std::string first_state = "HY000";
+  int first_native = 0;
   std::string said;
   for (SQLSMALLINT record = 1;; ++record) {
     std::array<char16_t, 6> state{};
@@ -32,10 +33,12 @@ OdbcError ErrorOf(SQLSMALLINT type, SQLHANDLE handle) {
     while (!piece.empty() && piece.back() == ' ') piece.pop_back();
     if (!said.empty()) said += "; ";
     said += piece;
-    if (record == 1) ToUtf8({state.data(), 5}, first_state);
+    if (record > 1) continue;
+    ToUtf8({state.data(), 5}, first_state);
+    first_native = native;
   }
   if (said.empty()) said = "The database driver reported a failure without a text";
-  return {first_state, said};
+  return {first_state, first_native, said};
 }
 
 }  // namespace
@@ -43,6 +46,15 @@ OdbcError ErrorOf(SQLSMALLINT type, SQLHANDLE handle) {
 bool OdbcError::ConnectionLost() const {
   const std::string_view kind = std::string_view(state_).substr(0, 2);
   return kind == "08" || state_ == "57P01" || state_ == "57P02" || state_ == "57P03";
+}
+
+std::optional<data::Rule> OdbcError::BrokenRule() const {
+  if (!state_.starts_with("23")) return std::nullopt;
+  // PostgreSQL has a state for each rule; servers of the other protocol one state and numbers.
+  if (state_ == "23505" || native_ == 2601 || native_ == 2627) return data::Rule::Unique;
+  if (state_ == "23503" || native_ == 547) return data::Rule::Reference;
+  if (state_ == "23502" || native_ == 515) return data::Rule::NotNull;
+  return data::Rule::Other;
 }
 
 template <SQLSMALLINT kType>

@@ -3,25 +3,30 @@
 #include <sql.h>
 #include <sqlext.h>
 
+#include <optional>
 #include <string>
 #include <utility>
 
-#include "platform/basic/errors.h"
+#include "platform/data/errors.h"
 
 /// Thin owners of ODBC handles. Every call's failure becomes an OdbcError.
 namespace qvzj {
 
-/// What the driver said, with the five characters of the SQLSTATE of its first record.
+/// What the driver said, with the five characters of the SQLSTATE of its first record and the
+/// server's own number for it.
 class OdbcError : public DataError {
  public:
-  OdbcError(std::string state, const std::string& text)
-      : DataError(text + " (SQLSTATE " + state + ")"), state_(std::move(state)) {}
+  OdbcError(std::string state, int native, const std::string& text)
+      : DataError(text + " (SQLSTATE " + state + ")"), state_(std::move(state)), native_(native) {}
   const std::string& State() const { return state_; }
   /// True when the state alone says that the connection is gone.
   bool ConnectionLost() const;
+  /// The rule of a table that a row would have broken; nothing when that is not what failed.
+  std::optional<data::Rule> BrokenRule() const;
 
  private:
   std::string state_;
+  int native_;
 };
 
 /// One handle of the driver manager, freed with the object.

@@ -71,10 +71,10 @@ SQL_DATE_STRUCT DateOf(basic::Date date) {
 }  // namespace
 
 OdbcRowWriter::OdbcRowWriter(const OdbcConnection& connection, std::string_view table,
-                             const std::vector<std::string_view>& columns, Cleaner cleaner)
+                             const std::vector<std::string_view>& columns, Refusal refuse)
     : table_(table),
       names_(columns.begin(), columns.end()),
-      cleaner_(std::move(cleaner)),
+      refuse_(std::move(refuse)),
       statement_(connection.Get()),
       columns_(
           Describe(connection, "select " + Joined(columns) + " from " + table_ + " where 1=0")),
@@ -147,7 +147,7 @@ void OdbcRowWriter::Flush() {
     BindAll();
     statement_.Check(SQLExecute(statement_.Get()));
   } catch (const OdbcError& error) {
-    throw cleaner_(error);
+    refuse_(error);
   }
   values_.clear();
   texts_.clear();

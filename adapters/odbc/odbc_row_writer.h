@@ -15,12 +15,12 @@ namespace qvzj {
 /// a row with one that does not fit is refused before the server sees it.
 class OdbcRowWriter : public data::RowWriter {
  public:
-  /// Makes of an error one that may be shown.
-  using Cleaner = std::function<DataError(const DataError&)>;
+  /// Throws of an error one that may be shown.
+  using Refusal = std::function<void(const OdbcError&)>;
 
   /// Throws OdbcError when the table or a column is missing. The connection must outlive it.
   OdbcRowWriter(const OdbcConnection& connection, std::string_view table,
-                const std::vector<std::string_view>& columns, Cleaner cleaner);
+                const std::vector<std::string_view>& columns, Refusal refuse);
   void AddRow(std::span<const data::Cell> cells) override;
   void Flush() override;
 
@@ -42,7 +42,7 @@ class OdbcRowWriter : public data::RowWriter {
 
   std::string table_;
   std::vector<std::string> names_;
-  Cleaner cleaner_;
+  Refusal refuse_;
   OdbcStatement statement_;
   std::vector<OdbcColumn> columns_;
   size_t batch_rows_;

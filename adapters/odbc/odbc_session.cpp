@@ -74,9 +74,9 @@ void OdbcSession::Connect() {
     connection_ =
         std::make_unique<OdbcConnection>(options_.connection_string, options_.login_timeout);
     Prepare();
-  } catch (const DataError& error) {
+  } catch (const OdbcError& error) {
     connection_.reset();
-    throw WithoutSecrets(error);
+    Refuse(error);
   }
 }
 
@@ -127,18 +127,18 @@ data::Recordset OdbcSession::Run(const std::string& sql) {
   try {
     return RunOnce(sql);
   } catch (const OdbcError& error) {
-    if (!MayReconnectAfter(error)) throw WithoutSecrets(error);
+    if (!MayReconnectAfter(error)) Refuse(error);
     connection_.reset();
     if (!IsRead(sql)) {
       throw DataError(std::string(kOutcomeUnknown[Language()]) + "\n" +
-                      WithoutSecrets(error).what());
+                      WithoutSecrets(error.what()));
     }
   }
   Connect();
   try {
     return RunOnce(sql);
   } catch (const OdbcError& error) {
-    throw WithoutSecrets(error);
+    Refuse(error);
   }
 }
 
@@ -167,7 +167,7 @@ OdbcSchema::Columns OdbcSession::DescribeTable(const std::string& table) {
   } catch (const OdbcError& error) {
     const bool no_such_table = error.State() == "42P01" || error.State() == "42S02";
     if (no_such_table) return {};
-    if (!MayReconnectAfter(error)) throw WithoutSecrets(error);
+    if (!MayReconnectAfter(error)) Refuse(error);
     connection_.reset();
     Connect();
     return DescribeTable(table);
@@ -183,11 +183,11 @@ data::Engine OdbcSession::Speaks() const {
 std::unique_ptr<data::RowWriter> OdbcSession::Writer(std::string_view table,
                                                      const std::vector<std::string_view>& columns) {
   if (!connection_) Connect();
-  const auto without_secrets = [this](const DataError& error) { return WithoutSecrets(error); };
+  const auto refuse = [this](const OdbcError& error) { Refuse(error); };
   try {
-    return std::make_unique<OdbcRowWriter>(*connection_, table, columns, without_secrets);
+    return std::make_unique<OdbcRowWriter>(*connection_, table, columns, refuse);
   } catch (const OdbcError& error) {
-    throw WithoutSecrets(error);
+    Refuse(error);
   }
 }
 
@@ -203,8 +203,8 @@ void OdbcSession::Commit() {
     connection_->EndTransaction(SQL_COMMIT);
     connection_->SetAutocommit(true);
   } catch (const OdbcError& error) {
-    if (!error.ConnectionLost() && !connection_->Dead()) throw WithoutSecrets(error);
-    throw DataError(std::string(kOutcomeUnknown[Language()]) + "\n" + WithoutSecrets(error).what());
+    if (!error.ConnectionLost() && !connection_->Dead()) Refuse(error);
+    throw DataError(std::string(kOutcomeUnknown[Language()]) + "\n" + WithoutSecrets(error.what()));
   }
   in_transaction_ = false;
 }
@@ -242,12 +242,17 @@ void OdbcSession::GiveIdsAbove(const std::string& table, int64_t id) {
   Native("select setval('" + generator + "'," + std::to_string(id) + ")");
 }
 
-DataError OdbcSession::WithoutSecrets(const DataError& error) const {
-  std::string text = error.what();
+std::string OdbcSession::WithoutSecrets(std::string text) const {
   for (const std::string& secret : options_.secrets) {
     HideWord(text, secret);
   }
-  return DataError(text);
+  return text;
+}
+
+void OdbcSession::Refuse(const OdbcError& error) const {
+  const std::string said = WithoutSecrets(error.what());
+  if (const auto rule = error.BrokenRule()) throw data::ConstraintError(*rule, said);
+  throw DataError(said);
 }
 
 }  // namespace qvzj

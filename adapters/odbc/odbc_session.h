@@ -78,7 +78,9 @@ class OdbcSession : public data::Store {
   std::string IdGenerator(const std::string& table);
   /// True when a statement that failed so may be run once more on a new connection.
   bool MayReconnectAfter(const OdbcError& error) const;
-  DataError WithoutSecrets(const DataError& error) const;
+  std::string WithoutSecrets(std::string text) const;
+  /// Throws what the driver said without its secrets: ConstraintError for a broken rule of a table.
+  [[noreturn]] void Refuse(const OdbcError& error) const;
   int Language() const { return options_.language && options_.language() == 1 ? 1 : 0; }
 
   OdbcOptions options_;

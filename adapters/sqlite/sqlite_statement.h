@@ -13,7 +13,7 @@ struct sqlite3_stmt;
 
 namespace qvzj {
 
-/// Throws DataError with what the engine said last.
+/// Throws DataError with what the engine said last, data::ConstraintError when a row broke a rule.
 [[noreturn]] void ThrowSqlite(sqlite3* database);
 
 /// One prepared statement in SQLite's own language, with bound values for bulk work. Parameters

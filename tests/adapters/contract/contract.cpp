@@ -1,7 +1,7 @@
 #include "tests/adapters/contract/contract.h"
 
-#include "platform/basic/errors.h"
 #include "platform/basic/text.h"
+#include "platform/data/errors.h"
 
 namespace qvzj::test {
 
@@ -314,6 +314,24 @@ TEST_P(SessionContract, SaysWhichTableIsMissingAndGoesOnWorking) {
     EXPECT_NE(text.find("tnosuchtable"), std::string::npos) << text;
   }
   EXPECT_EQ(Column("select count(*) from cards"), "0");
+}
+
+TEST_P(SessionContract, TellsARowThatIsThereAlreadyFromEveryOtherRefusal) {
+  Do("Insert Into tAccountDetail (fID,fAcntNo) Values (7,'A1')");
+  try {
+    Do("Insert Into tAccountDetail (fID,fAcntNo) Values (7,'A2')");
+    FAIL() << "two rows with one id";
+  } catch (const data::ConstraintError& error) {
+    EXPECT_EQ(error.Broken(), data::Rule::Unique) << error.what();
+  }
+  try {
+    Do("Insert Into tNoSuchTable (fID) Values (7)");
+    FAIL() << "a missing table went unnoticed";
+  } catch (const data::ConstraintError& error) {
+    FAIL() << error.what();
+  } catch (const DataError&) {
+  }
+  EXPECT_EQ(Column("select fAcntNo from tAccountDetail"), "A1");
 }
 
 TEST_P(SessionContract, RefusesABrokenStatementAndGoesOnWorking) {

@@ -1,6 +1,7 @@
 #include "platform/data/store.h"
 
-#include "platform/basic/errors.h"
+#include "adapters/odbc/odbc_handle.h"
+#include "platform/data/errors.h"
 #include "tests/adapters/odbc/server.h"
 
 namespace qvzj {
@@ -92,10 +93,43 @@ TEST_F(OdbcStore, LeavesNothingBehindWhenTheServerRefusesOneOfManyRows) {
     rows.Add({int64_t{5}});
     transaction.Commit();
     FAIL() << "an id was taken twice";
-  } catch (const DataError& error) {
+  } catch (const data::ConstraintError& error) {
+    EXPECT_EQ(error.Broken(), data::Rule::Unique);
     EXPECT_NE(std::string(error.what()).find("23505"), std::string::npos) << error.what();
   }
   EXPECT_EQ(One("select count(*) from cards"), "0");
+}
+
+TEST_F(OdbcStore, SaysWhichRuleOfATableARowWouldBreak) {
+  Server().RunAll(database_, {"create table p(id int primary key)",
+                              "create table t(u text unique, n text not null, c int check(c>0), "
+                              "f int references p(id))",
+                              "insert into t(u,n) values('a','b')"});
+  const auto broken = [this](const char* values) {
+    try {
+      store_->Native("insert into t(u,n,c,f) values" + std::string(values));
+    } catch (const data::ConstraintError& error) {
+      return error.Broken();
+    }
+    throw std::logic_error("nothing was broken");
+  };
+  EXPECT_EQ(broken("('a','b',1,null)"), data::Rule::Unique);
+  EXPECT_EQ(broken("('c',null,1,null)"), data::Rule::NotNull);
+  EXPECT_EQ(broken("('c','b',0,null)"), data::Rule::Other);
+  EXPECT_EQ(broken("('c','b',1,9)"), data::Rule::Reference);
+}
+
+TEST(OdbcErrors, TellTheRulesOfEveryServer) {
+  const auto broken = [](const char* state, int native) {
+    return OdbcError(state, native, "").BrokenRule();
+  };
+  EXPECT_EQ(broken("23505", 1), data::Rule::Unique);
+  EXPECT_EQ(broken("23000", 2601), data::Rule::Unique);
+  EXPECT_EQ(broken("23000", 2627), data::Rule::Unique);
+  EXPECT_EQ(broken("23000", 547), data::Rule::Reference);
+  EXPECT_EQ(broken("23000", 515), data::Rule::NotNull);
+  EXPECT_EQ(broken("23P01", 1), data::Rule::Other);
+  EXPECT_EQ(broken("42P01", 2627), std::nullopt);
 }
 
 TEST_F(OdbcStore, WorksOnAfterALostTransaction) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "adapters/sqlite/sqlite_session.h"
+#include "platform/data/errors.h"
 
 namespace qvzj {
 namespace {
@@ -17,6 +18,28 @@ TEST(SqliteStatement, BindsAnEmptyTextAsAnEmptyTextAndNotAsNull) {
   ASSERT_TRUE(statement.Step());
   EXPECT_EQ(statement.Text(0), "text");
   EXPECT_EQ(statement.Text(1), "text");
+}
+
+TEST(SqliteStatement, SaysWhichRuleOfATableARowWouldBreak) {
+  SqliteOptions options;
+  options.create = true;
+  const auto session = OpenSqlite(":memory:", options);
+  session->NativeScript(
+      "pragma foreign_keys=on; create table p(id integer primary key);"
+      "create table t(u text unique, n text not null, c int check(c>0), f int references p(id))");
+  session->NativeScript("insert into t(u,n) values('a','b')");
+  const auto broken = [&session](const char* values) {
+    try {
+      session->NativeScript("insert into t(u,n,c,f) values" + std::string(values));
+    } catch (const data::ConstraintError& error) {
+      return error.Broken();
+    }
+    throw std::logic_error("nothing was broken");
+  };
+  EXPECT_EQ(broken("('a','b',1,null)"), data::Rule::Unique);
+  EXPECT_EQ(broken("('c',null,1,null)"), data::Rule::NotNull);
+  EXPECT_EQ(broken("('c','b',0,null)"), data::Rule::Other);
+  EXPECT_EQ(broken("('c','b',1,9)"), data::Rule::Reference);
 }
 
 }  // namespace
