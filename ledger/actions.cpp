@@ -3,7 +3,6 @@
 #include "ledger/entry.h"
 #include "platform/basic/number.h"
 #include "screen/frmZj.h"
-#include "services/connect.h"
 #include "services/context.h"
 #include "services/messages.h"
 #include "services/query.h"
@@ -60,29 +59,38 @@ EntryTexts CounterEntry(const frmZj& form) {
   return counter;
 }
 
-/// An account chosen only now, with the check, becomes the entry's own: unchecking would not know
-/// of the counter-entry otherwise. Runs first, so that no counter-entry is ever without the link.
-void StoreChosenLink(const frmZj& form) {
+// The account is chosen only now, with the check, and not the entry's own yet?
+bool LinkIsNew(const frmZj& form) {
   constexpr auto kLink = static_cast<size_t>(EntryColumn::ID2);
-  const std::string& id = form.cboAcntName.Tag();
-  if (!form.entryShown.empty() && form.entryShown[kLink] == id) return;
-  Data().Execute("Update tAccountDetail Set fID2=" + id + " Where fID=" + form.chkAcntInit.Tag());
+  return form.entryShown.empty() || form.entryShown[kLink] != form.cboAcntName.Tag();
+}
+
+std::string LinkStatement(const frmZj& form) {
+  return "Update tAccountDetail Set fID2=" + form.cboAcntName.Tag() +
+         " Where fID=" + form.chkAcntInit.Tag();
+}
+
+// An account chosen with the check becomes the entry's own: unchecking would not know of the
+// counter-entry otherwise. That runs first, so that no counter-entry is ever without the link.
+Commit CheckWithCounterEntry(const frmZj& form, const std::string& check) {
+  Commit commit{{}, kColon, true};
+  if (LinkIsNew(form)) commit.statements.push_back(LinkStatement(form));
+  commit.statements.push_back(check);
+  commit.statements.push_back(InsertStatement(CounterEntry(form)));
+  return commit;
 }
 
 std::optional<Commit> PrepareChecking(frmZj& form) {
   if (!NoQuote(Shared().UserName)) return std::nullopt;
   const std::string check = CheckerStatement(form, Shared().UserName);
   const bool linked = form.mode == kCustomers && Value(form.cboAcntName.Tag()) != 0;
-  if (!linked) return Commit{check, kColon};
+  if (!linked) return Commit{{check}, kColon};
   if (Value(form.txtAcnt2(4).Text()) == 0) {
     Message("本帐目凭证未有“实收/实付”金额，无须关联帐户的进出帐操作！", box::kInformation);
-    return Commit{check, kColon};
+    return Commit{{check}, kColon};
   }
   if (!EntryTextsFit(form) || !NoQuote(form.txtAcnt2(2).Text())) return std::nullopt;
-  const std::string insert = InsertStatement(CounterEntry(form));
-  StoreChosenLink(form);
-  Data().Execute(check);
-  return Commit{insert, kColon, true};
+  return CheckWithCounterEntry(form, check);
 }
 
 bool CounterEntryChecked(const std::string& id) {
@@ -95,7 +103,7 @@ std::optional<Commit> PrepareUnchecking(frmZj& form) {
   }
   const std::string uncheck = CheckerStatement(form, "");
   const bool linked = form.mode == kCustomers && Value(form.cboAcntName.Tag()) > 0;
-  if (!linked) return Commit{uncheck, kColon};
+  if (!linked) return Commit{{uncheck}, kColon};
   const std::string& id = form.chkAcntInit.Tag();
   const std::string& link = form.chkAcntName.Caption();
   if (CounterEntryChecked(id)) {
@@ -110,8 +118,7 @@ std::optional<Commit> PrepareUnchecking(frmZj& form) {
       !Confirm("注意：系统将删除关联的" + link + "凭证，确定？", box::kQuestionOkCancel)) {
     return std::nullopt;
   }
-  Data().Execute(uncheck);
-  return Commit{"Delete from tAccountDetail Where fType1=1 and fID2=" + id, kColon};
+  return Commit{{uncheck, "Delete from tAccountDetail Where fType1=1 and fID2=" + id}, kColon};
 }
 
 }  // namespace
@@ -137,7 +144,7 @@ std::optional<Commit> PrepareDelete(frmZj& form) {
                box::kQuestionOkCancel)) {
     return std::nullopt;
   }
-  return Commit{"Delete from tAccountDetail Where fID=" + form.chkAcntInit.Tag(), kColon};
+  return Commit{{"Delete from tAccountDetail Where fID=" + form.chkAcntInit.Tag()}, kColon};
 }
 
 std::optional<Commit> PrepareCheck(frmZj& form) {

@@ -64,12 +64,12 @@ bool CheckFields(frmZj& form) {
 
 std::optional<Commit> PrepareNew(frmZj& form) {
   if (!CheckFields(form)) return std::nullopt;
-  return Commit{InsertStatement(EntryInEditor(form)), ":"};
+  return Commit{{InsertStatement(EntryInEditor(form))}, ":"};
 }
 
 std::optional<Commit> PrepareChange(frmZj& form) {
   if (!CheckFields(form)) return std::nullopt;
-  return Commit{UpdateStatement(form, EntryToWrite(form), form.chkAcntInit.Tag()), ":"};
+  return Commit{{UpdateStatement(form, EntryToWrite(form), form.chkAcntInit.Tag())}, ":"};
 }
 
 std::optional<Commit> Prepare(frmZj& form, int action) {
@@ -119,7 +119,7 @@ void SaveEntry(frmZj& form) {
   if (action == kActionView) return;
   const std::optional<Commit> commit = Prepare(form, action);
   if (!commit) return;
-  Data().Execute(commit->statement);
+  for (const std::string& statement : commit->statements) Data().Execute(statement);
   Report(form, *commit);
   LoadLedger(form, LedgerCondition(form));
   if (action == kActionNew) {
