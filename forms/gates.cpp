@@ -2,6 +2,7 @@
 
 #include "platform/basic/number.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "services/context.h"
 #include "services/gate.h"
 #include "services/query.h"
@@ -25,7 +26,7 @@ void Ask(ui::Control& control, const std::string& function) {
 void EnableAll(frmZj& form) {
   form.cmdManage.SetEnabled(true);
   form.mnuKh.SetEnabled(true);
-  form.mnuKhManage(1).SetEnabled(true);
+  form.mnuKhManage(RecordAction::Add).SetEnabled(true);
   form.mnuKhContact.SetEnabled(true);
   form.cmdKhPrint.SetEnabled(true);
 }
@@ -37,7 +38,7 @@ void ApplyGates(frmZj& form) {
   if (Shared().UserName == Shared().ZgName) return;
   Ask(form.cmdManage, form.mode == kCustomers ? "mnuZjComp" : "mnuZjAcnt");
   form.mnuKh.SetEnabled(form.cmdManage.Enabled());  // the button's menu has no other way in
-  if (form.mode == kCustomers) Ask(form.mnuKhManage(1), CardAddingFunction());
+  if (form.mode == kCustomers) Ask(form.mnuKhManage(RecordAction::Add), CardAddingFunction());
   Ask(form.mnuKhContact, "mnuCardPlan");
   Ask(form.cmdKhPrint, "mnuCardPrint");
 }

@@ -18,6 +18,7 @@
 #include "register/search.h"
 #include "screen/design.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "screen/layout.h"
 #include "services/connect.h"
 #include "services/context.h"
@@ -27,23 +28,13 @@
 namespace qvzj {
 namespace {
 
-// Whatever stopped half-way, the form is workable again.
-void ShowFormAgain(frmZj& form) {
-  form.SetMousePointer(ui::MousePointer::Default);
-  form.Grid1.SetVisible(true);
-  form.Grid2.SetVisible(true);
-}
-
 void CloseForm(frmZj& form) {
   CloseData();
   Around().presenter->Closed(form);
 }
 
 void ConnectForm(frmZj& form) {
-  form.onError = [&form](const std::string& text) {
-    ShowFormAgain(form);
-    Around().boxes->Error(text, Shared().Title);
-  };
+  form.onError = [](const std::string& text) { Around().boxes->Error(text, Shared().Title); };
   form.onResize = [&form] { LayoutForm(form); };
   form.onUnload = [&form] { CloseForm(form); };
   form.readClipboard = [] { return Around().clipboard->Text(); };
@@ -82,19 +73,18 @@ void NameAllFields(frmZj& form) {
   form.txtSeekMsg.SetAccessibleName(form.fraKhType.AccessibleName());
   form.txtBrief.SetAccessibleName(form.chkBrief.AccessibleName());
   form.cboKhOrder.SetAccessibleName(form.lblKhOrder.AccessibleName());
-  form.dtpAcntDate.SetAccessibleName(form.lblAcnt2(0).AccessibleName());
-  form.cboDoneMan.SetAccessibleName(form.lblAcnt2(10).AccessibleName());
+  form.dtpAcntDate.SetAccessibleName(form.lblAcnt2(EntryBox::Date).AccessibleName());
+  form.cboDoneMan.SetAccessibleName(form.lblAcnt2(EntryBox::Doneman).AccessibleName());
   form.cboHb.SetAccessibleName(form.lblHb.AccessibleName());
   form.cboHb2.SetAccessibleName(form.lblHb2.AccessibleName());
   form.txtHbRate.SetAccessibleName(form.lblHbRate.AccessibleName());
   form.cboAcntName.SetAccessibleName(form.chkAcntName.AccessibleName());
   form.txtKhMemo.SetAccessibleName(form.lblKhMemo.AccessibleName());
-  form.Grid1.SetAccessibleName(form.SSTab1.TabCaption(0));
-  form.Grid2.SetAccessibleName(form.SSTab2.TabCaption(0));
+  form.Grid1.SetAccessibleName(form.SSTab1.TabCaption(RegisterTab::List));
+  form.Grid2.SetAccessibleName(form.SSTab2.TabCaption(LedgerTab::Both));
 }
 
 void CaptionForm(frmZj& form) {
-  DesignCaptions(form, Shared().Language);
   SetCaptions(form);
   NameAllFields(form);
   form.fraKhType.SetVisible(form.mode == kCustomers);
@@ -163,12 +153,7 @@ void StartUp(frmZj& form) {
 
 void LoadForm(frmZj& form) {
   if (form.Loaded()) return;
-  try {
-    StartUp(form);
-  } catch (...) {
-    ShowFormAgain(form);
-    throw;
-  }
+  StartUp(form);
   form.SetLoaded(true);
 }
 

@@ -2,7 +2,9 @@
 
 #include "ledger/entry.h"
 #include "platform/basic/number.h"
+#include "screen/current.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "services/context.h"
 #include "services/messages.h"
 #include "services/query.h"
@@ -21,17 +23,17 @@ bool Confirm(const std::string& question, int style) {
 
 double Value(const std::string& text) { return basic::Val(text); }
 
-/// Does the shown entry hang on a warehouse document? Customer entries without an amount due do
-/// not.
+// Does the shown entry hang on a warehouse document? Customer entries without an amount due do
+// not.
 bool HasDocument(const frmZj& form) {
-  if (form.txtAcnt2(7).Text().empty()) return false;
+  if (form.txtAcnt2(EntryBox::InvID).Text().empty()) return false;
   const bool customer_entry = form.mode == kCustomers || form.mode == 9;
-  return !customer_entry || Value(form.txtAcnt2(3).Text()) != 0;
+  return !customer_entry || Value(form.txtAcnt2(EntryBox::MoneyA).Text()) != 0;
 }
 
 bool DocumentChecked(const frmZj& form) {
   const std::string condition =
-      "fInvNo=" + Quoted(form.txtAcnt2(7).Text()) +
+      "fInvNo=" + Quoted(form.txtAcnt2(EntryBox::InvID).Text()) +
       (Shared().SQLData != 0 ? " And (not fInvSHR is null) And fInvSHR<>''"
                              : " And '' & fInvSHR<>''");
   return CountRows("tJXC_CkDj01", condition) > 0 || CountRows("tJXC_CkDj_Bak01", condition) > 0;
@@ -39,22 +41,24 @@ bool DocumentChecked(const frmZj& form) {
 
 std::string CheckerStatement(const frmZj& form, const std::string& checker) {
   return "Update tAccountDetail Set fChecker=" + Quoted(checker) +
-         " Where fID=" + form.chkAcntInit.Tag();
+         " Where fID=" + ShownEntryId(form);
 }
 
-/// The money account's side of the shown customer entry: the amount received or paid.
+// The money account's side of the shown customer entry: the amount received or paid.
 EntryTexts CounterEntry(const frmZj& form) {
   using enum EntryColumn;
   const EntryTexts exact = EntryToWrite(form);
   EntryTexts counter = EntryInEditor(form);
-  const auto room = static_cast<int16_t>(form.txtAcnt2(6).MaxLength() - kCounterMarkBytes);
-  counter[CompID] = form.cboAcntName.Tag();
+  const auto room =
+      static_cast<int16_t>(form.txtAcnt2(EntryBox::Brief).MaxLength() - kCounterMarkBytes);
+  counter[CompID] = LinkedAccountId(form);
   counter[Type1] = "1";
   counter[Init] = "0";
   counter[MoneyA] = "0";
   counter[MoneyB] = exact[MoneyB];
-  counter[Brief] = Quoted(kCounterMark + FitLength(form.txtAcnt2(2).Text(), room, ""));
-  counter[ID2] = form.chkAcntInit.Tag();
+  counter[Brief] =
+      Quoted(kCounterMark + FitLength(form.txtAcnt2(EntryBox::Record).Text(), room, ""));
+  counter[ID2] = ShownEntryId(form);
   counter[MoneyRate] = exact[MoneyRate];
   return counter;
 }
@@ -62,12 +66,12 @@ EntryTexts CounterEntry(const frmZj& form) {
 // The account is chosen only now, with the check, and not the entry's own yet?
 bool LinkIsNew(const frmZj& form) {
   constexpr auto kLink = static_cast<size_t>(EntryColumn::ID2);
-  return form.entryShown.empty() || form.entryShown[kLink] != form.cboAcntName.Tag();
+  return form.entryShown.empty() || form.entryShown[kLink] != LinkedAccountId(form);
 }
 
 std::string LinkStatement(const frmZj& form) {
-  return "Update tAccountDetail Set fID2=" + form.cboAcntName.Tag() +
-         " Where fID=" + form.chkAcntInit.Tag();
+  return "Update tAccountDetail Set fID2=" + LinkedAccountId(form) +
+         " Where fID=" + ShownEntryId(form);
 }
 
 // An account chosen with the check becomes the entry's own: unchecking would not know of the
@@ -83,13 +87,13 @@ Commit CheckWithCounterEntry(const frmZj& form, const std::string& check) {
 std::optional<Commit> PrepareChecking(frmZj& form) {
   if (!NoQuote(Shared().UserName)) return std::nullopt;
   const std::string check = CheckerStatement(form, Shared().UserName);
-  const bool linked = form.mode == kCustomers && Value(form.cboAcntName.Tag()) != 0;
+  const bool linked = form.mode == kCustomers && Value(LinkedAccountId(form)) != 0;
   if (!linked) return Commit{{check}, kColon};
-  if (Value(form.txtAcnt2(4).Text()) == 0) {
+  if (Value(form.txtAcnt2(EntryBox::MoneyB).Text()) == 0) {
     Message("本帐目凭证未有“实收/实付”金额，无须关联帐户的进出帐操作！", box::kInformation);
     return Commit{{check}, kColon};
   }
-  if (!EntryTextsFit(form) || !NoQuote(form.txtAcnt2(2).Text())) return std::nullopt;
+  if (!EntryTextsFit(form) || !NoQuote(form.txtAcnt2(EntryBox::Record).Text())) return std::nullopt;
   return CheckWithCounterEntry(form, check);
 }
 
@@ -102,9 +106,9 @@ std::optional<Commit> PrepareUnchecking(frmZj& form) {
     return std::nullopt;
   }
   const std::string uncheck = CheckerStatement(form, "");
-  const bool linked = form.mode == kCustomers && Value(form.cboAcntName.Tag()) > 0;
+  const bool linked = form.mode == kCustomers && Value(LinkedAccountId(form)) > 0;
   if (!linked) return Commit{{uncheck}, kColon};
-  const std::string& id = form.chkAcntInit.Tag();
+  const std::string& id = ShownEntryId(form);
   const std::string& link = form.chkAcntName.Caption();
   if (CounterEntryChecked(id)) {
     Message("该往来帐目的关联[" + link + "]也已经审核，必须先“反审核”关联帐户 !" + kTwoLines +
@@ -113,7 +117,7 @@ std::optional<Commit> PrepareUnchecking(frmZj& form) {
     return std::nullopt;
   }
   const bool has_counter_entry = form.chkAcntName.Ticked() && form.cboAcntName.ListIndex() >= 0 &&
-                                 Value(form.txtAcnt2(4).Text()) != 0;
+                                 Value(form.txtAcnt2(EntryBox::MoneyB).Text()) != 0;
   if (has_counter_entry &&
       !Confirm("注意：系统将删除关联的" + link + "凭证，确定？", box::kQuestionOkCancel)) {
     return std::nullopt;
@@ -124,7 +128,8 @@ std::optional<Commit> PrepareUnchecking(frmZj& form) {
 }  // namespace
 
 bool EntryTextsFit(const frmZj& form) {
-  for (int i : {1, 6, 7, 8, 9}) {
+  for (int i :
+       {EntryBox::Number, EntryBox::Brief, EntryBox::InvID, EntryBox::OrderID, EntryBox::User}) {
     if (!NoQuote(form.txtAcnt2(i).Text())) return false;
   }
   return NoQuote(form.cboDoneMan.Text()) && NoQuote(form.cboHb.Text()) &&
@@ -132,7 +137,7 @@ bool EntryTextsFit(const frmZj& form) {
 }
 
 std::optional<Commit> PrepareDelete(frmZj& form) {
-  const std::string& document = form.txtAcnt2(7).Text();
+  const std::string& document = form.txtAcnt2(EntryBox::InvID).Text();
   if (!NoQuote(document)) return std::nullopt;
   if (HasDocument(form) && DocumentChecked(form)) {
     Message("该相关单号（" + document + "）已经审核，不可删除。操作取消！" + kTwoLines +
@@ -140,11 +145,12 @@ std::optional<Commit> PrepareDelete(frmZj& form) {
             box::kExclamation);
     return std::nullopt;
   }
-  if (!Confirm("是否删除" + form.lblAcnt2(1).Caption() + "（" + form.txtAcnt2(1).Text() + "） ？",
+  if (!Confirm("是否删除" + form.lblAcnt2(EntryBox::Number).Caption() + "（" +
+                   form.txtAcnt2(EntryBox::Number).Text() + "） ？",
                box::kQuestionOkCancel)) {
     return std::nullopt;
   }
-  return Commit{{"Delete from tAccountDetail Where fID=" + form.chkAcntInit.Tag()}, kColon};
+  return Commit{{"Delete from tAccountDetail Where fID=" + ShownEntryId(form)}, kColon};
 }
 
 std::optional<Commit> PrepareCheck(frmZj& form) {

@@ -2,6 +2,8 @@
 
 #include "platform/basic/text.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
+#include "services/form_texts.h"
 #include "services/strings.h"
 #include "services/text_ids.h"
 
@@ -10,12 +12,12 @@ namespace {
 
 using namespace text_id;
 
-/// The noun that the mode's captions are made of: customer or account.
+// The noun that the mode's captions are made of: customer or account.
 std::string ModeWord(const frmZj& form) {
   return LoadText(form.mode == kCustomers ? kCustomer : kAccount);
 }
 
-/// "按[…]排序": order by what stands in the brackets.
+// "按[…]排序": order by what stands in the brackets.
 std::string OrderItem(const std::string& by) {
   return LoadText(kBy) + "[" + by + "]" + LoadText(kSort);
 }
@@ -25,13 +27,14 @@ void CaptionButtons(frmZj& form) {
   form.cmdKhSeek.SetCaption(LoadText(kSearch) + "(&S)");
   form.cmdKhMemo.SetCaption(LoadText(kDetail) + "(&M)");
   form.cmdKhPrint.SetCaption(LoadText(kPrint) + "(&P)");
-  form.cmdAction(0).SetCaption(entry + "查看(&V)");
-  form.cmdAction(1).SetCaption(entry + LoadText(kAdd) + "(&N)");
-  form.cmdAction(2).SetCaption(entry + LoadText(kChange) + "(&E)");
-  form.cmdAction(3).SetCaption(entry + LoadText(kDelete) + "(&D)");
-  form.cmdAction(4).SetCaption(entry + LoadText(kCheck) + "(&K)");
+  form.cmdAction(kActionView).SetCaption(entry + "查看(&V)");
+  form.cmdAction(kActionNew).SetCaption(entry + LoadText(kAdd) + "(&N)");
+  form.cmdAction(kActionChange).SetCaption(entry + LoadText(kChange) + "(&E)");
+  form.cmdAction(kActionDelete).SetCaption(entry + LoadText(kDelete) + "(&D)");
+  form.cmdAction(kActionCheck).SetCaption(entry + LoadText(kCheck) + "(&K)");
   form.cmdPrint.SetCaption(entry + LoadText(kPrint) + "(&P)");
   form.cmdAcntRefresh.SetCaption(LoadText(kRefresh) + "(&R)");
+  form.cmdTitleClose.SetCaption("×");
   form.cmdExit.SetCaption(LoadText(kExit) + ">>");
   form.cmdSave.SetCaption(LoadText(kSave) + "(&S)");
   form.cmdAcntSave.SetCaption(form.cmdSave.Caption());
@@ -43,87 +46,117 @@ void CaptionButtons(frmZj& form) {
 
 void CaptionAccountsMode(frmZj& form) {
   form.SetCaption(LoadText(kAccountsTitle));
-  form.SSTab2.SetTabCaption(0, LoadText(kAccountLedger));
-  form.SSTab2.SetTabCaption(1, LoadText(kIn));
-  form.SSTab2.SetTabCaption(2, LoadText(kOut));
-  form.lblTotal(0).SetCaption(LoadText(kOpening) + ":");
-  form.lblTotal(1).SetCaption(LoadText(kIn) + LoadText(kAmount) + ":");
-  form.lblTotal(4).SetCaption(LoadText(kOut) + LoadText(kAmount) + ":");
-  form.lblTotal(5).SetCaption(LoadText(kAccount) + LoadText(kBalance) + ":");
-  form.lblAcnt2(3).SetCaption(LoadText(kOpening));
+  form.SSTab2.SetTabCaption(LedgerTab::Both, LoadText(kAccountLedger));
+  form.SSTab2.SetTabCaption(LedgerTab::In, LoadText(kIn));
+  form.SSTab2.SetTabCaption(LedgerTab::Out, LoadText(kOut));
+  form.lblTotal(TotalBox::MoneyAIn).SetCaption(LoadText(kOpening) + ":");
+  form.lblTotal(TotalBox::MoneyBIn).SetCaption(LoadText(kIn) + LoadText(kAmount) + ":");
+  form.lblTotal(TotalBox::MoneyBOut).SetCaption(LoadText(kOut) + LoadText(kAmount) + ":");
+  form.lblTotal(TotalBox::Balance).SetCaption(LoadText(kAccount) + LoadText(kBalance) + ":");
 }
 
 void CaptionCustomersMode(frmZj& form) {
   form.SetCaption(LoadText(kCustomersTitle));
-  form.SSTab1.SetTabCaption(2, LoadText(kSearchPage));
-  form.SSTab2.SetTabCaption(0, LoadText(kCustomerLedger));
-  form.SSTab2.SetTabCaption(1, LoadText(kReceivable) + "/" + LoadText(kReceived));
-  form.SSTab2.SetTabCaption(2, LoadText(kPayable) + "/" + LoadText(kPaid));
-  form.lblTotal(0).SetCaption(LoadText(kReceivable) + LoadText(kAmount) + ":");
-  form.lblTotal(1).SetCaption(LoadText(kReceived) + LoadText(kAmount) + ":");
-  form.lblTotal(2).SetCaption(LoadText(kReceivable) + LoadText(kBalance) + ":");
-  form.lblTotal(3).SetCaption(LoadText(kPayable) + LoadText(kAmount) + ":");
-  form.lblTotal(4).SetCaption(LoadText(kPaid) + LoadText(kAmount) + ":");
-  form.lblTotal(5).SetCaption(LoadText(kPayable) + LoadText(kBalance) + ":");
+  form.SSTab2.SetTabCaption(LedgerTab::Both, LoadText(kCustomerLedger));
+  form.SSTab2.SetTabCaption(LedgerTab::In, LoadText(kReceivable) + "/" + LoadText(kReceived));
+  form.SSTab2.SetTabCaption(LedgerTab::Out, LoadText(kPayable) + "/" + LoadText(kPaid));
+  form.lblTotal(TotalBox::MoneyAIn).SetCaption(LoadText(kReceivable) + LoadText(kAmount) + ":");
+  form.lblTotal(TotalBox::MoneyBIn).SetCaption(LoadText(kReceived) + LoadText(kAmount) + ":");
+  form.lblTotal(TotalBox::BalanceIn).SetCaption(LoadText(kReceivable) + LoadText(kBalance) + ":");
+  form.lblTotal(TotalBox::MoneyAOut).SetCaption(LoadText(kPayable) + LoadText(kAmount) + ":");
+  form.lblTotal(TotalBox::MoneyBOut).SetCaption(LoadText(kPaid) + LoadText(kAmount) + ":");
+  form.lblTotal(TotalBox::Balance).SetCaption(LoadText(kPayable) + LoadText(kBalance) + ":");
 }
 
 void CaptionRegister(frmZj& form) {
   const std::string word = ModeWord(form);
-  form.mnuKhManage(1).SetCaption(word + LoadText(kAdd));
-  form.mnuKhManage(2).SetCaption(word + LoadText(kChange));
-  form.mnuKhManage(3).SetCaption(word + LoadText(kDelete));
+  CaptionNoRecord(form);
+  form.mnuKh.SetCaption(LoadText(kCustomer));
+  form.mnuKhManage(RecordAction::Add).SetCaption(word + LoadText(kAdd));
+  form.mnuKhManage(RecordAction::Change).SetCaption(word + LoadText(kChange));
+  form.mnuKhManage(RecordAction::Delete).SetCaption(word + LoadText(kDelete));
   form.mnuKhContact.SetCaption(word + LoadText(kContact) + "(&T)");
-  form.SSTab1.SetTabCaption(0, word + LoadText(kList));
-  form.SSTab1.SetTabCaption(1, word + LoadText(kManage));
+  form.SSTab1.SetTabCaption(RegisterTab::List, word + LoadText(kList));
+  form.SSTab1.SetTabCaption(RegisterTab::Record, word + LoadText(kManage));
+  form.SSTab1.SetTabCaption(RegisterTab::Search, LoadText(kSearchPage));
   form.lblKhMemo.SetCaption(word + LoadText(kDetail) + ":");
   form.cmdManage.SetCaption(word + "(&A)");
   form.lblKhOrder.SetCaption(LoadText(kSort) + ":");
-  form.OptSelect(0).SetCaption(LoadText(kAll) + word);
-  form.OptSelect(1).SetCaption(LoadText(kSelected) + word);
-  form.OptSelect(2).SetCaption(LoadText(kSingle) + word);
+  form.OptSelect(Selection::All).SetCaption(LoadText(kAll) + word);
+  form.OptSelect(Selection::Searched).SetCaption(LoadText(kSelected) + word);
+  form.OptSelect(Selection::Single).SetCaption(LoadText(kSingle) + word);
+}
+
+// Customer types and the search page, which shows the rule that goes with them.
+void CaptionSearch(frmZj& form) {
+  form.fraKhType.SetCaption(LoadText(form_text::kCustomerType));
+  for (int i = 0; i < form.optKhType.Count(); ++i) {
+    const std::string type = LoadText(form_text::kCustomerTypes[static_cast<size_t>(i)]);
+    form.optKhType(i).SetCaption(type);
+    form.optSeek(i).SetCaption(i == CustomerType::All ? LoadText(kAll) : type);
+  }
+  for (int i = 0; i < form.chkSeek.Count(); ++i) {
+    form.chkSeek(i).SetCaption(LoadText(form_text::kSearchFields[static_cast<size_t>(i)]));
+  }
+  form.chkSeek2.SetCaption(LoadText(form_text::kOnlyWithEntries));
+  form.txtSeekMsg.SetText(LoadText(form_text::kTypeRule));
 }
 
 void CaptionFilter(frmZj& form) {
-  form.chkDate(0).SetCaption(LoadText(kFromDate) + ":");
-  form.chkDate(1).SetCaption(LoadText(kToDate) + ":");
-  form.chkVerify(0).SetCaption(LoadText(kCheckedState));
-  form.chkVerify(1).SetCaption(LoadText(kUncheckedState));
-  form.chkID(0).SetCaption(LoadText(kVoucher) + ":");
-  form.chkID(1).SetCaption(LoadText(kDocument) + ":");
-  form.chkID(2).SetCaption(LoadText(kOrder) + ":");
+  form.chkDate(FilterBox::From).SetCaption(LoadText(kFromDate) + ":");
+  form.chkDate(FilterBox::To).SetCaption(LoadText(kToDate) + ":");
+  form.chkVerify(FilterBox::Checked).SetCaption(LoadText(kCheckedState));
+  form.chkVerify(FilterBox::Unchecked).SetCaption(LoadText(kUncheckedState));
+  form.chkID(FilterBox::AcntNo).SetCaption(LoadText(kVoucher) + ":");
+  form.chkID(FilterBox::InvID).SetCaption(LoadText(kDocument) + ":");
+  form.chkID(FilterBox::OrderID).SetCaption(LoadText(kOrder) + ":");
   form.chkBrief.SetCaption(LoadText(kSummary) + ":");
+  form.chkUser(FilterBox::User).SetCaption(LoadText(kUser) + ":");
+  form.chkUser(FilterBox::Doneman).SetCaption(LoadText(kHandler) + ":");
+  form.chkUser(FilterBox::Checker).SetCaption(LoadText(kChecker) + ":");
+  form.lblHb2.SetCaption(LoadText(form_text::kCurrency));
 }
 
 void CaptionEditor(frmZj& form) {
   const bool customers = form.mode == kCustomers;
-  form.optType2(1).SetCaption(LoadText(kIn));
-  form.optType2(2).SetCaption(LoadText(kOut));
+  form.optType2(Direction::In).SetCaption(LoadText(kIn));
+  form.optType2(Direction::Out).SetCaption(LoadText(kOut));
   form.chkAcntInit.SetCaption(LoadText(kOpening));
-  form.lblAcnt2(0).SetCaption(LoadText(kDate));
-  form.lblAcnt2(1).SetCaption(LoadText(kVoucher));
-  form.lblAcnt2(2).SetCaption(ModeWord(form) + (customers ? LoadText(kUnit) : ""));
-  form.lblAcnt2(4).SetCaption(form.optType2(1).Caption() + LoadText(kAmount));
-  form.lblAcnt2(6).SetCaption(LoadText(kSummary));
-  form.lblAcnt2(7).SetCaption(LoadText(kDocument));
-  form.lblAcnt2(8).SetCaption(LoadText(kOrder));
-  form.lblAcnt2(9).SetCaption(LoadText(kUser));
-  form.lblAcnt2(10).SetCaption(LoadText(kHandler));
-  form.lblAcnt2(11).SetCaption(LoadText(kChecker));
+  form.lblAcnt2(EntryBox::Date).SetCaption(LoadText(kDate));
+  form.lblAcnt2(EntryBox::Number).SetCaption(LoadText(kVoucher));
+  form.lblAcnt2(EntryBox::Record).SetCaption(ModeWord(form) + (customers ? LoadText(kUnit) : ""));
+  form.lblAcnt2(EntryBox::MoneyA)
+      .SetCaption(customers ? LoadText(kReceivable) + "/" + LoadText(kPayable)
+                            : LoadText(kOpening));
+  form.lblAcnt2(EntryBox::MoneyB)
+      .SetCaption(form.optType2(Direction::In).Caption() + LoadText(kAmount));
+  form.lblAcnt2(EntryBox::Balance).SetCaption(LoadText(kBalance));
+  form.lblAcnt2(EntryBox::Brief).SetCaption(LoadText(kSummary));
+  form.lblAcnt2(EntryBox::InvID).SetCaption(LoadText(kDocument));
+  form.lblAcnt2(EntryBox::OrderID).SetCaption(LoadText(kOrder));
+  form.lblAcnt2(EntryBox::User).SetCaption(LoadText(kUser));
+  form.lblAcnt2(EntryBox::Doneman).SetCaption(LoadText(kHandler));
+  form.lblAcnt2(EntryBox::Checker).SetCaption(LoadText(kChecker));
+  form.chkAcntName.SetCaption(LoadText(kFunds) + LoadText(kAccount));
+  form.lblHb.SetCaption(LoadText(form_text::kCurrency));
+  form.lblHbRate.SetCaption(LoadText(form_text::kRate));
 }
 
 void CaptionRecordPage(frmZj& form) {
-  form.lblAcnt(0).SetCaption(LoadText(kCode));
-  form.lblAcnt(1).SetCaption(form.lblAcnt2(2).Caption());
-  form.lblAcnt(4).SetCaption(LoadText(kAccountNumber));
-  form.lblAcnt(5).SetCaption(LoadText(kSummary));
-  form.lblAcnt(6).SetCaption(LoadText(kRegion));
-  form.lblAcnt(7).SetCaption(LoadText(kCity));
-  form.lblAcnt(8).SetCaption(LoadText(kPostcode));
-  form.lblAcnt(9).SetCaption(LoadText(kTelephone));
-  form.lblAcnt(10).SetCaption(LoadText(kFax));
+  form.lblAcnt(RecordBox::Code).SetCaption(LoadText(kCode));
+  form.lblAcnt(RecordBox::Name).SetCaption(form.lblAcnt2(EntryBox::Record).Caption());
+  form.lblAcnt(RecordBox::Contact).SetCaption(LoadText(form_text::kContactPerson));
+  form.lblAcnt(RecordBox::Bank).SetCaption(LoadText(form_text::kBank));
+  form.lblAcnt(RecordBox::BankAccount).SetCaption(LoadText(kAccountNumber));
+  form.lblAcnt(RecordBox::Summary).SetCaption(LoadText(kSummary));
+  form.lblAcnt(RecordBox::Region).SetCaption(LoadText(kRegion));
+  form.lblAcnt(RecordBox::City).SetCaption(LoadText(kCity));
+  form.lblAcnt(RecordBox::Postcode).SetCaption(LoadText(kPostcode));
+  form.lblAcnt(RecordBox::Telephone).SetCaption(LoadText(kTelephone));
+  form.lblAcnt(RecordBox::Fax).SetCaption(LoadText(kFax));
 }
 
-/// One column a label under the label's caption, and hidden ones behind them.
+// One column a label under the label's caption, and hidden ones behind them.
 void SetUpGrid(ui::Grid& grid, const ui::Array<ui::Label>& labels, int hidden) {
   grid.SetColumnCount(labels.Count() + hidden);
   for (int i = 0; i < labels.Count(); ++i) grid.SetHeader(i + 1, labels(i).Caption());
@@ -131,6 +164,8 @@ void SetUpGrid(ui::Grid& grid, const ui::Array<ui::Label>& labels, int hidden) {
 }
 
 }  // namespace
+
+void CaptionNoRecord(frmZj& form) { form.lblKhName.SetCaption(LoadText(form_text::kNoRecord)); }
 
 void SetCaptions(frmZj& form) {
   CaptionButtons(form);
@@ -141,6 +176,7 @@ void SetCaptions(frmZj& form) {
   }
   form.cboKhOrder.AddItem(OrderItem(ModeWord(form)));
   CaptionRegister(form);
+  CaptionSearch(form);
   CaptionFilter(form);
   CaptionEditor(form);
   CaptionRecordPage(form);

@@ -5,7 +5,9 @@
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "platform/surroundings.h"
+#include "screen/current.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "screen/keys.h"
 #include "screen/layout.h"
 #include "services/context.h"
@@ -15,14 +17,14 @@
 namespace qvzj {
 namespace {
 
-/// Items of `cboAcntName` carry the account's id from this character on.
+// Items of `cboAcntName` carry the account's id from this character on.
 constexpr int32_t kIdStart = 41;
 
 double ItemId(const std::string& item) { return basic::Val(basic::Mid(item, kIdStart)); }
 
 void ProposeNumber(frmZj& form) {
-  form.txtAcnt2(1).SetText(
-      NextNumber(form.dtpAcntDate.Value(), form.numberTemplate, kLedgerNumber));
+  form.txtAcnt2(EntryBox::Number)
+      .SetText(NextNumber(form.dtpAcntDate.Value(), form.numberTemplate, kLedgerNumber));
 }
 
 void ShowRate(frmZj& form) {
@@ -31,19 +33,19 @@ void ShowRate(frmZj& form) {
   form.txtHbRate.SetText(basic::FormatFixed(basic::Val(rate), 4));
 }
 
-/// The opening amount of a money account shows only with an opening balance.
+// The opening amount of a money account shows only with an opening balance.
 void ShowOpeningAmount(frmZj& form, bool shown) {
-  form.lblAcnt2(3).SetVisible(shown);
-  form.txtAcnt2(3).SetVisible(shown);
-  if (!shown) form.txtAcnt2(3).SetText("0.00");
+  form.lblAcnt2(EntryBox::MoneyA).SetVisible(shown);
+  form.txtAcnt2(EntryBox::MoneyA).SetVisible(shown);
+  if (!shown) form.txtAcnt2(EntryBox::MoneyA).SetText("0.00");
 }
 
 void OpeningClicked(frmZj& form) {
   if (form.mode == kCustomers) return;
   const bool opening = form.chkAcntInit.Ticked();
-  if (opening) form.optType2(1).Select();
+  if (opening) form.optType2(Direction::In).Select();
   ShowOpeningAmount(form, opening);
-  if (opening) form.SetFocus(form.txtAcnt2(3));
+  if (opening) form.SetFocus(form.txtAcnt2(EntryBox::MoneyA));
 }
 
 void AccountChosen(frmZj& form) {
@@ -55,7 +57,7 @@ void AccountChosen(frmZj& form) {
 
 void LinkClicked(frmZj& form) {
   if (form.chkAcntName.Ticked()) {
-    SelectAccountById(form, basic::ToInt32(basic::Val(form.cboAcntName.Tag())));
+    SelectAccountById(form, basic::ToInt32(basic::Val(LinkedAccountId(form))));
     form.SetFocus(form.cboAcntName);
   } else {
     SelectAccountById(form, 0);
@@ -70,7 +72,7 @@ void CheckAmount(ui::TextBox& box, bool& cancel) {
   box.SetText(basic::IsNumeric(number) ? basic::FormatFixed(basic::Val(number), 2) : "0.00");
 }
 
-/// A field that is left with the rate gone gets the currency's present rate back.
+// A field that is left with the rate gone gets the currency's present rate back.
 void CheckRate(frmZj& form) {
   if (!basic::IsNumeric(form.txtHbRate.Text())) ShowRate(form);
 }
@@ -82,7 +84,7 @@ void ConnectTexts(frmZj& form) {
     RefuseQuotes(box);
     box.onGotFocus = [&box] { box.SelectAll(); };
   }
-  for (int i : {3, 4}) {
+  for (int i : {EntryBox::MoneyA, EntryBox::MoneyB}) {
     ui::TextBox& amount = form.txtAcnt2(i);
     amount.onValidate = [&amount](bool& cancel) { CheckAmount(amount, cancel); };
   }
@@ -99,16 +101,16 @@ void ConnectDate(frmZj& form) {
   };
   // Not while it is left: a database that is gone must not hold the user in the field.
   form.dtpAcntDate.onLostFocus = [&form] {
-    if (KeyingNewEntry(form) && form.txtAcnt2(1).Text().empty()) ProposeNumber(form);
+    if (KeyingNewEntry(form) && form.txtAcnt2(EntryBox::Number).Text().empty()) ProposeNumber(form);
   };
 }
 
 void ClearTexts(frmZj& form) {
-  form.txtAcnt2(1).SetText("");
-  form.txtAcnt2(3).SetText("0.00");
-  form.txtAcnt2(4).SetText("0.00");
-  for (int i = 5; i <= 8; ++i) form.txtAcnt2(i).SetText("");
-  form.txtAcnt2(9).SetText(Shared().UserName);
+  form.txtAcnt2(EntryBox::Number).SetText("");
+  form.txtAcnt2(EntryBox::MoneyA).SetText("0.00");
+  form.txtAcnt2(EntryBox::MoneyB).SetText("0.00");
+  for (int i = EntryBox::Balance; i <= EntryBox::OrderID; ++i) form.txtAcnt2(i).SetText("");
+  form.txtAcnt2(EntryBox::User).SetText(Shared().UserName);
   form.cboDoneMan.SetText("");
 }
 
@@ -118,14 +120,14 @@ void ClearLink(frmZj& form) {
   form.cboAcntName.SetTag("0");
 }
 
-/// The register's current record becomes the new entry's.
+// The register's current record becomes the new entry's.
 void TakeCurrentRecord(frmZj& form) {
-  if (basic::Val(form.lblKhName.Tag()) == 0) return;
-  form.txtAcnt2(2).SetTag(form.lblKhName.Tag());
-  form.txtAcnt2(2).SetText(form.lblKhName.Caption());
+  if (basic::Val(CurrentRecordId(form)) == 0) return;
+  form.txtAcnt2(EntryBox::Record).SetTag(CurrentRecordId(form));
+  form.txtAcnt2(EntryBox::Record).SetText(form.lblKhName.Caption());
 }
 
-/// With no entry in the ledger there is nothing to show, change, delete or check.
+// With no entry in the ledger there is nothing to show, change, delete or check.
 void ShowNoEntry(frmZj& form) {
   ResetEntry(form);
   form.chkAcntInit.SetTag("0");
@@ -162,8 +164,8 @@ void ConnectEditor(frmZj& form) {
   form.cboAcntName.onClick = [&form] { AccountChosen(form); };
   form.chkAcntName.onClick = [&form] { LinkClicked(form); };
   // Nothing on the way from the date to the save button may stop a clerk who walks by Enter.
-  EnterWalksOn(form.optType2(1));
-  EnterWalksOn(form.optType2(2));
+  EnterWalksOn(form.optType2(Direction::In));
+  EnterWalksOn(form.optType2(Direction::Out));
   EnterWalksOn(form.chkAcntName);
   EnterWalksOn(form.cboAcntName);
 }
@@ -172,8 +174,8 @@ void ArrangeEditor(frmZj& form) {
   const bool customers = form.mode == kCustomers;
   form.chkAcntName.SetVisible(customers);
   form.cboAcntName.SetVisible(customers);
-  form.lblAcnt2(3).SetVisible(customers);
-  form.txtAcnt2(3).SetVisible(customers);
+  form.lblAcnt2(EntryBox::MoneyA).SetVisible(customers);
+  form.txtAcnt2(EntryBox::MoneyA).SetVisible(customers);
 }
 
 void PressAction(frmZj& form, int action) {
@@ -195,12 +197,10 @@ void PressAction(frmZj& form, int action) {
   if (!form.picAcnt.Visible()) {
     form.picAcnt.SetVisible(true);
     LayoutEditor(form);
-    form.SetFocus(form.txtAcnt2(1));
+    form.SetFocus(form.txtAcnt2(EntryBox::Number));
   }
   FocusForAction(form, action);
 }
-
-int ArmedAction(const frmZj& form) { return basic::ToInt32(basic::Val(form.cmdAcntSave.Tag())); }
 
 bool KeyingNewEntry(const frmZj& form) {
   return form.picAcnt.Visible() && ArmedAction(form) == kActionNew;
@@ -232,14 +232,14 @@ void LockEntry(frmZj& form, int action) {
                       (action == kActionChange && !form.cmdAcntSave.Enabled());
   for (int i = form.txtAcnt2.First(); i <= form.txtAcnt2.Last(); ++i) {
     // The name follows the register and the balance the ledger: nobody types them.
-    form.txtAcnt2(i).SetLocked(locked || i == 2 || i == 5);
+    form.txtAcnt2(i).SetLocked(locked || i == EntryBox::Record || i == EntryBox::Balance);
   }
   form.cboDoneMan.SetLocked(locked);
   form.cboHb.SetLocked(locked);
   form.txtHbRate.SetLocked(locked);
   form.chkAcntInit.SetEnabled(!locked);
-  form.optType2(1).SetEnabled(!locked);
-  form.optType2(2).SetEnabled(!locked);
+  form.optType2(Direction::In).SetEnabled(!locked);
+  form.optType2(Direction::Out).SetEnabled(!locked);
   form.dtpAcntDate.SetEnabled(!locked);
   const bool linkable = action == kActionNew || action == kActionChange ||
                         (action == kActionCheck && form.lblSHR.Caption().empty());

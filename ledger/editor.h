@@ -16,8 +16,6 @@ void ConnectEditor(frmZj& form);
 void ArrangeEditor(frmZj& form);
 /// What a press of `cmdAction(action)` does: show, reset or arm the entry (kAction… of frmZj.h).
 void PressAction(frmZj& form, int action);
-/// The armed action (kAction… of frmZj.h).
-int ArmedAction(const frmZj& form);
 /// True while the user keys a new entry in: a reload of the ledger must not overwrite it.
 bool KeyingNewEntry(const frmZj& form);
 /// Resets the panel for a new entry.

@@ -5,7 +5,9 @@
 #include "ledger/columns.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
+#include "screen/current.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 
 namespace qvzj {
 namespace {
@@ -19,31 +21,31 @@ constexpr std::array<const char*, kEntryColumns> kNames = {
     "fMoneyA",  "fMoneyB",  "fBrief", "fInvID",     "fOrderID",  "fUser",
     "fDoneman", "fChecker", "fID2",   "fMoneyCode", "fMoneyRate"};
 
-/// The rate box's text; a text that a statement could not hold as a number is written by its value.
+// The rate box's text; a text that a statement could not hold as a number is written by its value.
 std::string RateText(const std::string& text) {
   const bool plain = text.find_first_not_of("0123456789.") == std::string::npos;
   return plain && basic::IsNumeric(text) ? text : basic::NumberText(basic::Val(text));
 }
 
-/// The shortest text that reads back as exactly this number.
+// The shortest text that reads back as exactly this number.
 std::string ExactNumber(double value) {
   char text[40];
   const auto end = std::to_chars(text, text + sizeof text, value);
   return {text, end.ptr};
 }
 
-/// What a row holds in a number column: the text that shows it where that text says it exactly.
+// What a row holds in a number column: the text that shows it where that text says it exactly.
 std::string StoredNumber(double value, const std::string& shown) {
   return basic::Val(shown) == value ? shown : ExactNumber(value);
 }
 
 std::string LinkedAccount(const frmZj& form) {
   if (form.mode != kCustomers) return "0";
-  const std::string& id = form.cboAcntName.Tag();
+  const std::string& id = LinkedAccountId(form);
   return id.empty() ? "0" : id;
 }
 
-/// Reads the cells of one row of the ledger grid as they were filled.
+// Reads the cells of one row of the ledger grid as they were filled.
 class Row {
  public:
   Row(const frmZj& form, int32_t row) : grid_(form.Grid2), stored_(grid_.StoredRow(row)) {}
@@ -70,19 +72,19 @@ std::string Quoted(const std::string& text) { return "'" + text + "'"; }
 EntryTexts EntryInEditor(const frmZj& form) {
   using enum EntryColumn;
   EntryTexts entry;
-  const std::string& comp = form.txtAcnt2(2).Tag();
+  const std::string& comp = EntryRecordId(form);
   entry[Date] = Quoted(basic::FormatMonthDayYear(form.dtpAcntDate.Value()));
   entry[CompID] = comp.empty() ? "0" : comp;
   entry[Type1] = std::to_string(form.mode);
-  entry[Type2] = form.optType2(1).Selected() ? "1" : "2";
-  entry[AcntNo] = Quoted(form.txtAcnt2(1).Text());
+  entry[Type2] = form.optType2(Direction::In).Selected() ? "1" : "2";
+  entry[AcntNo] = Quoted(form.txtAcnt2(EntryBox::Number).Text());
   entry[Init] = form.chkAcntInit.Value() == 0 ? "0" : "1";
-  entry[MoneyA] = basic::NumberText(basic::Val(form.txtAcnt2(3).Text()));
-  entry[MoneyB] = basic::NumberText(basic::Val(form.txtAcnt2(4).Text()));
-  entry[Brief] = Quoted(form.txtAcnt2(6).Text());
-  entry[InvID] = Quoted(form.txtAcnt2(7).Text());
-  entry[OrderID] = Quoted(form.txtAcnt2(8).Text());
-  entry[User] = Quoted(form.txtAcnt2(9).Text());
+  entry[MoneyA] = basic::NumberText(basic::Val(form.txtAcnt2(EntryBox::MoneyA).Text()));
+  entry[MoneyB] = basic::NumberText(basic::Val(form.txtAcnt2(EntryBox::MoneyB).Text()));
+  entry[Brief] = Quoted(form.txtAcnt2(EntryBox::Brief).Text());
+  entry[InvID] = Quoted(form.txtAcnt2(EntryBox::InvID).Text());
+  entry[OrderID] = Quoted(form.txtAcnt2(EntryBox::OrderID).Text());
+  entry[User] = Quoted(form.txtAcnt2(EntryBox::User).Text());
   entry[Doneman] = Quoted(form.cboDoneMan.Text());
   entry[Checker] = Quoted(form.lblSHR.Caption());
   entry[ID2] = LinkedAccount(form);
@@ -137,7 +139,7 @@ double UnsignedAmount(const frmZj& form, int32_t column, int32_t row) {
   if (shown == 0) return 0;
   if (column == col::kMoneyA && form.mode != kCustomers) return form.ledgerNegated ? -shown : shown;
   const bool in = grid.Stored(col::kType2).Number(grid.StoredRow(row)) == 1;
-  return in == (form.SSTab2.Tab() == 2) ? -shown : shown;
+  return in == (form.SSTab2.Tab() == LedgerTab::Out) ? -shown : shown;
 }
 
 std::string InsertStatement(const EntryTexts& entry) {

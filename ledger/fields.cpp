@@ -17,7 +17,7 @@ void FitInserted(const ui::EditBox& box, std::string& inserted) {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// Exactly three digits behind `comma`?
+// Exactly three digits behind `comma`?
 bool GroupFollows(const std::string& text, size_t comma) {
   const size_t end = comma + 4;
   for (size_t i = comma + 1; i < end; ++i) {

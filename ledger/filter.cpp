@@ -3,6 +3,7 @@
 #include "ledger/fields.h"
 #include "platform/basic/date.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "screen/keys.h"
 #include "services/context.h"
 #include "services/query.h"
@@ -15,7 +16,7 @@ std::string DateLiteral(const ui::DatePicker& picker) {
   return quote + basic::FormatMonthDayYear(picker.Value()) + quote;
 }
 
-/// The condition that `box` switches on over the pattern typed beside it; "" while it is off.
+// The condition that `box` switches on over the pattern typed beside it; "" while it is off.
 std::string PatternCondition(const ui::CheckBox& box, const char* column,
                              const ui::TextBox& pattern) {
   if (!box.Ticked()) return {};
@@ -23,14 +24,14 @@ std::string PatternCondition(const ui::CheckBox& box, const char* column,
 }
 
 std::string CheckedCondition(const frmZj& form) {
-  const bool checked = form.chkVerify(0).Ticked();
-  const bool unchecked = form.chkVerify(1).Ticked();
+  const bool checked = form.chkVerify(FilterBox::Checked).Ticked();
+  const bool unchecked = form.chkVerify(FilterBox::Unchecked).Ticked();
   if (checked && !unchecked) return " And b.fChecker<>''";
   if (unchecked && !checked) return " And b.fChecker=''";
   return {};
 }
 
-/// Ticking the box takes the user to the field that it needs.
+// Ticking the box takes the user to the field that it needs.
 void LeadToField(frmZj& form, ui::CheckBox& box, ui::Control& field) {
   box.onClick = [&form, &box, &field] {
     if (box.Ticked()) form.SetFocus(field);
@@ -44,11 +45,13 @@ void ConnectPattern(frmZj& form, ui::CheckBox& box, ui::TextBox& pattern) {
   RefuseQuotes(pattern);
 }
 
-/// At least one of the two boxes stays ticked; both mean checked and unchecked entries together.
+// At least one of the two boxes stays ticked; both mean checked and unchecked entries together.
 void ConnectVerify(frmZj& form, int index) {
   ui::CheckBox& box = form.chkVerify(index);
   box.onClick = [&form, &box] {
-    if (!form.chkVerify(0).Ticked() && !form.chkVerify(1).Ticked()) box.SetValue(1);
+    if (!form.chkVerify(FilterBox::Checked).Ticked() &&
+        !form.chkVerify(FilterBox::Unchecked).Ticked())
+      box.SetValue(1);
   };
   EnterJumpsTo(box, form.cmdAcntRefresh);
 }
@@ -73,16 +76,24 @@ std::string LedgerCondition(const frmZj& form) {
   // The currency column carries no alias and the first "and" is lower case: the text is compared
   // to the letter by who traces statements.
   if (form.cboHb2.ListIndex() >= 0) condition += " And fMoneyCode='" + form.cboHb2.Text() + "'";
-  if (form.chkDate(0).Ticked()) condition += " and b.fDate>=" + DateLiteral(form.dtpDate(0));
-  if (form.chkDate(1).Ticked()) condition += " And b.fDate<=" + DateLiteral(form.dtpDate(1));
+  if (form.chkDate(FilterBox::From).Ticked())
+    condition += " and b.fDate>=" + DateLiteral(form.dtpDate(FilterBox::From));
+  if (form.chkDate(FilterBox::To).Ticked())
+    condition += " And b.fDate<=" + DateLiteral(form.dtpDate(FilterBox::To));
   condition += CheckedCondition(form);
-  condition += PatternCondition(form.chkID(0), "fAcntNo", form.txtID(0));
-  condition += PatternCondition(form.chkID(1), "fInvID", form.txtID(1));
-  condition += PatternCondition(form.chkID(2), "fOrderID", form.txtID(2));
+  condition +=
+      PatternCondition(form.chkID(FilterBox::AcntNo), "fAcntNo", form.txtID(FilterBox::AcntNo));
+  condition +=
+      PatternCondition(form.chkID(FilterBox::InvID), "fInvID", form.txtID(FilterBox::InvID));
+  condition +=
+      PatternCondition(form.chkID(FilterBox::OrderID), "fOrderID", form.txtID(FilterBox::OrderID));
   condition += PatternCondition(form.chkBrief, "fBrief", form.txtBrief);
-  condition += PatternCondition(form.chkUser(0), "fUser", form.txtUser(0));
-  condition += PatternCondition(form.chkUser(1), "fDoneman", form.txtUser(1));
-  condition += PatternCondition(form.chkUser(2), "fChecker", form.txtUser(2));
+  condition +=
+      PatternCondition(form.chkUser(FilterBox::User), "fUser", form.txtUser(FilterBox::User));
+  condition += PatternCondition(form.chkUser(FilterBox::Doneman), "fDoneman",
+                                form.txtUser(FilterBox::Doneman));
+  condition += PatternCondition(form.chkUser(FilterBox::Checker), "fChecker",
+                                form.txtUser(FilterBox::Checker));
   return condition;
 }
 

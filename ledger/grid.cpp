@@ -5,6 +5,7 @@
 #include "platform/basic/number.h"
 #include "platform/surroundings.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "services/context.h"
 #include "services/strings.h"
 #include "services/text_ids.h"
@@ -16,25 +17,25 @@ namespace col = ledger_column;
 
 using namespace text_id;
 
-/// The two directions' words as one header: "进帐(+)/出帐(-)".
+// The two directions' words as one header: "进帐(+)/出帐(-)".
 std::string BothDirections(int16_t plus, int16_t minus) {
   return LoadText(plus) + "(+)/" + LoadText(minus) + "(-)";
 }
 
-/// Null where the program gives no order for the language: texts then order by their bytes.
+// Null where the program gives no order for the language: texts then order by their bytes.
 const ui::TextOrder* OrderOfLanguage() {
-  return Around().text_order[Shared().Language == 1 ? 1 : 0];
+  return Around().text_order[static_cast<size_t>(CurrentLanguage())];
 }
 
 void TabClicked(frmZj& form, int previous) {
   WriteAmountHeaders(form);
   // The payable tab shows its side positive; leaving it undoes that.
-  if (form.SSTab2.Tab() != 2 && previous != 2) return;
+  if (form.SSTab2.Tab() != LedgerTab::Out && previous != LedgerTab::Out) return;
   for (int32_t column : {col::kMoneyA, col::kMoneyB, col::kBalance}) {
     form.Grid2.NegateColumn(column);
   }
   form.ledgerNegated = !form.ledgerNegated;
-  ui::TextBox& balance = form.txtAcnt2(5);
+  ui::TextBox& balance = form.txtAcnt2(EntryBox::Balance);
   if (!balance.Text().empty()) {
     balance.SetText(basic::FormatFixed(-basic::Val(balance.Text()), 2));
   }
@@ -68,13 +69,15 @@ void ConnectLedgerGrid(frmZj& form) {
 void WriteAmountHeaders(frmZj& form) {
   const int tab = form.SSTab2.Tab();
   std::string money_a = LoadText(kOpening);
-  std::string money_b = tab == 0 ? BothDirections(kIn, kOut) : LoadText(tab == 1 ? kIn : kOut);
+  std::string money_b = tab == LedgerTab::Both ? BothDirections(kIn, kOut)
+                                               : LoadText(tab == LedgerTab::In ? kIn : kOut);
   std::string balance = LoadText(kBalance);
   if (form.mode == kCustomers) {
-    money_a = tab == 0 ? BothDirections(kReceivable, kPayable)
-                       : LoadText(tab == 1 ? kReceivable : kPayable);
-    money_b = tab == 0 ? BothDirections(kReceived, kPaid) : LoadText(tab == 1 ? kReceived : kPaid);
-    balance = LoadText(tab == 2 ? kPayable : kReceivable) + LoadText(kBalance);
+    money_a = tab == LedgerTab::Both ? BothDirections(kReceivable, kPayable)
+                                     : LoadText(tab == LedgerTab::In ? kReceivable : kPayable);
+    money_b = tab == LedgerTab::Both ? BothDirections(kReceived, kPaid)
+                                     : LoadText(tab == LedgerTab::In ? kReceived : kPaid);
+    balance = LoadText(tab == LedgerTab::Out ? kPayable : kReceivable) + LoadText(kBalance);
   }
   form.Grid2.SetHeader(col::kMoneyA, money_a);
   form.Grid2.SetHeader(col::kMoneyB, money_b);

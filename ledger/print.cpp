@@ -3,6 +3,7 @@
 #include "platform/basic/errors.h"
 #include "platform/surroundings.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "services/context.h"
 
 namespace qvzj {
@@ -12,11 +13,11 @@ constexpr const char* kListSuffix = "清单";
 constexpr int16_t kRegisterPrint = 0;
 constexpr int16_t kLedgerPrint = 1;
 
-/// Captions and values of the totals panel; money accounts have no pairs 2 and 3.
+// Captions and values of the totals panel; money accounts have no pairs 2 and 3.
 std::vector<std::string> Totals(const frmZj& form) {
   std::vector<std::string> totals;
   for (int i = form.txtTotal.First(); i <= form.txtTotal.Last(); ++i) {
-    if (form.mode != kCustomers && (i == 2 || i == 3)) continue;
+    if (form.mode != kCustomers && (i == TotalBox::BalanceIn || i == TotalBox::MoneyAOut)) continue;
     totals.push_back(form.lblTotal(i).Caption());
     totals.push_back(form.txtTotal(i).Text());
   }

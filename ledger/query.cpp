@@ -7,7 +7,10 @@
 #include "ledger/editor.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/number.h"
+#include "screen/current.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
+#include "screen/loading.h"
 #include "services/connect.h"
 
 namespace qvzj {
@@ -18,11 +21,12 @@ using basic::Column;
 
 constexpr uint32_t kCheckedColor = 0xE0E0E0;
 
-/// The selection option as a condition. Selected records without a register search drop every
-/// filter on purpose: the whole ledger is listed then.
+// The selection option as a condition. Selected records without a register search drop every
+// filter on purpose: the whole ledger is listed then.
 std::string WhereText(const frmZj& form, const std::string& condition) {
-  if (form.OptSelect(2).Selected()) return condition + " And a.fID=" + form.lblKhName.Tag();
-  if (!form.OptSelect(1).Selected()) return condition;
+  if (form.OptSelect(Selection::Single).Selected())
+    return condition + " And a.fID=" + CurrentRecordId(form);
+  if (!form.OptSelect(Selection::Searched).Selected()) return condition;
   if (form.registerCondition.empty()) return {};
   return condition + " And " + form.registerCondition;
 }
@@ -41,9 +45,9 @@ std::string LedgerStatement(const frmZj& form, const std::string& condition) {
   return statement + ",b.fDate,b.fAcntNo";
 }
 
-/// Everything one load computes before the grid is touched.
+// Everything one load computes before the grid is touched.
 struct Ledger {
-  std::vector<Column> columns;  ///< column c of the grid at c - 1
+  std::vector<Column> columns;  // column c of the grid at c - 1
   basic::Sum a_in, b_in, a_out, b_out;
 
   Column& At(int32_t column) { return columns[static_cast<size_t>(column - 1)]; }
@@ -64,7 +68,7 @@ bool EmptyText(const Column& column, size_t row) {
   return column.GetKind() == Column::Kind::Text && column.TextView(row).empty();
 }
 
-/// Which direction each row goes, read without a conversion where the engine answered integers.
+// Which direction each row goes, read without a conversion where the engine answered integers.
 class Directions {
  public:
   explicit Directions(const Column& type2)
@@ -83,16 +87,16 @@ double Amount(const double* amounts, size_t row, const char* name) {
   return amounts[row];
 }
 
-/// Amounts that cancel out leave a trace of their binary fractions; it is no balance, and as a
-/// negative one it would show in red.
+// Amounts that cancel out leave a trace of their binary fractions; it is no balance, and as a
+// negative one it would show in red.
 double Settled(double balance) {
   constexpr double kTrace = 1e-6;
   return std::fabs(balance) < kTrace ? 0 : balance;
 }
 
-/// Signs the amounts, empties those of 0, runs the balance of each name and sums the totals.
-/// Receivables and money in are positive and the other side negative, the other way round on the
-/// payable tab; the opening amounts of money accounts keep their sign.
+// Signs the amounts, empties those of 0, runs the balance of each name and sums the totals.
+// Receivables and money in are positive and the other side negative, the other way round on the
+// payable tab; the opening amounts of money accounts keep their sign.
 void SignAndBalance(Ledger& ledger, bool customers, bool payable_tab) {
   Column& column_a = ledger.At(col::kMoneyA);
   Column& column_b = ledger.At(col::kMoneyB);
@@ -131,7 +135,7 @@ void SignAndBalance(Ledger& ledger, bool customers, bool payable_tab) {
   }
 }
 
-/// Entries whose register record is gone are listed under the record's id.
+// Entries whose register record is gone are listed under the record's id.
 void NameOrphans(Ledger& ledger) {
   Column& names = ledger.At(col::kName);
   const Column& ids = ledger.At(col::kCompID);
@@ -140,17 +144,17 @@ void NameOrphans(Ledger& ledger) {
   }
 }
 
-/// True when a register record is current. Throws TypeMismatchError when the tag is no number.
+// True when a register record is current. Throws TypeMismatchError when the tag is no number.
 bool HasCurrentRecord(const std::string& tag) {
   if (tag.empty()) return false;
   if (!basic::IsNumeric(tag)) throw TypeMismatchError(tag);
   return basic::Val(tag) > 0;
 }
 
-/// The row (1-based) of the entry last shown; 1 when it is not there or no record is current.
+// The row (1-based) of the entry last shown; 1 when it is not there or no record is current.
 int32_t RowToSelect(const frmZj& form, const Column& ids) {
-  if (!HasCurrentRecord(form.lblKhName.Tag())) return 1;
-  const std::string& shown = form.chkAcntInit.Tag();
+  if (!HasCurrentRecord(CurrentRecordId(form))) return 1;
+  const std::string& shown = ShownEntryId(form);
   const bool integers = ids.GetKind() == Column::Kind::Integer;
   const double wanted = basic::Val(shown);
   for (size_t row = 1; row < ids.Size(); ++row) {
@@ -181,27 +185,25 @@ void WriteTotals(frmZj& form, const Ledger& ledger) {
   const double b_in = ledger.b_in.Value();
   const double a_out = ledger.a_out.Value();
   const double b_out = ledger.b_out.Value();
-  WriteTotal(form, 1, b_in);
-  WriteTotal(form, 4, b_out);
+  WriteTotal(form, TotalBox::MoneyBIn, b_in);
+  WriteTotal(form, TotalBox::MoneyBOut, b_out);
   if (form.mode == kCustomers) {
-    WriteTotal(form, 0, a_in);
-    WriteTotal(form, 2, a_in - b_in);
-    WriteTotal(form, 3, a_out);
-    WriteTotal(form, 5, a_out - b_out);
+    WriteTotal(form, TotalBox::MoneyAIn, a_in);
+    WriteTotal(form, TotalBox::BalanceIn, a_in - b_in);
+    WriteTotal(form, TotalBox::MoneyAOut, a_out);
+    WriteTotal(form, TotalBox::Balance, a_out - b_out);
   } else {
-    WriteTotal(form, 0, a_in + a_out);
-    WriteTotal(form, 5, a_in + a_out + b_in - b_out);
+    WriteTotal(form, TotalBox::MoneyAIn, a_in + a_out);
+    WriteTotal(form, TotalBox::Balance, a_in + a_out + b_in - b_out);
   }
 }
 
 }  // namespace
 
 void LoadLedger(frmZj& form, const std::string& condition) {
-  const bool payable_tab = form.SSTab2.Tab() == 2;
-  const ui::MousePointer pointer = form.GetMousePointer();
-  form.SetMousePointer(ui::MousePointer::Hourglass);
-  form.Grid2.SetRowCount(0);
-  form.Grid2.SetVisible(false);
+  const bool payable_tab = form.SSTab2.Tab() == LedgerTab::Out;
+  const Hourglass hourglass(form);
+  const GridFilling filling(form.Grid2);
   WriteTotals(form, {});  // what an error leaves behind goes with the empty grid
   // Everything that can fail comes before the first cell is filled.
   Ledger ledger = TakeRows(Data().Open(LedgerStatement(form, condition)));
@@ -219,8 +221,6 @@ void LoadLedger(frmZj& form, const std::string& condition) {
       ShowLedgerRow(form, selected);
     }
   }
-  form.Grid2.SetVisible(true);
-  form.SetMousePointer(pointer);
 }
 
 }  // namespace qvzj

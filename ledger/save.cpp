@@ -6,7 +6,9 @@
 #include "ledger/filter.h"
 #include "ledger/query.h"
 #include "platform/basic/number.h"
+#include "screen/current.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "screen/layout.h"
 #include "services/connect.h"
 #include "services/messages.h"
@@ -19,27 +21,27 @@ namespace {
 
 bool NumberIsZero(const std::string& text) { return basic::Val(text) == 0; }
 
-/// Entries under the shown entry's id in the ledger that is open. The engine's error rises when
-/// they cannot be counted, so that a broken connection is not taken for a vanished entry.
+// Entries under the shown entry's id in the ledger that is open. The engine's error rises when
+// they cannot be counted, so that a broken connection is not taken for a vanished entry.
 bool EntryExists(const frmZj& form) {
   const std::string condition =
-      "fID=" + form.chkAcntInit.Tag() + " And fType1=" + std::to_string(form.mode);
+      "fID=" + ShownEntryId(form) + " And fType1=" + std::to_string(form.mode);
   const int16_t rows = CountRows("tAccountDetail", condition);
   if (rows >= 0) return rows > 0;
   return !NumberIsZero(FirstValue("select count(*) from tAccountDetail Where " + condition));
 }
 
 bool CheckEntryThere(const frmZj& form) {
-  if (NumberIsZero(form.chkAcntInit.Tag())) {
+  if (NumberIsZero(ShownEntryId(form))) {
     Message("请选择[帐目] !", box::kExclamation);
     return false;
   }
   if (EntryExists(form)) return true;
-  Message(form.cmdAcntCancel.Tag() + "：帐目已不存在！", box::kCritical);
+  Message(ShownReference(form) + "：帐目已不存在！", box::kCritical);
   return false;
 }
 
-/// A required field is missing: says which and takes the user to it.
+// A required field is missing: says which and takes the user to it.
 bool Refuse(frmZj& form, const std::string& request, const std::string& what, ui::Control& field) {
   Message(request + " [" + what + "] !", box::kExclamation);
   form.SetFocus(field);
@@ -47,17 +49,21 @@ bool Refuse(frmZj& form, const std::string& request, const std::string& what, ui
 }
 
 bool CheckFields(frmZj& form) {
-  if (form.txtAcnt2(1).Text().empty()) {
-    return Refuse(form, "请输入", form.lblAcnt2(1).Caption(), form.txtAcnt2(1));
+  if (form.txtAcnt2(EntryBox::Number).Text().empty()) {
+    return Refuse(form, "请输入", form.lblAcnt2(EntryBox::Number).Caption(),
+                  form.txtAcnt2(EntryBox::Number));
   }
-  if (NumberIsZero(form.txtAcnt2(2).Tag())) {
-    return Refuse(form, "请选择", form.lblAcnt2(2).Caption(), form.txtAcnt2(2));
+  if (NumberIsZero(EntryRecordId(form))) {
+    return Refuse(form, "请选择", form.lblAcnt2(EntryBox::Record).Caption(),
+                  form.txtAcnt2(EntryBox::Record));
   }
-  if (NumberIsZero(form.txtAcnt2(3).Text()) && NumberIsZero(form.txtAcnt2(4).Text())) {
+  if (NumberIsZero(form.txtAcnt2(EntryBox::MoneyA).Text()) &&
+      NumberIsZero(form.txtAcnt2(EntryBox::MoneyB).Text())) {
     // The second amount's caption stands for both halves.
-    const std::string& amount = form.lblAcnt2(4).Caption();
-    const std::string both = form.lblAcnt2(3).Visible() ? amount + "/" + amount : amount;
-    return Refuse(form, "请输入", both, form.txtAcnt2(4));
+    const std::string& amount = form.lblAcnt2(EntryBox::MoneyB).Caption();
+    const std::string both =
+        form.lblAcnt2(EntryBox::MoneyA).Visible() ? amount + "/" + amount : amount;
+    return Refuse(form, "请输入", both, form.txtAcnt2(EntryBox::MoneyB));
   }
   return EntryTextsFit(form);
 }
@@ -69,7 +75,7 @@ std::optional<Commit> PrepareNew(frmZj& form) {
 
 std::optional<Commit> PrepareChange(frmZj& form) {
   if (!CheckFields(form)) return std::nullopt;
-  return Commit{{UpdateStatement(form, EntryToWrite(form), form.chkAcntInit.Tag())}, ":"};
+  return Commit{{UpdateStatement(form, EntryToWrite(form), ShownEntryId(form))}, ":"};
 }
 
 std::optional<Commit> Prepare(frmZj& form, int action) {
@@ -87,8 +93,8 @@ std::optional<Commit> Prepare(frmZj& form, int action) {
 }
 
 void Report(const frmZj& form, const Commit& commit) {
-  std::string text =
-      "[" + form.lblAcnt2(1).Caption() + commit.colon + form.txtAcnt2(1).Text() + "]";
+  std::string text = "[" + form.lblAcnt2(EntryBox::Number).Caption() + commit.colon +
+                     form.txtAcnt2(EntryBox::Number).Text() + "]";
   if (commit.counter_entry) {
     text += "\r\n\r\n同时，系统已经自动产生相同票号的[" + form.chkAcntName.Caption() + "凭证] 。";
   }

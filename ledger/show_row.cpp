@@ -4,7 +4,9 @@
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "platform/surroundings.h"
+#include "screen/current.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "services/connect.h"
 #include "services/strings.h"
 #include "services/text_ids.h"
@@ -36,20 +38,20 @@ void ShowDate(frmZj& form, int32_t row) {
 
 void ShowAmounts(frmZj& form, int32_t row) {
   using basic::FormatFixed;
-  form.txtAcnt2(3).SetText(FormatFixed(UnsignedAmount(form, col::kMoneyA, row), 2));
-  form.txtAcnt2(4).SetText(FormatFixed(UnsignedAmount(form, col::kMoneyB, row), 2));
-  form.txtAcnt2(5).SetText(FormatFixed(CellNumber(form, col::kBalance, row), 2));
+  form.txtAcnt2(EntryBox::MoneyA).SetText(FormatFixed(UnsignedAmount(form, col::kMoneyA, row), 2));
+  form.txtAcnt2(EntryBox::MoneyB).SetText(FormatFixed(UnsignedAmount(form, col::kMoneyB, row), 2));
+  form.txtAcnt2(EntryBox::Balance).SetText(FormatFixed(CellNumber(form, col::kBalance, row), 2));
 }
 
-/// The opening amount of a money account has its place only with opening balances.
+// The opening amount of a money account has its place only with opening balances.
 void ShowOpening(frmZj& form, int32_t row) {
   form.chkAcntInit.SetValue(CellNumber(form, col::kInit, row) != 0 ? 1 : 0);
   if (form.mode == kCustomers) return;
-  form.lblAcnt2(3).SetVisible(form.chkAcntInit.Ticked());
-  form.txtAcnt2(3).SetVisible(form.chkAcntInit.Ticked());
+  form.lblAcnt2(EntryBox::MoneyA).SetVisible(form.chkAcntInit.Ticked());
+  form.txtAcnt2(EntryBox::MoneyA).SetVisible(form.chkAcntInit.Ticked());
 }
 
-/// The linked money account; an id that the list does not hold stays in the tag.
+// The linked money account; an id that the list does not hold stays in the tag.
 void ShowLink(frmZj& form, int32_t row) {
   const double id = form.mode == kCustomers ? CellNumber(form, col::kID2, row) : 0;
   form.cboAcntName.SetTag(id != 0 ? CellText(form, col::kID2, row) : "0");
@@ -57,8 +59,8 @@ void ShowLink(frmZj& form, int32_t row) {
   SelectAccountById(form, basic::ToInt32(id));
 }
 
-/// The entry's own currency and rate, not the currency's present rate. The grid does not carry the
-/// currency, so it is read for this one entry.
+// The entry's own currency and rate, not the currency's present rate. The grid does not carry the
+// currency, so it is read for this one entry.
 void ShowCurrency(frmZj& form, int32_t row) {
   const data::Recordset entry = Data().Open("Select fMoneyCode from tAccountDetail where fID=" +
                                             CellText(form, col::kID, row));
@@ -80,15 +82,16 @@ void ShowLedgerRow(frmZj& form, int32_t row) {
   ForgetEntry(form);
   form.Grid2.SetActive(form.Grid2.ActiveColumn(), row);
   ShowDate(form, row);
-  form.optType2(CellNumber(form, col::kType2, row) == 1 ? 1 : 2).Select();
-  form.txtAcnt2(1).SetText(CellText(form, col::kNumber, row));
-  form.txtAcnt2(2).SetText(CellText(form, col::kName, row));
-  form.txtAcnt2(2).SetTag(CellText(form, col::kCompID, row));
+  const bool in = CellNumber(form, col::kType2, row) == 1;
+  form.optType2(in ? Direction::In : Direction::Out).Select();
+  form.txtAcnt2(EntryBox::Number).SetText(CellText(form, col::kNumber, row));
+  form.txtAcnt2(EntryBox::Record).SetText(CellText(form, col::kName, row));
+  form.txtAcnt2(EntryBox::Record).SetTag(CellText(form, col::kCompID, row));
   ShowAmounts(form, row);
-  form.txtAcnt2(6).SetText(CellText(form, col::kBrief, row));
-  form.txtAcnt2(7).SetText(CellText(form, col::kInvID, row));
-  form.txtAcnt2(8).SetText(CellText(form, col::kOrderID, row));
-  form.txtAcnt2(9).SetText(CellText(form, col::kUser, row));
+  form.txtAcnt2(EntryBox::Brief).SetText(CellText(form, col::kBrief, row));
+  form.txtAcnt2(EntryBox::InvID).SetText(CellText(form, col::kInvID, row));
+  form.txtAcnt2(EntryBox::OrderID).SetText(CellText(form, col::kOrderID, row));
+  form.txtAcnt2(EntryBox::User).SetText(CellText(form, col::kUser, row));
   form.cboDoneMan.SetText(CellText(form, col::kDoneman, row));
   ShowOpening(form, row);
   ShowLink(form, row);
@@ -108,9 +111,9 @@ void ShowLedgerRow(frmZj& form, int32_t row) {
 
 void OfferActions(frmZj& form, int32_t row) {
   const bool checked = !CellText(form, col::kChecker, row).empty();
-  form.cmdAction(2).SetEnabled(!checked);
-  form.cmdAction(3).SetEnabled(!checked);
-  ui::Button& check = form.cmdAction(4);
+  form.cmdAction(kActionChange).SetEnabled(!checked);
+  form.cmdAction(kActionDelete).SetEnabled(!checked);
+  ui::Button& check = form.cmdAction(kActionCheck);
   check.SetCaption(LoadText(text_id::kEntry) +
                    LoadText(checked ? text_id::kUncheck : text_id::kCheck) +
                    basic::Right(check.Caption(), 4));

@@ -3,10 +3,12 @@
 #include "platform/basic/number.h"
 #include "platform/surroundings.h"
 #include "register/table.h"
+#include "screen/current.h"
 #include "screen/frmZj.h"
 #include "screen/layout.h"
 #include "services/connect.h"
 #include "services/context.h"
+#include "services/form_texts.h"
 #include "services/messages.h"
 #include "services/query.h"
 
@@ -22,7 +24,7 @@ void HideDetail(frmZj& form) {
 
 void ToggleDetail(frmZj& form) {
   if (form.fraKhMemo.Visible()) return HideDetail(form);
-  LoadRegisterDetail(form, form.lblKhName.Tag());
+  LoadRegisterDetail(form, CurrentRecordId(form));
   form.fraKhMemo.SetVisible(true);
   LayoutLedgerSide(form);
 }
@@ -38,16 +40,14 @@ TaskCall ContactOf(const frmZj& form) {
   call.zg_name = shared.ZgName;
   call.date = Around().clock->Today();
   call.customer_name = form.lblKhName.Caption();
-  call.customer_id = basic::ToInt32(basic::Val(form.lblKhName.Tag()));
+  call.customer_id = basic::ToInt32(basic::Val(CurrentRecordId(form)));
   return call;
 }
 
 void OpenContact(const frmZj& form) {
   if (!HasCurrentRecord(form)) return;
   if (!Around().task) {
-    Message(Shared().Language == 1 ? "聯系記錄組件 [qvTask] 未安裝 !"
-                                   : "联系记录组件 [qvTask] 未安装 !",
-            box::kExclamation);
+    Message(LoadText(form_text::kNoTaskComponent), box::kExclamation);
     return;
   }
   Around().task->Open(ContactOf(form));
@@ -66,7 +66,7 @@ void LoadRegisterDetail(frmZj& form, const std::string& id) {
 }
 
 void SaveRegisterDetail(frmZj& form) {
-  const std::string& id = form.lblKhName.Tag();
+  const std::string& id = CurrentRecordId(form);
   if (basic::Val(id) == 0) return;
   Data().Execute("Update " + RegisterTable(form) + " set detail='" + form.txtKhMemo.Text() +
                  "' Where fID=" + id);

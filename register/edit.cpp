@@ -3,12 +3,15 @@
 #include <optional>
 #include <string>
 
+#include "ledger/captions.h"
 #include "ledger/fields.h"
 #include "register/grid.h"
 #include "register/list.h"
 #include "register/table.h"
+#include "screen/current.h"
 #include "screen/design.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "screen/keys.h"
 #include "services/connect.h"
 #include "services/messages.h"
@@ -19,12 +22,7 @@
 namespace qvzj {
 namespace {
 
-// Armed register actions, as kept in the tag of `cmdKhSave`.
-constexpr const char* kAdd = "1";
-constexpr const char* kChange = "2";
-constexpr const char* kDelete = "3";
-
-/// What an action leaves to be done: one statement, and the record's name for the report.
+// What an action leaves to be done: one statement, and the record's name for the report.
 struct Commit {
   std::string statement;
   std::string name;
@@ -54,7 +52,7 @@ bool RequiredAreFilled(const frmZj& form) {
 // A change or delete without a record would report what it has not done.
 bool RecordIsChosen(const frmZj& form) {
   if (HasCurrentRecord(form)) return true;
-  Message("请选择[" + form.lblAcnt(1).Caption() + "] !", box::kExclamation);
+  Message("请选择[" + form.lblAcnt(RecordBox::Name).Caption() + "] !", box::kExclamation);
   return false;
 }
 
@@ -81,11 +79,11 @@ std::string UpdateStatement(const frmZj& form) {
     sets += form.lblAcnt(i).Tag() + "='" + form.txtAcnt(i).Text() + "'";
   }
   if (form.mode != kAccounts) sets += ",fType0=" + TypeCode(form);
-  return "Update " + RegisterTable(form) + " Set " + sets + " Where fID=" + form.lblKhName.Tag();
+  return "Update " + RegisterTable(form) + " Set " + sets + " Where fID=" + CurrentRecordId(form);
 }
 
 std::optional<Commit> Add(const frmZj& form) {
-  const std::string name = form.txtAcnt(1).Text();
+  const std::string name = form.txtAcnt(RecordBox::Name).Text();
   if (!RequiredAreFilled(form) || !Confirmed("新增", name)) return {};
   return Commit{InsertStatement(form), name};
 }
@@ -121,7 +119,7 @@ std::string WhatRefersTo(const frmZj& form, const std::string& id) {
 
 std::optional<Commit> Delete(const frmZj& form) {
   if (!RecordIsChosen(form)) return {};
-  const std::string id = form.lblKhName.Tag();
+  const std::string id = CurrentRecordId(form);
   const std::string name = form.lblKhName.Caption();
   const std::string refusal = WhatRefersTo(form, id);
   if (!refusal.empty()) {
@@ -133,11 +131,17 @@ std::optional<Commit> Delete(const frmZj& form) {
 }
 
 std::optional<Commit> Prepare(const frmZj& form) {
-  const std::string& action = form.cmdKhSave.Tag();
-  if (action == kAdd) return Add(form);
-  if (action == kChange) return Change(form);
-  if (action == kDelete) return Delete(form);
-  return Commit{};  // the empty statement is refused by the connection and reported as an error
+  switch (ArmedRecordAction(form)) {
+    case RecordAction::Add:
+      return Add(form);
+    case RecordAction::Change:
+      return Change(form);
+    case RecordAction::Delete:
+      return Delete(form);
+    default:
+      // The empty statement is refused by the connection and reported as an error.
+      return Commit{};
+  }
 }
 
 void EmptyRecord(frmZj& form) {
@@ -168,17 +172,17 @@ void DisarmRecord(frmZj& form) {
   LockRecord(form, true);
 }
 
-// Arms `action` (1 add, 2 change, 3 delete) on the record page.
+// Arms `action` (RecordAction) on the record page.
 void ArmRecordAction(frmZj& form, int action) {
   // An action that was armed before may have emptied or changed the boxes.
   if (form.cmdKhSave.Visible()) ShowRecord(form);
   form.cmdKhSave.SetTag(std::to_string(action));
   form.cmdKhSave.SetCaption(form.mnuKhManage(action).Caption());
   ShowRecordButtons(form, true);
-  if (form.cmdKhSave.Tag() == kAdd) EmptyRecord(form);
-  LockRecord(form, form.cmdKhSave.Tag() == kDelete);
-  form.SSTab1.SetTab(1);
-  form.SetFocus(form.txtAcnt(0));
+  if (action == RecordAction::Add) EmptyRecord(form);
+  LockRecord(form, action == RecordAction::Delete);
+  form.SSTab1.SetTab(RegisterTab::Record);
+  form.SetFocus(form.txtAcnt(RecordBox::Code));
 }
 
 void SaveRecord(frmZj& form) {
@@ -189,14 +193,17 @@ void SaveRecord(frmZj& form) {
           box::kInformation);
   DisarmRecord(form);
   // A record that is gone must not stay current where no other takes its place.
-  if (form.cmdKhSave.Tag() == kDelete) ForgetRecord(form);
+  if (ArmedRecordAction(form) == RecordAction::Delete) {
+    ForgetRecord(form);
+    CaptionNoRecord(form);
+  }
   LoadRegister(form, form.registerCondition);
 }
 
 void LeaveRecordEditing(frmZj& form) {
   DisarmRecord(form);
   ShowRecord(form);
-  form.SSTab1.SetTab(0);
+  form.SSTab1.SetTab(RegisterTab::List);
   form.SetFocus(form.Grid1);
 }
 

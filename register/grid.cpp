@@ -8,7 +8,9 @@
 #include "ledger/query.h"
 #include "platform/basic/number.h"
 #include "register/detail.h"
+#include "screen/current.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 
 namespace qvzj {
 namespace {
@@ -37,17 +39,20 @@ bool EntryIsKeyed(const frmZj& form) {
 // The entry that is being keyed follows the register: it moves to the new record, and its
 // direction to what the record is for (a supplier is paid, a sales dealer pays).
 void CarryIntoEntry(frmZj& form) {
-  form.txtAcnt2(2).SetText(form.lblKhName.Caption());
-  form.txtAcnt2(2).SetTag(form.lblKhName.Tag());
-  if (form.optKhType(1).Selected() && !form.optType2(2).Selected()) form.optType2(2).Select();
-  if (form.optKhType(2).Selected() && !form.optType2(1).Selected()) form.optType2(1).Select();
+  form.txtAcnt2(EntryBox::Record).SetText(form.lblKhName.Caption());
+  form.txtAcnt2(EntryBox::Record).SetTag(CurrentRecordId(form));
+  if (form.optKhType(CustomerType::Supplier).Selected() &&
+      !form.optType2(Direction::Out).Selected())
+    form.optType2(Direction::Out).Select();
+  if (form.optKhType(CustomerType::Dealer).Selected() && !form.optType2(Direction::In).Selected())
+    form.optType2(Direction::In).Select();
 }
 
 void EnterRow(frmZj& form, int32_t row, int32_t new_row) {
   if (new_row == row || new_row < 1) return;
   ShowRegisterRow(form, new_row);
   if (EntryIsKeyed(form)) CarryIntoEntry(form);
-  if (form.OptSelect(2).Selected()) LoadLedger(form, LedgerCondition(form));
+  if (form.OptSelect(Selection::Single).Selected()) LoadLedger(form, LedgerCondition(form));
 }
 
 }  // namespace
@@ -59,9 +64,9 @@ void ShowRegisterRow(frmZj& form, int32_t row) {
   }
   const int32_t id_column = grid.ColumnCount();
   if (form.mode == kCustomers) SelectType(form, grid.CellNumber(id_column - 1, row));
-  form.lblKhName.SetCaption(form.txtAcnt(1).Text());
+  form.lblKhName.SetCaption(form.txtAcnt(RecordBox::Name).Text());
   form.lblKhName.SetTag(basic::NumberText(grid.CellNumber(id_column, row)));
-  if (form.fraKhMemo.Visible()) LoadRegisterDetail(form, form.lblKhName.Tag());
+  if (form.fraKhMemo.Visible()) LoadRegisterDetail(form, CurrentRecordId(form));
 }
 
 void ConnectRegisterGrid(frmZj& form) {
@@ -69,7 +74,7 @@ void ConnectRegisterGrid(frmZj& form) {
     if (row == 0) SortRegister(form, column);
   };
   form.Grid1.onDblClick = [&form](int32_t, int32_t row) {
-    if (row > 0) form.SSTab1.SetTab(1);
+    if (row > 0) form.SSTab1.SetTab(RegisterTab::Record);
   };
   form.Grid1.onLeaveCell = [&form](int32_t, int32_t row, int32_t, int32_t new_row, bool&) {
     EnterRow(form, row, new_row);

@@ -10,8 +10,11 @@
 #include "platform/basic/text.h"
 #include "register/grid.h"
 #include "register/table.h"
+#include "screen/current.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "screen/keys.h"
+#include "screen/loading.h"
 #include "services/connect.h"
 
 namespace qvzj {
@@ -76,12 +79,12 @@ int32_t RowOfRecord(const basic::Column& ids, const std::string& tag) {
   return 1;
 }
 
-/// Moves the records into the grid, whole columns at a time. Answers the row to select.
+// Moves the records into the grid, whole columns at a time. Answers the row to select.
 int32_t FillRegister(frmZj& form, data::Recordset rows) {
   ui::Grid& grid = form.Grid1;
   grid.SetRowCount(rows.RecordCount());
   const int id_field = rows.FieldCount() - 1;
-  const int32_t selected = RowOfRecord(rows.ColumnAt(id_field), form.lblKhName.Tag());
+  const int32_t selected = RowOfRecord(rows.ColumnAt(id_field), CurrentRecordId(form));
   for (int32_t column = 1; column <= grid.ColumnCount(); ++column) {
     grid.TakeColumn(column, rows.TakeColumn(column - 1));
   }
@@ -98,24 +101,22 @@ void ClearSortArrows(frmZj& form) {
 }  // namespace
 
 void LoadRegister(frmZj& form, const std::string& condition) {
-  form.SetMousePointer(ui::MousePointer::Hourglass);
+  const Hourglass hourglass(form);
   ui::Grid& grid = form.Grid1;
-  grid.SetRowCount(0);
-  grid.SetVisible(false);
+  GridFilling filling(grid);
   ClearSortArrows(form);
   const int32_t selected = FillRegister(form, OpenRegister(form, condition));
   if (grid.RowCount() > 0) {
     grid.SetActive(2, selected);
     ShowRegisterRow(form, selected);
   }
-  grid.SetVisible(true);
+  filling.Show();
   form.lblKhTotal.SetCaption("(共" + std::to_string(grid.RowCount()) + "个)");
   if (grid.RowCount() > 0) {
-    form.SSTab1.SetTab(0);
+    form.SSTab1.SetTab(RegisterTab::List);
     form.SetFocus(grid);
   }
   LoadLedger(form, LedgerCondition(form));
-  form.SetMousePointer(ui::MousePointer::Default);
 }
 
 void LoadAccountNames(frmZj& form) {
@@ -135,7 +136,7 @@ namespace {
 void ReorderLists(frmZj& form) {
   if (form.mode == kCustomers) {
     LoadAccountNames(form);
-    SelectAccountById(form, basic::ToInt32(basic::Val(form.cboAcntName.Tag())));
+    SelectAccountById(form, basic::ToInt32(basic::Val(LinkedAccountId(form))));
   }
   LoadRegister(form, form.registerCondition);
 }

@@ -5,6 +5,7 @@
 #include "ledger/query.h"
 #include "register/list.h"
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 #include "screen/keys.h"
 #include "services/query.h"
 
@@ -13,9 +14,9 @@ namespace {
 
 // A customer of type 0 both supplies and sells and belongs to every type asked for.
 std::string CustomerTypeCondition(const frmZj& form) {
-  if (form.mode == kAccounts || form.optSeek(0).Selected()) return "";
-  if (form.optSeek(1).Selected()) return "(a.fType0=0 or a.fType0=1)";
-  if (form.optSeek(2).Selected()) return "(a.fType0=0 Or a.fType0=2)";
+  if (form.mode == kAccounts || form.optSeek(CustomerType::All).Selected()) return "";
+  if (form.optSeek(CustomerType::Supplier).Selected()) return "(a.fType0=0 or a.fType0=1)";
+  if (form.optSeek(CustomerType::Dealer).Selected()) return "(a.fType0=0 Or a.fType0=2)";
   return "(a.fType0=0 Or a.fType0=3)";
 }
 

@@ -1,6 +1,7 @@
 #include "register/table.h"
 
 #include "platform/basic/number.h"
+#include "screen/current.h"
 #include "screen/frmZj.h"
 #include "services/query.h"
 
@@ -13,7 +14,7 @@ std::string RegisterTable(const frmZj& form) {
 int32_t NewRecordId(const std::string& table) { return basic::ToInt32(MaxOf("fID", table) + 1.0); }
 
 bool HasCurrentRecord(const frmZj& form) {
-  const std::string& id = form.lblKhName.Tag();
+  const std::string& id = CurrentRecordId(form);
   return basic::IsNumeric(id) && basic::Val(id) != 0;
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "screen/frmZj.h"
+#include "screen/indexes.h"
 
 namespace qvzj {
 namespace {
@@ -16,7 +17,7 @@ void Place(ui::Control& control, int32_t left, int32_t top, int32_t width,
   control.SetBounds({left, top, std::max(width, 0), height});
 }
 
-/// A field with what names it on its left, together `width` wide.
+// A field with what names it on its left, together `width` wide.
 void PlacePair(ui::Control& name, ui::Control& field, int32_t left, int32_t top, int32_t width,
                int32_t name_width) {
   Place(name, left, top, name_width);
@@ -25,7 +26,7 @@ void PlacePair(ui::Control& name, ui::Control& field, int32_t left, int32_t top,
 
 constexpr int32_t kWidestColumn = 6000;
 
-/// `count` equal columns between the paddings of a panel; on a wide screen they stop growing.
+// `count` equal columns between the paddings of a panel; on a wide screen they stop growing.
 struct Split {
   Split(int32_t panel_width, int32_t count)
       : width(std::min((panel_width - 2 * kPad - (count - 1) * kPad) / count, kWidestColumn)) {}
@@ -115,10 +116,10 @@ void ArrangeEntryHead(frmZj& form, const EntryColumns& column) {
   constexpr int32_t kTop = 150;
   constexpr int32_t kTitle = 990;
   Place(form.lblAcntTitle, column.left[0], kTop, kTitle, kButton);
-  PlacePair(form.lblAcnt2(5), form.txtAcnt2(5), column.left[0] + kTitle, kTop + 30,
-            column.width[0] - kTitle, 480);
+  PlacePair(form.lblAcnt2(EntryBox::Balance), form.txtAcnt2(EntryBox::Balance),
+            column.left[0] + kTitle, kTop + 30, column.width[0] - kTitle, 480);
   constexpr int32_t kName = 660;
-  Place(form.lblAcnt2(11), column.left[1], kTop, kName, kButton);
+  Place(form.lblAcnt2(EntryBox::Checker), column.left[1], kTop, kName, kButton);
   const int32_t checker = column.width[1] - kName - 100;
   Place(form.lblSHR, column.left[1] + kName + 50, kTop + 45, checker, 300);
   Place(form.fraSHR, column.left[1] + kName, kTop, checker + 100, kButton);
@@ -155,19 +156,19 @@ void ArrangeEntryPanel(frmZj& form) {
     PlacePair(name, field, column.left[at], top(row), column.width[at], kEntryLabel);
   };
   ArrangeEntryHead(form, column);
-  pair(form.lblAcnt2(0), form.dtpAcntDate, 0, 0);
-  pair(form.lblAcnt2(1), form.txtAcnt2(1), 0, 1);
-  pair(form.lblAcnt2(2), form.txtAcnt2(2), 0, 2);
+  pair(form.lblAcnt2(EntryBox::Date), form.dtpAcntDate, 0, 0);
+  pair(form.lblAcnt2(EntryBox::Number), form.txtAcnt2(EntryBox::Number), 0, 1);
+  pair(form.lblAcnt2(EntryBox::Record), form.txtAcnt2(EntryBox::Record), 0, 2);
   ArrangeDirection(form, column, top(1));
-  pair(form.lblAcnt2(3), form.txtAcnt2(3), 1, 1);
-  pair(form.lblAcnt2(4), form.txtAcnt2(4), 1, 2);
+  pair(form.lblAcnt2(EntryBox::MoneyA), form.txtAcnt2(EntryBox::MoneyA), 1, 1);
+  pair(form.lblAcnt2(EntryBox::MoneyB), form.txtAcnt2(EntryBox::MoneyB), 1, 2);
   ArrangeMoney(form, column, top(2));
-  PlacePair(form.lblAcnt2(6), form.txtAcnt2(6), column.left[0], top(3),
+  PlacePair(form.lblAcnt2(EntryBox::Brief), form.txtAcnt2(EntryBox::Brief), column.left[0], top(3),
             column.left[1] + column.width[1] - column.left[0], kEntryLabel);
-  pair(form.lblAcnt2(7), form.txtAcnt2(7), 3, 2);
-  pair(form.lblAcnt2(8), form.txtAcnt2(8), 4, 0);
-  pair(form.lblAcnt2(9), form.txtAcnt2(9), 4, 1);
-  pair(form.lblAcnt2(10), form.cboDoneMan, 4, 2);
+  pair(form.lblAcnt2(EntryBox::InvID), form.txtAcnt2(EntryBox::InvID), 3, 2);
+  pair(form.lblAcnt2(EntryBox::OrderID), form.txtAcnt2(EntryBox::OrderID), 4, 0);
+  pair(form.lblAcnt2(EntryBox::User), form.txtAcnt2(EntryBox::User), 4, 1);
+  pair(form.lblAcnt2(EntryBox::Doneman), form.cboDoneMan, 4, 2);
 }
 
 void ArrangeTotals(frmZj& form) {
@@ -215,11 +216,11 @@ void ArrangeFilter(frmZj& form) {
   constexpr int32_t kWide = 1140;
   Place(form.cmdAcntRefresh, column.Left(2) + column.width - kWide, kFrameTop - 30, kWide, kButton);
 
-  pair(form.chkDate(0), form.dtpDate(0), 1, 0);
-  pair(form.chkDate(1), form.dtpDate(1), 1, 1);
-  pair(form.chkID(0), form.txtID(0), 1, 2);
-  pair(form.chkID(1), form.txtID(1), 2, 0);
-  pair(form.chkID(2), form.txtID(2), 2, 1);
+  pair(form.chkDate(FilterBox::From), form.dtpDate(FilterBox::From), 1, 0);
+  pair(form.chkDate(FilterBox::To), form.dtpDate(FilterBox::To), 1, 1);
+  pair(form.chkID(FilterBox::AcntNo), form.txtID(FilterBox::AcntNo), 1, 2);
+  pair(form.chkID(FilterBox::InvID), form.txtID(FilterBox::InvID), 2, 0);
+  pair(form.chkID(FilterBox::OrderID), form.txtID(FilterBox::OrderID), 2, 1);
   pair(form.chkBrief, form.txtBrief, 2, 2);
   for (int i = 0; i < form.chkUser.Count(); ++i) pair(form.chkUser(i), form.txtUser(i), 3, i);
 }

@@ -7,6 +7,8 @@ Context& Shared() {
   return context;
 }
 
+Language CurrentLanguage() { return LanguageOf(Shared().Language); }
+
 void ResetShared() { Shared() = Context{}; }
 
 }  // namespace qvzj

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/data/connection.h"
+#include "platform/language.h"
 
 namespace qvzj {
 
@@ -21,7 +22,7 @@ struct Context {
   std::string PowerPath;  ///< folder of the user-rights database
   std::string myPower = std::string(350, '0');  ///< function rights, one digit a function
   double myDate = 0;     ///< working date, days since 30 Dec 1899; kept, not read
-  int16_t Language = 0;  ///< 0 simplified, 1 traditional Chinese
+  int16_t Language = 0;  ///< 0 simplified, 1 traditional Chinese; see CurrentLanguage
   std::string UserPath;  ///< data folder, or the server's details
   std::string Password = "0";
   int16_t SQLData = 0;  ///< 0 desktop database, otherwise a server
@@ -37,6 +38,8 @@ struct Context {
 
 /// The one set of shared values.
 Context& Shared();
+/// The language that the host chose for the screen.
+Language CurrentLanguage();
 /// Puts every shared value back to what a freshly loaded component holds (closing `cnData`).
 void ResetShared();
 

@@ -10,7 +10,7 @@
 namespace qvzj {
 namespace {
 
-/// Distance of the traditional text's id from the simplified one's.
+// Distance of the traditional text's id from the simplified one's.
 constexpr int16_t kTraditional = 10000;
 
 struct Row {
@@ -132,6 +132,10 @@ std::string LoadText(int16_t id) {
   const char* text = Find(key);
   if (!text) throw ResourceNotFoundError(key);
   return text;
+}
+
+std::string LoadText(const BothTexts& texts) {
+  return CurrentLanguage() == Language::Traditional ? texts.traditional : texts.simplified;
 }
 
 }  // namespace qvzj

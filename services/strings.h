@@ -10,4 +10,12 @@ namespace qvzj {
 /// and ResourceNotFoundError when the table has no such text.
 std::string LoadText(int16_t id);
 
+/// A text in both languages.
+struct BothTexts {
+  const char* simplified;
+  const char* traditional;
+};
+/// The one of both texts that is in the current language.
+std::string LoadText(const BothTexts& texts);
+
 }  // namespace qvzj

@@ -15,6 +15,7 @@ inline constexpr int16_t kPayable = 11;          ///< 应付
 inline constexpr int16_t kReceived = 12;         ///< 实收
 inline constexpr int16_t kPaid = 13;             ///< 实付
 inline constexpr int16_t kCustomerLedger = 14;   ///< 往来总帐
+inline constexpr int16_t kFunds = 15;            ///< 资金
 inline constexpr int16_t kSave = 16;             ///< 存盘
 inline constexpr int16_t kContact = 17;          ///< 联系
 inline constexpr int16_t kList = 19;             ///< 列表

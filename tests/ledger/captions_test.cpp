@@ -126,5 +126,47 @@ TEST_F(Captions, ComeFromTheTraditionalTableInTraditionalChinese) {
   EXPECT_EQ(form.chkAcntInit.Caption(), "期初金额");
 }
 
+TEST_F(Captions, WriteTheFieldsWithoutAStringOfTheTableInTheLanguageAndKeepTheFixedOnes) {
+  Shared().Language = 1;
+  frmZj& form = Open();
+  EXPECT_EQ(form.lblHb.Caption(), "幣種");
+  EXPECT_EQ(form.lblHb2.Caption(), "幣種");
+  EXPECT_EQ(form.lblHbRate.Caption(), "匯率");
+  EXPECT_EQ(form.chkAcntName.Caption(), "資金帳戶");
+  EXPECT_EQ(form.chkUser(2).Caption(), "審核人:");
+  EXPECT_EQ(form.lblAcnt2(3).Caption(), "應收/應付");
+  EXPECT_EQ(form.mnuKh.Caption(), "客戶");
+  EXPECT_EQ(form.lblAcnt(2).Caption(), "联系人");
+  EXPECT_EQ(form.lblAcnt(3).Caption(), "开户行");
+  EXPECT_EQ(form.lblAcnt2(5).Caption(), "余额");
+}
+
+TEST_F(Captions, SayThatNoRecordIsCurrentWhereTheRegisterIsEmpty) {
+  world.Sql("delete from cards;");
+  EXPECT_EQ(Open().lblKhName.Caption(), "客户名称");
+}
+
+TEST_F(Captions, WriteTheSearchPageAndTheTypesInSimplifiedChinese) {
+  frmZj& form = Open();
+  EXPECT_EQ(form.chkSeek(0).Caption(), "客户编号:");
+  EXPECT_EQ(form.chkSeek2.Caption(), "限定：已发生[往来帐目]的客户");
+  EXPECT_EQ(form.optSeek(0).Caption(), "全部");
+  EXPECT_EQ(form.optKhType(3).Caption(), "代销商");
+  EXPECT_EQ(form.fraKhType.Caption(), "客户类型");
+  EXPECT_EQ(form.txtSeekMsg.Text(), "<供销商>可任意归入\n\n----<供应商> <销售商> <代销商>");
+  EXPECT_TRUE(form.txtSeekMsg.Locked());
+}
+
+TEST_F(Captions, WriteTheSearchPageAndTheTypesInTraditionalChinese) {
+  Shared().Language = 1;
+  frmZj& form = Open();
+  EXPECT_EQ(form.chkSeek(0).Caption(), "客戶編號:");
+  EXPECT_EQ(form.chkSeek(6).Caption(), "電話:");
+  EXPECT_EQ(form.chkSeek2.Caption(), "限定：已發生[往来帳目]的客戶");
+  EXPECT_EQ(form.optSeek(1).Caption(), "供應商");
+  EXPECT_EQ(form.optKhType(0).Caption(), "供銷商");
+  EXPECT_EQ(form.txtSeekMsg.Text(), "<供銷商>可任意歸入\n\n----<供應商> <銷售商> <代銷商>");
+}
+
 }  // namespace
 }  // namespace qvzj::test

@@ -43,7 +43,6 @@ TEST(Design, HidesThePanelsThatAnActionOpens) {
 
 TEST(Design, KeepsNothingCurrentInTheTags) {
   frmZj form;
-  EXPECT_EQ(form.lblKhName.Caption(), "客户名称");
   EXPECT_EQ(form.lblKhName.Tag(), "0");
   EXPECT_EQ(form.chkAcntInit.Tag(), "0");
   EXPECT_EQ(form.cmdAcntSave.Tag(), "0");
@@ -74,13 +73,6 @@ TEST(Design, LimitsTheRecordPageToTheColumnsLengths) {
   }
 }
 
-TEST(Design, SaysTheTypeRuleInTheSearchFrame) {
-  frmZj form;
-  EXPECT_EQ(form.txtSeekMsg.Text(), "<供销商>可任意归入\n\n----<供应商> <销售商> <代销商>");
-  EXPECT_TRUE(form.txtSeekMsg.Locked());
-  EXPECT_EQ(form.chkSeek2.Caption(), "限定：已发生[往来帐目]的客户");
-}
-
 TEST(Design, LeadsThroughTheEntryInTheOrderOfKeying) {
   frmZj form;
   const std::vector<ui::Control*> order = {
@@ -109,33 +101,6 @@ TEST(Design, GivesEveryControlThatTakesTheFocusItsOwnPlaceInTheTabOrder) {
   }
   std::sort(places.begin(), places.end());
   EXPECT_EQ(std::adjacent_find(places.begin(), places.end()), places.end());
-}
-
-TEST(DesignCaptions, WritesItsOwnCaptionsInTheLanguageAndKeepsTheFixedOnes) {
-  frmZj form;
-  EXPECT_EQ(form.cmdAction(0).Caption(), "帐目查看(&V)");
-  DesignCaptions(form, 1);
-  EXPECT_EQ(form.cmdAction(0).Caption(), "帳目查看(&V)");
-  EXPECT_EQ(form.lblHb.Caption(), "幣種");
-  EXPECT_EQ(form.lblAcnt(2).Caption(), "联系人");
-  EXPECT_EQ(form.lblAcnt(3).Caption(), "开户行");
-  EXPECT_EQ(form.lblAcnt2(5).Caption(), "余额");
-}
-
-TEST(DesignCaptions, WritesTheSearchPageAndTheTypesInTheLanguage) {
-  frmZj form;
-  DesignCaptions(form, 1);
-  EXPECT_EQ(form.chkSeek(0).Caption(), "客戶編號:");
-  EXPECT_EQ(form.chkSeek(6).Caption(), "電話:");
-  EXPECT_EQ(form.chkSeek2.Caption(), "限定：已發生[往来帳目]的客戶");
-  EXPECT_EQ(form.optSeek(1).Caption(), "供應商");
-  EXPECT_EQ(form.optKhType(0).Caption(), "供銷商");
-  EXPECT_EQ(form.txtSeekMsg.Text(), "<供銷商>可任意歸入\n\n----<供應商> <銷售商> <代銷商>");
-  DesignCaptions(form, 0);
-  EXPECT_EQ(form.chkSeek(0).Caption(), "客户编号:");
-  EXPECT_EQ(form.chkSeek2.Caption(), "限定：已发生[往来帐目]的客户");
-  EXPECT_EQ(form.optSeek(0).Caption(), "全部");
-  EXPECT_EQ(form.optKhType(3).Caption(), "代销商");
 }
 
 TEST(ResetForm, TakesBackWhatWorkHasChanged) {

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+
+#include "services/strings.h"
+
+/// Texts of the form that have no id in the string table. Some read the same in both languages.
+namespace qvzj::form_text {
+
+inline constexpr BothTexts kNoRecord = {"客户名称", "客户名称"};  ///< in place of a record's name
+inline constexpr BothTexts kContactPerson = {"联系人", "联系人"};
+inline constexpr BothTexts kBank = {"开户行", "开户行"};
+inline constexpr BothTexts kCustomerType = {"客户类型", "客戶類型"};
+/// In the order of the type codes 0 to 3.
+inline constexpr std::array<BothTexts, 4> kCustomerTypes = {
+    {{"供销商", "供銷商"}, {"供应商", "供應商"}, {"销售商", "銷售商"}, {"代销商", "代銷商"}}};
+/// Captions of the search page, in the order of its boxes.
+inline constexpr std::array<BothTexts, 7> kSearchFields = {{{"客户编号:", "客戶編號:"},
+                                                            {"客户单位:", "客戶單位:"},
+                                                            {"联系人:", "聯系人:"},
+                                                            {"所属地区:", "所屬地區:"},
+                                                            {"所属城市:", "所屬城市:"},
+                                                            {"邮编:", "郵編:"},
+                                                            {"电话:", "電話:"}}};
+inline constexpr BothTexts kOnlyWithEntries = {"限定：已发生[往来帐目]的客户",
+                                               "限定：已發生[往来帳目]的客戶"};
+inline constexpr BothTexts kTypeRule = {"<供销商>可任意归入\n\n----<供应商> <销售商> <代销商>",
+                                        "<供銷商>可任意歸入\n\n----<供應商> <銷售商> <代銷商>"};
+inline constexpr BothTexts kCurrency = {"币种", "幣種"};
+inline constexpr BothTexts kRate = {"汇率", "匯率"};
+inline constexpr BothTexts kNoTaskComponent = {"联系记录组件 [qvTask] 未安装 !",
+                                               "聯系記錄組件 [qvTask] 未安裝 !"};
+
+}  // namespace qvzj::form_text
