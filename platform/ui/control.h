@@ -39,7 +39,8 @@ enum class Aspect {
   Focus,
   Tabs,
   GridContents,  ///< rows, columns, headers or colours: repaint everything
-  GridCurrent,   ///< the active cell moved
+  GridCurrent,   ///< the active cell moved, or should be brought into sight again
+  GridMarked,    ///< a row should be brought into sight and marked for a moment
   WindowState,
   MousePointer,
   Closed  ///< the form was unloaded
@@ -73,7 +74,11 @@ class Control {
   const std::string& Tag() const { return tag_; }
   void SetTag(std::string tag) { tag_ = std::move(tag); }
   bool Enabled() const { return enabled_; }
-  void SetEnabled(bool enabled);
+  /// `reason` says to the user why the control is disabled, as one short sentence; an enabled one
+  /// has none.
+  void SetEnabled(bool enabled, std::string reason = {});
+  /// Why the control, or the container that disables it, cannot be used; "" when nobody said.
+  const std::string& DisabledReason() const;
   /// The control's own flag; a hidden container or tab page hides it as well.
   bool Visible() const { return visible_; }
   void SetVisible(bool visible);
@@ -104,6 +109,9 @@ class Control {
   std::function<void(int& key)> onKeyPress;
   std::function<void()> onGotFocus;
   std::function<void()> onLostFocus;
+  /// Esc was pressed in the control, or in one that it holds, and nothing nearer to the focus had a
+  /// use for it; clearing `used` passes it on to the container.
+  std::function<void(bool& used)> onEscape;
   /// The user wants to leave the control; setting `cancel` keeps the focus in it.
   std::function<void(bool& cancel)> onValidate;
 
@@ -125,6 +133,7 @@ class Control {
   std::string caption_;
   std::string tag_;
   std::string accessible_name_;
+  std::string disabled_reason_;
   Bounds bounds_;
   int tab_index_ = 0;
   bool enabled_ = true;

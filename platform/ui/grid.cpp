@@ -36,6 +36,12 @@ void Grid::ContentsChanged() {
 
 void Grid::Reappeared() {
   if (std::exchange(changed_while_hidden_, false)) Changed(Aspect::GridContents);
+  if (std::exchange(marked_while_hidden_, false)) Changed(Aspect::GridMarked);
+}
+
+void Grid::CellsChanged(int32_t column) {
+  if (column == sort_column_) sorted_ = false;
+  ContentsChanged();
 }
 
 void Grid::SetColumnCount(int32_t count) {
@@ -52,6 +58,8 @@ void Grid::SetColumnCount(int32_t count) {
 
 void Grid::SetRowCount(int32_t count) {
   if (count < 0) throw std::out_of_range(FullName() + ": negative row count");
+  sorted_ = false;
+  marked_row_ = 0;
   if (count == row_count_ && order_.Empty()) return;
   order_ = {};
   const auto rows = static_cast<size_t>(count);
@@ -136,12 +144,12 @@ void Grid::SetCellText(int32_t column, int32_t row, std::string_view text) {
     if (cells.Text(stored) == text) return;
     cells.SetText(stored, text);
   }
-  ContentsChanged();
+  CellsChanged(column);
 }
 
 void Grid::SetCellNumber(int32_t column, int32_t row, double value) {
   Info(column).cells.SetReal(StoredRow(row), value);
-  ContentsChanged();
+  CellsChanged(column);
 }
 
 void Grid::TakeColumn(int32_t column, basic::Column&& values) {
@@ -152,7 +160,7 @@ void Grid::TakeColumn(int32_t column, basic::Column&& values) {
   }
   info.cells = std::move(values);
   info.cells.Fit();
-  ContentsChanged();
+  CellsChanged(column);
 }
 
 void Grid::NegateColumn(int32_t column) {
@@ -162,7 +170,7 @@ void Grid::NegateColumn(int32_t column) {
                                              cells.TextView(row).empty());
     if (!empty) cells.SetReal(row, 0 - cells.Number(row));
   }
-  ContentsChanged();
+  CellsChanged(column);
 }
 
 const basic::Column& Grid::Stored(int32_t column) const { return Info(column).cells; }
@@ -196,10 +204,25 @@ void Grid::SetSortKey(int32_t column, SortOrder order) {
   if (column != 0) Info(column);
   sort_column_ = column;
   sort_order_ = order;
+  sorted_ = false;
+}
+
+/// The shown row of a stored one; 0 for none.
+int32_t Grid::ShownRow(size_t stored) const {
+  if (order_.Empty()) return static_cast<int32_t>(stored) + 1;
+  for (size_t row = 0; row < order_.Size(); ++row) {
+    if (order_[row] == stored) return static_cast<int32_t>(row) + 1;
+  }
+  return 0;
 }
 
 void Grid::Sort(const TextOrder* order) {
-  if (sort_column_ < 1 || sort_column_ > ColumnCount() || sort_order_ == SortOrder::None) {
+  const bool keyed =
+      sort_column_ >= 1 && sort_column_ <= ColumnCount() && sort_order_ != SortOrder::None;
+  const auto stored = [this](int32_t row) { return row > 0 ? StoredRow(row) : 0; };
+  const size_t active = stored(active_row_);
+  const size_t marked = stored(marked_row_);
+  if (!keyed) {
     order_ = {};
   } else {
     if (order_.Empty()) {
@@ -208,7 +231,11 @@ void Grid::Sort(const TextOrder* order) {
     }
     SortRows(Stored(sort_column_), sort_order_ == SortOrder::Descending, order, order_);
   }
+  sorted_ = keyed;
+  if (active_row_ > 0) active_row_ = ShownRow(active);
+  if (marked_row_ > 0) marked_row_ = ShownRow(marked);
   ContentsChanged();
+  if (active_row_ > 0) ShowActive();
 }
 
 void Grid::SetActive(int32_t column, int32_t row) {
@@ -217,10 +244,24 @@ void Grid::SetActive(int32_t column, int32_t row) {
   if (column == active_column_ && row == active_row_) return;
   active_column_ = column;
   active_row_ = row;
+  ShowActive();
+}
+
+void Grid::ShowActive() {
   if (Visible()) {
     Changed(Aspect::GridCurrent);
   } else {
     changed_while_hidden_ = true;
+  }
+}
+
+void Grid::MarkRow(int32_t row) {
+  CheckRow(row);
+  marked_row_ = row;
+  if (Visible()) {
+    Changed(Aspect::GridMarked);
+  } else {
+    marked_while_hidden_ = true;
   }
 }
 

@@ -93,15 +93,24 @@ class Grid : public Control {
   /// Sets the first sort key (column 0: none) without sorting.
   void SetSortKey(int32_t column, SortOrder order);
   /// Orders the rows by the sort key; equal keys keep their order. Numbers and dates order by
-  /// value, texts by `order` (null: by their bytes), empty cells before all others in either
-  /// order. The active cell keeps its place on the screen. Without a sort key the rows go back to
-  /// the order in which they were filled.
+  /// value, texts by `order` (null: by their bytes), empty cells behind all others in either order:
+  /// who sorts a column looks for what stands in it. The active row goes where its cells go.
+  /// Without a sort key the rows go back to the order in which they were filled.
   void Sort(const TextOrder* order);
+  /// The column by whose present values the rows stand in GetSortOrder(); 0 once they were filled
+  /// anew or the column's cells have changed. An arrow belongs to this column alone.
+  int32_t SortedColumn() const { return sorted_ ? sort_column_ : 0; }
 
   int32_t ActiveColumn() const { return active_column_; }
   int32_t ActiveRow() const { return active_row_; }
   /// Makes a cell the active one (row 0: none); no event.
   void SetActive(int32_t column, int32_t row);
+  /// Brings the active cell into sight again where the front end shows only a part of the rows.
+  void ShowActive();
+  /// Brings a row into sight and marks it for a moment: something has just happened to it.
+  void MarkRow(int32_t row);
+  /// The row that was marked last; 0 when it is not there any more.
+  int32_t MarkedRow() const { return marked_row_; }
   /// Rows that PageUp and PageDown move by; a front end sets what it shows at once.
   int32_t PageRows() const { return page_rows_; }
   void SetPageRows(int32_t rows) { page_rows_ = rows < 1 ? 1 : rows; }
@@ -137,6 +146,8 @@ class Grid : public Control {
   const ColumnInfo& Info(int32_t column) const;
   void CheckRow(int32_t row) const;
   void ContentsChanged();
+  void CellsChanged(int32_t column);
+  int32_t ShownRow(size_t stored) const;
   void Reappeared() override;
 
   std::vector<ColumnInfo> columns_;
@@ -150,7 +161,10 @@ class Grid : public Control {
   int32_t active_row_ = 0;
   int32_t row_height_ = 300;
   int32_t page_rows_ = 20;
+  int32_t marked_row_ = 0;
+  bool sorted_ = false;
   bool changed_while_hidden_ = false;
+  bool marked_while_hidden_ = false;
 };
 
 }  // namespace qvzj::ui

@@ -67,13 +67,14 @@ void SortItems(std::span<Item<Key>> items, std::vector<Item<Key>>& spare) {
   if (from.data() != items.data()) std::copy(from.begin(), from.end(), items.begin());
 }
 
-/// `key_of` answers the ascending key of a row, 0 for an empty one.
+/// `key_of` answers the ascending key of a row, 0 for an empty one, which comes out as the greatest
+/// key in either order.
 template <class Key, class KeyOf>
 void SortByKey(Buffer<uint32_t>& rows, bool descending, KeyOf key_of) {
   std::vector<Item<Key>> items(rows.Size());
   for (size_t i = 0; i < rows.Size(); ++i) {
     const Key key = key_of(rows[i]);
-    items[i] = {descending ? static_cast<Key>(Key{0} - key) : key, rows[i]};  // 0 stays first
+    items[i] = {descending ? static_cast<Key>(~key) : static_cast<Key>(key - 1), rows[i]};
   }
   std::vector<Item<Key>> spare;
   SortItems(std::span(items), spare);

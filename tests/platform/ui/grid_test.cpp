@@ -134,7 +134,7 @@ TEST(Grid, NegatesNumbersThatAreKeptAsIntegersOrTexts) {
   EXPECT_EQ(ColumnTexts(grid, 2), "-3.5||");
 }
 
-TEST(Grid, SortsNumbersByValueWithEmptyCellsFirst) {
+TEST(Grid, SortsNumbersByValueWithEmptyCellsLastInEitherOrder) {
   Screen screen;
   Grid& grid = screen.grid;
   grid.SetColumnCount(1);
@@ -142,9 +142,9 @@ TEST(Grid, SortsNumbersByValueWithEmptyCellsFirst) {
   const double values[] = {3, -2.5, 100, 0, -2.5};
   for (int32_t row = 1; row <= 5; ++row) grid.SetCellNumber(1, row, values[row - 1]);
   Sort(grid, 1, SortOrder::Ascending);
-  EXPECT_EQ(ColumnTexts(grid, 1), "|-2.5|-2.5|0|3|100|");
+  EXPECT_EQ(ColumnTexts(grid, 1), "-2.5|-2.5|0|3|100||");
   Sort(grid, 1, SortOrder::Descending);
-  EXPECT_EQ(ColumnTexts(grid, 1), "|100|3|0|-2.5|-2.5|");
+  EXPECT_EQ(ColumnTexts(grid, 1), "100|3|0|-2.5|-2.5||");
 }
 
 TEST(Grid, SortsDatesAndIntegersByValue) {
@@ -169,10 +169,10 @@ TEST(Grid, SortsTextsByTheirBytesOrByAnOrder) {
   Screen screen;
   FillTexts(screen.grid, {"bb", "a", "", "ccc", "a", "abcdefgh", "abcdefg"});
   Sort(screen.grid, 1, SortOrder::Ascending);
-  EXPECT_EQ(ColumnTexts(screen.grid, 1), "|a|a|abcdefg|abcdefgh|bb|ccc|");
+  EXPECT_EQ(ColumnTexts(screen.grid, 1), "a|a|abcdefg|abcdefgh|bb|ccc||");
   const ByLength by_length;
   Sort(screen.grid, 1, SortOrder::Descending, &by_length);
-  EXPECT_EQ(ColumnTexts(screen.grid, 1), "|abcdefgh|abcdefg|ccc|bb|a|a|");
+  EXPECT_EQ(ColumnTexts(screen.grid, 1), "abcdefgh|abcdefg|ccc|bb|a|a||");
 }
 
 TEST(Grid, MakesTheSortKeyOfATextOnce) {
@@ -253,7 +253,7 @@ TEST(Grid, GoesBackToTheFilledOrderWithoutASortKey) {
   EXPECT_EQ(ColumnTexts(screen.grid, 1), "b|a|");
 }
 
-TEST(Grid, KeepsColoursWithTheirRowsAndTheActiveCellInItsPlace) {
+TEST(Grid, KeepsColoursAndTheActiveRowWithTheirCells) {
   Screen screen;
   FillTexts(screen.grid, {"b", "a", "c"});
   screen.grid.SetRowColor(1, 0xE0E0E0);
@@ -261,7 +261,7 @@ TEST(Grid, KeepsColoursWithTheirRowsAndTheActiveCellInItsPlace) {
   Sort(screen.grid, 1, SortOrder::Ascending);
   EXPECT_EQ(screen.grid.RowColor(2), 0xE0E0E0u);
   EXPECT_EQ(screen.grid.RowColor(1), std::nullopt);
-  EXPECT_EQ(screen.grid.ActiveRow(), 1);
+  EXPECT_EQ(screen.grid.ActiveRow(), 2);
   EXPECT_EQ(screen.grid.CellText(1, 2), "b");
   screen.grid.SetCellText(1, 2, "B");  // writes go to the shown row as well
   EXPECT_EQ(screen.grid.Stored(1).Text(0), "B");
@@ -284,6 +284,50 @@ TEST(Grid, ForgetsRowsColoursAndSortingWithItsRowCount) {
   EXPECT_EQ(grid.RowColor(2), std::nullopt);
   EXPECT_EQ(grid.ActiveRow(), 1);
   EXPECT_EQ(grid.GetSortOrder(), SortOrder::Ascending);
+}
+
+TEST(Grid, BringsTheActiveRowBackIntoSightAfterASort) {
+  Screen screen;
+  FillTexts(screen.grid, {"b", "a", "c"});
+  screen.changes.clear();
+  Sort(screen.grid, 1, SortOrder::Descending);
+  EXPECT_EQ(screen.Told(screen.grid, Aspect::GridCurrent), 1);
+}
+
+TEST(Grid, IsSortedOnlyWhileTheRowsStandInTheOrderOfTheColumn) {
+  Screen screen;
+  Grid& grid = screen.grid;
+  FillTexts(grid, {"b", "a", "c"});
+  EXPECT_EQ(grid.SortedColumn(), 0);
+  Sort(grid, 2, SortOrder::Descending);
+  EXPECT_EQ(grid.SortedColumn(), 2);
+  grid.SetCellText(1, 1, "elsewhere");
+  EXPECT_EQ(grid.SortedColumn(), 2);
+  grid.NegateColumn(2);
+  EXPECT_EQ(grid.SortedColumn(), 0);
+  Sort(grid, 1, SortOrder::Ascending);
+  FillTexts(grid, {"x", "w"});  // filled anew
+  EXPECT_EQ(grid.SortedColumn(), 0);
+  EXPECT_EQ(grid.SortColumn(), 1);  // what the next click on the header turns around
+  Sort(grid, 1, SortOrder::None);
+  EXPECT_EQ(grid.SortedColumn(), 0);
+}
+
+TEST(Grid, MarksARowThatKeepsItsMarkThroughASort) {
+  Screen screen;
+  Grid& grid = screen.grid;
+  FillTexts(grid, {"b", "a", "c"});
+  EXPECT_EQ(grid.MarkedRow(), 0);
+  grid.SetVisible(false);
+  grid.MarkRow(1);
+  EXPECT_EQ(screen.Told(grid, Aspect::GridMarked), 0);
+  grid.SetVisible(true);
+  EXPECT_EQ(screen.Told(grid, Aspect::GridMarked), 1);
+  Sort(grid, 1, SortOrder::Ascending);
+  EXPECT_EQ(grid.MarkedRow(), 2);
+  grid.SetRowCount(0);
+  EXPECT_EQ(grid.MarkedRow(), 0);
+  EXPECT_THROW(grid.MarkRow(1), std::out_of_range);
 }
 
 TEST(Grid, TellsNothingWhileItIsHiddenAndEverythingAtOnceAfterwards) {
