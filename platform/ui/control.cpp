@@ -46,7 +46,8 @@ void Control::SetCaption(std::string caption) {
   Changed(Aspect::Caption);
 }
 
-void Control::SetEnabled(bool enabled) {
+void Control::SetEnabled(bool enabled, std::string reason) {
+  disabled_reason_ = enabled ? std::string() : std::move(reason);
   if (enabled == enabled_) return;
   enabled_ = enabled;
   ReachChanged(Aspect::Enabled);
@@ -72,6 +73,11 @@ bool Control::OnScreen() const {
 }
 
 bool Control::Usable() const { return enabled_ && (!container_ || container_->Usable()); }
+
+const std::string& Control::DisabledReason() const {
+  const bool outer = enabled_ && container_ && !container_->Usable();
+  return outer ? container_->DisabledReason() : disabled_reason_;
+}
 
 bool Control::CanFocus() const { return TakesFocus(kind_) && OnScreen() && Usable(); }
 

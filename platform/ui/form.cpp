@@ -130,6 +130,12 @@ void Form::Notify(Control& control, Aspect aspect) {
   for (FormObserver* observer : told) observer->ControlChanged(control, aspect);
 }
 
+bool Form::Refuse(Control& control) {
+  const std::vector<FormObserver*> told = observers_;
+  for (FormObserver* observer : told) observer->KeyRefused(control);
+  return true;
+}
+
 void Form::Notify(Aspect aspect) {
   const std::vector<FormObserver*> told = observers_;
   for (FormObserver* observer : told) observer->FormChanged(*this, aspect);

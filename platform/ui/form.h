@@ -27,6 +27,10 @@ class FormObserver {
   virtual void FormChanged(Form& form, Aspect aspect) = 0;
   /// The form wants `menu` popped up at a place in form coordinates (twips).
   virtual void PopUpMenu(Form& form, MenuItem& menu, int32_t left, int32_t top) = 0;
+  /// A key of the user's did nothing at `control`, though keys of its kind are its business: a
+  /// character that the field cannot hold, an access key of a button that is disabled. It should be
+  /// heard or seen; where the control is disabled, its DisabledReason() says why.
+  virtual void KeyRefused(Control& control) { static_cast<void>(control); }
 };
 
 enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
@@ -110,6 +114,8 @@ class Form {
   bool UserChoose(ListBox& list, int32_t index);
   bool UserTab(Tabs& tabs, int tab);
   bool UserDate(DatePicker& picker, basic::Date date);
+  /// The user points at a part of a date, which the next digit goes to.
+  bool UserDatePart(DatePicker& picker, DatePart part);
   /// The user moves the active cell of a grid: onLeaveCell, the move, then onClick.
   bool UserCell(Grid& grid, int32_t column, int32_t row);
   bool UserHeader(Grid& grid, int32_t column);
@@ -141,6 +147,8 @@ class Form {
   void Join(Control& control);
   void Notify(Control& control, Aspect aspect);
   void Notify(Aspect aspect);
+  /// Tells the front ends of a key that did nothing; answers true, for the key is used up.
+  bool Refuse(Control& control);
   void Report(const char* text) const;
 
   /// Raises an event. The handler runs from a copy, so that it may replace or destroy itself.
@@ -182,8 +190,16 @@ class Form {
   bool Copy(EditBox& box, bool cut);
   void ReplaceSelection(EditBox& box, std::string inserted);
   void EditSelection(EditBox& box, const std::function<void(EditText&)>& edit);
-  void Revert(EditBox& box);
+  bool Revert(EditBox& box);
   void TextEdited(EditBox& box);
+
+  // Dates (form_dates.cpp).
+  bool DateKey(DatePicker& picker, const Key& key, int code);
+  bool DateClipboard(DatePicker& picker, char32_t letter);
+  bool KeyDate(DatePicker& picker, const std::function<bool(DateKeys&)>& key);
+  bool StepDate(DatePicker& picker, Key::Name name);
+  void TakeKeyedDate(Control* control);
+  static void DropKeyedDate(Control* control);
 
   // Keys (form_keys.cpp).
   bool HandleKey(const Key& key);
@@ -192,10 +208,12 @@ class Form {
   bool ComboKey(ComboBox& combo, const Key& key, int code);
   bool ListKey(ListBox& list, const Key& key, int code);
   bool TabsKey(Tabs& tabs, const Key& key);
-  bool DateKey(DatePicker& picker, const Key& key);
   bool GridKey(Grid& grid, const Key& key);
   bool AltKey(char32_t letter);
+  Control* BearerOf(char32_t letter) const;
+  Control* PrintButton() const;
   bool TurnTabs(bool backwards);
+  bool Escape();
 
   std::string name_;
   std::string caption_;
@@ -207,6 +225,7 @@ class Form {
   std::unordered_map<std::string, Control*> by_full_name_;
   std::vector<FormObserver*> observers_;
   Control* focused_ = nullptr;
+  Grid* last_list_ = nullptr;  // the grid that has the focus or had it last
   std::shared_ptr<Life> life_ = std::make_shared<Life>(Life::Open);
   int depth_ = 0;
   bool validating_ = false;

@@ -125,9 +125,9 @@ bool Form::PickDate(DatePicker& picker, basic::Date date) {
   if (date < basic::Date::FromYmd(100, 1, 1) || date > basic::Date::FromYmd(9999, 12, 31)) {
     return false;
   }
-  if (date == picker.Value()) return true;
+  const bool changed = date != picker.Value();
   picker.SetValue(date);
-  Raise(picker.onChange);
+  if (changed) Raise(picker.onChange);
   return true;
 }
 

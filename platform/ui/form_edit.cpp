@@ -79,14 +79,13 @@ bool Form::EditKey(EditBox& box, const Key& key, int code) {
   }
   switch (key.name) {
     case Key::Name::Escape:
-      Revert(box);
-      return true;
+      return Revert(box);
     case Key::Name::Enter:
-      if (MultiLine(box) && box.TakesText()) ReplaceSelection(box, "\n");
+      if (MultiLine(box)) box.TakesText() ? ReplaceSelection(box, "\n") : void(Refuse(box));
       return true;
     case Key::Name::Backspace:
     case Key::Name::Delete: {
-      if (!box.TakesText()) return true;
+      if (!box.TakesText()) return Refuse(box);
       EditText wanted = box.edit_;
       if (!wanted.SelectNeighbour(key.name == Key::Name::Backspace)) return true;
       EditSelection(box, [&](EditText& line) { line = wanted; });
@@ -97,7 +96,8 @@ bool Form::EditKey(EditBox& box, const Key& key, int code) {
       break;
   }
   if (IsTyped(key, code)) {
-    if (box.TakesText()) ReplaceSelection(box, basic::FromCodePoint(static_cast<char32_t>(code)));
+    if (!box.TakesText()) return Refuse(box);
+    ReplaceSelection(box, basic::FromCodePoint(static_cast<char32_t>(code)));
     return true;
   }
   bool moved = false;
@@ -116,7 +116,8 @@ bool Form::Copy(EditBox& box, bool cut) {
 }
 
 bool Form::Paste(EditBox& box) {
-  if (readClipboard && box.TakesText()) ReplaceSelection(box, readClipboard());
+  if (!box.TakesText()) return Refuse(box);
+  if (readClipboard) ReplaceSelection(box, readClipboard());
   return true;
 }
 
@@ -125,7 +126,9 @@ bool Form::Paste(EditBox& box) {
 void Form::ReplaceSelection(EditBox& box, std::string inserted) {
   if (!inserted.empty()) {
     inserted = Fitting(box, inserted);
+    const std::string wanted = inserted;
     if (!inserted.empty()) Raise(box.onEdit, inserted);
+    if (basic::Len(inserted) < basic::Len(wanted) || inserted.empty()) Refuse(box);
     if (inserted.empty()) return;
   }
   const std::string before = box.Text();
@@ -151,11 +154,13 @@ void Form::TextEdited(EditBox& box) {
 }
 
 /// Esc: back to the last valid text, so that a field that fails its check never traps the user.
-void Form::Revert(EditBox& box) {
-  if (!box.TakesText() || box.Text() == box.valid_text_) return;
+/// False when there is nothing to go back to.
+bool Form::Revert(EditBox& box) {
+  if (!box.TakesText() || !box.Pending()) return false;
   box.edit_.SetText(box.valid_text_);
   box.edit_.Select(0, basic::Len(box.valid_text_));
   TextEdited(box);
+  return true;
 }
 
 }  // namespace qvzj::ui

@@ -66,7 +66,11 @@ bool Form::Step(bool backwards) {
 bool Form::Enter(Control& control) {
   if (!control.CanFocus()) return false;
   if (&control == focused_) return true;
-  if (!GivesUp(control, focused_) && !MayLeave()) return false;
+  if (GivesUp(control, focused_)) {
+    DropKeyedDate(focused_);
+  } else if (!MayLeave()) {
+    return false;
+  }
   if (!control.CanFocus()) return false;
   MoveFocus(&control);
   return focused_ == &control;
@@ -78,6 +82,8 @@ bool Form::MayLeave() {
   if (validating_) return false;
   if (!focused_ || !focused_->CanFocus()) return true;
   Control& field = *focused_;
+  TakeKeyedDate(&field);
+  if (focused_ != &field) return true;
   bool cancel = false;
   if (field.onValidate) {
     const std::shared_ptr<Life> life = life_;
@@ -101,7 +107,11 @@ bool Form::MayLeave() {
 void Form::MoveFocus(Control* control) {
   Control* const old = focused_;
   if (old == control) return;
+  if (old && old->CanFocus()) TakeKeyedDate(old);
+  if (focused_ != old) return;  // a handler has put the focus somewhere else
+  for (Control* date : {old, control}) DropKeyedDate(date);
   focused_ = control;
+  if (control && control->GetKind() == Kind::Grid) last_list_ = static_cast<Grid*>(control);
   if (EditBox* const box = AsEditBox(control)) box->valid_text_ = box->Text();
   if (EditBox* const box = AsEditBox(old)) box->Select(box->Caret(), 0);
   if (old) Notify(*old, Aspect::Focus);

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <chrono>
 
 #include "platform/basic/text.h"
 #include "platform/ui/form.h"
@@ -76,28 +75,21 @@ bool IsListKey(Name name) {
          name == Name::Home || name == Name::End;
 }
 
+bool BeginsWith(const std::vector<std::string>& items, int32_t index, int code) {
+  if (index < 0) return false;
+  const std::string wanted = basic::Upper(basic::FromCodePoint(static_cast<char32_t>(code)));
+  return basic::Upper(basic::Left(items[static_cast<size_t>(index)], 1)) == wanted;
+}
+
 /// The next item after `at` that begins with the typed character, around at the end; `at` when
 /// there is none.
 int32_t NextBeginningWith(const std::vector<std::string>& items, int32_t at, int code) {
-  const std::string wanted = basic::Upper(basic::FromCodePoint(static_cast<char32_t>(code)));
   const auto count = static_cast<int32_t>(items.size());
   for (int32_t step = 1; step <= count; ++step) {
     const int32_t index = (at + step) % count;
-    if (basic::Upper(basic::Left(items[static_cast<size_t>(index)], 1)) == wanted) return index;
+    if (BeginsWith(items, index, code)) return index;
   }
   return at;
-}
-
-basic::Date AddMonths(basic::Date date, int months) {
-  using namespace std::chrono;
-  const year_month shifted =
-      year_month{year{date.Year()}, month{static_cast<unsigned>(date.Month())}} +
-      std::chrono::months{months};
-  const unsigned last = static_cast<unsigned>(
-      year_month_day_last{shifted.year() / shifted.month() / std::chrono::last}.day());
-  return basic::Date::FromYmd(static_cast<int>(shifted.year()),
-                              static_cast<int>(static_cast<unsigned>(shifted.month())),
-                              std::min(date.Day(), static_cast<int>(last)));
 }
 
 /// Number of containers that two controls have in common from the form inwards.
@@ -130,11 +122,24 @@ bool Form::HandleKey(const Key& key) {
   }
   int code = KeyCode(key);
   if (code != 0) {
+    const bool typed = code >= ' ' || code == kKeyCtrlV;
     Raise(control.onKeyPress, code);
     // A key that the behaviour dropped, or that moved the focus on, is used up.
-    if (code == 0 || focused_ != &control) return true;
+    if (focused_ != &control) return true;
+    if (code == 0) return typed ? Refuse(control) : true;
   }
-  return ControlKey(control, key, code);
+  if (ControlKey(control, key, code)) return true;
+  return key.name == Name::Escape && Escape();
+}
+
+/// Esc that the focused control has no use for: its containers are asked from the inside out.
+bool Form::Escape() {
+  for (Control* control = focused_; control; control = control->Container()) {
+    bool used = control->onEscape != nullptr;
+    Raise(control->onEscape, used);
+    if (used) return true;
+  }
+  return false;
 }
 
 bool Form::ControlKey(Control& control, const Key& key, int code) {
@@ -155,7 +160,7 @@ bool Form::ControlKey(Control& control, const Key& key, int code) {
     case Kind::Tabs:
       return TabsKey(static_cast<Tabs&>(control), key);
     case Kind::DatePicker:
-      return DateKey(static_cast<DatePicker&>(control), key);
+      return DateKey(static_cast<DatePicker&>(control), key, code);
     case Kind::Grid:
       return GridKey(static_cast<Grid&>(control), key);
     default:
@@ -184,8 +189,9 @@ bool Form::ComboKey(ComboBox& combo, const Key& key, int code) {
   const bool lists = key.name == Name::Up || key.name == Name::Down || key.name == Name::PageUp ||
                      key.name == Name::PageDown;
   if (combo.Editable() && !lists) return EditKey(combo, key, code);
+  if (key.name == Name::Escape) return false;
   if (key.ctrl && key.name == Name::Character) return EditKey(combo, key, code);
-  if (combo.Locked()) return true;
+  if (combo.Locked()) return Refuse(combo);
   const int32_t at = combo.ListIndex();
   int32_t to = at;
   if (clears && combo.Clearable()) {
@@ -194,8 +200,9 @@ bool Form::ComboKey(ComboBox& combo, const Key& key, int code) {
     to = ListTarget(key.name, at, static_cast<int32_t>(combo.Items().size()), 10);
   } else if (code > ' ') {
     to = NextBeginningWith(combo.Items(), at, code);
+    if (!BeginsWith(combo.Items(), to, code)) return Refuse(combo);
   } else {
-    return clears;
+    return clears && Refuse(combo);
   }
   return to == at || Choose(combo, to);
 }
@@ -207,6 +214,7 @@ bool Form::ListKey(ListBox& list, const Key& key, int code) {
     to = ListTarget(key.name, at, static_cast<int32_t>(list.Items().size()), 10);
   } else if (code > ' ') {
     to = NextBeginningWith(list.Items(), at, code);
+    if (!BeginsWith(list.Items(), to, code)) return Refuse(list);
   } else {
     return false;
   }
@@ -230,22 +238,6 @@ bool Form::TurnTabs(bool backwards) {
   return false;
 }
 
-bool Form::DateKey(DatePicker& picker, const Key& key) {
-  const basic::Date date = picker.Value();
-  switch (key.name) {
-    case Name::Up:
-      return PickDate(picker, basic::Date{date.serial + 1});
-    case Name::Down:
-      return PickDate(picker, basic::Date{date.serial - 1});
-    case Name::PageUp:
-      return PickDate(picker, AddMonths(date, 1));
-    case Name::PageDown:
-      return PickDate(picker, AddMonths(date, -1));
-    default:
-      return false;
-  }
-}
-
 bool Form::GridKey(Grid& grid, const Key& key) {
   int32_t column = grid.ActiveColumn();
   if (key.name == Name::Left || key.name == Name::Right) {
@@ -261,28 +253,44 @@ bool Form::GridKey(Grid& grid, const Key& key) {
   return row < 1 || MoveCell(grid, column, row);
 }
 
-/// Alt with a letter: among the controls on the screen that bear it, the one that shares the
-/// innermost container with the focus, and of several of these the next in tab order, around at the
-/// end. A label or frame passes it on to the control after it.
-bool Form::AltKey(char32_t letter) {
+/// The button that prints the list which has the focus or had it last; null when there is none.
+Control* Form::PrintButton() const { return last_list_ ? last_list_->offers.print : nullptr; }
+
+/// Among the controls on the screen whose caption bears the letter, usable ones before disabled
+/// ones: the one that shares the innermost container with the focus, and of several of these the
+/// next in tab order, around at the end. Null when none bears it.
+Control* Form::BearerOf(char32_t letter) const {
   const std::string upper = basic::Upper(basic::FromCodePoint(letter));
   std::vector<Control*> order = TabOrder();
   const auto focus = std::find(order.begin(), order.end(), focused_);
   if (focus != order.end()) std::rotate(order.begin(), focus + 1, order.end());
   Control* best = nullptr;
-  int most_shared = -1;
+  int most = -1;
   for (Control* control : order) {
-    if (!control->OnScreen() || !control->Usable()) continue;
     const char32_t access_key = AccessKey(control->Caption());
     if (access_key == 0 || basic::FromCodePoint(access_key) != upper) continue;
-    const int shared = SharedContainers(*control, focused_);
-    if (shared <= most_shared) continue;
+    if (!control->OnScreen()) continue;
+    // Two lists may be printed by one letter: it is the one that the user is at.
+    if (control == PrintButton()) return control;
+    const int rank = control->Usable() ? 1 + SharedContainers(*control, focused_) : 0;
+    if (rank <= most) continue;
     best = control;
-    most_shared = shared;
+    most = rank;
   }
-  if (!best) return false;
-  if (best->GetKind() != Kind::Label && best->GetKind() != Kind::Frame) return Click(*best);
-  Control* const next = NextStop(best, false);
+  return best;
+}
+
+/// Alt with a letter: a label or frame that bears it passes it on to the control after it. A
+/// control that is disabled says why.
+bool Form::AltKey(char32_t letter) {
+  Control* const bearer = BearerOf(letter);
+  if (!bearer) return false;
+  if (!bearer->Usable()) {
+    Refuse(*bearer);
+    return false;
+  }
+  if (bearer->GetKind() != Kind::Label && bearer->GetKind() != Kind::Frame) return Click(*bearer);
+  Control* const next = NextStop(bearer, false);
   return next && Enter(*next);
 }
 

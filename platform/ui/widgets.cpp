@@ -157,7 +157,12 @@ void Tabs::SetTab(int tab) {
 }
 
 void DatePicker::SetValue(basic::Date value) {
-  if (value == value_) return;
+  const bool typed = keyed_.Pending();
+  keyed_.Show(value);
+  if (value == value_) {
+    if (typed) Changed(Aspect::Text);
+    return;
+  }
   value_ = value;
   Changed(Aspect::Value);
 }

@@ -7,6 +7,7 @@
 
 #include "platform/basic/date.h"
 #include "platform/ui/control.h"
+#include "platform/ui/date_keys.h"
 #include "platform/ui/edit_text.h"
 
 /// The plain controls of a form. Every setter is the program's own act and raises no event; the
@@ -258,6 +259,8 @@ class Tabs : public Control {
   int tab_ = 0;
 };
 
+/// A date that is typed, part by part, or changed a day or month at a time. Value() is the last
+/// whole one: what is being typed becomes it when the date is full or the field is left.
 class DatePicker : public Control {
  public:
   DatePicker(Form& form, std::string name, int index = -1, Control* container = nullptr,
@@ -265,13 +268,19 @@ class DatePicker : public Control {
       : Control(form, Kind::DatePicker, std::move(name), index, container, page) {}
 
   basic::Date Value() const { return value_; }
+  /// Drops what is being typed.
   void SetValue(basic::Date value);
+  /// What the field shows, and which part of it the next digit goes to.
+  const DateKeys& Keyed() const { return keyed_; }
 
   /// The user changed the date.
   std::function<void()> onChange;
 
  private:
+  friend class Form;
+
   basic::Date value_;
+  DateKeys keyed_;
 };
 
 /// A menu entry; one with children is a menu. A caption of "-" is a separator.

@@ -26,6 +26,7 @@ struct Screen : Form, FormObserver {
     changes.push_back({&control, aspect});
   }
   void FormChanged(Form&, Aspect aspect) override { form_changes.push_back(aspect); }
+  void KeyRefused(Control& control) override { refused.push_back(&control); }
   void PopUpMenu(Form&, MenuItem& menu, int32_t, int32_t) override { popped_up = &menu; }
 
   struct Change {
@@ -51,6 +52,7 @@ struct Screen : Form, FormObserver {
 
   std::vector<Change> changes;
   std::vector<Aspect> form_changes;
+  std::vector<Control*> refused;
   std::vector<std::string> errors;
   MenuItem* popped_up = nullptr;
   std::string clipboard;
