@@ -6,7 +6,7 @@
 #include "adapters/icu/utf16.h"
 #include "benchmarks/world.h"
 #include "services/context.h"
-#include "suite/settle.h"
+#include "suite/store/settle.h"
 
 namespace qvzj::bench {
 namespace {

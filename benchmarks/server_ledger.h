@@ -8,8 +8,8 @@
 #include "adapters/odbc/odbc_handle.h"
 #include "adapters/odbc/odbc_session.h"
 #include "control/qvJxc_Zj.h"
-#include "frontends/script/headless.h"
-#include "suite/connections.h"
+#include "frontends/headless/headless.h"
+#include "suite/store/connections.h"
 #include "tests/support/postgres.h"
 
 // Ledgers on a private server, and what is measured on them.

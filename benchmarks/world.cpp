@@ -9,8 +9,8 @@
 
 #include "adapters/sqlite/sqlite_session.h"
 #include "services/context.h"
-#include "suite/demo.h"
-#include "suite/schema.h"
+#include "suite/demo/demo.h"
+#include "suite/store/schema.h"
 
 namespace qvzj::bench {
 namespace fs = std::filesystem;

@@ -9,8 +9,8 @@
 
 #include "adapters/sqlite/sqlite_session.h"
 #include "control/qvJxc_Zj.h"
-#include "frontends/script/headless.h"
-#include "suite/connections.h"
+#include "frontends/headless/headless.h"
+#include "suite/store/connections.h"
 
 namespace qvzj::bench {
 

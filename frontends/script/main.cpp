@@ -12,9 +12,9 @@
 #include "hosts/pictures/qt_pictures.h"
 #endif
 #include "services/context.h"
-#include "suite/connections.h"
-#include "suite/task.h"
-#include "suite/user.h"
+#include "suite/store/connections.h"
+#include "suite/users/user.h"
+#include "suite/visits/task.h"
 
 namespace qvzj::script {
 namespace {

@@ -10,7 +10,7 @@
 
 #include "control/qvJxc_Zj.h"
 #include "forms/frmList.h"
-#include "frontends/script/headless.h"
+#include "frontends/headless/headless.h"
 #include "frontends/script/words.h"
 
 namespace qvzj::script {

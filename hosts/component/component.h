@@ -4,11 +4,11 @@
 
 #include "frontends/qt/print/page_output.h"
 #include "frontends/qt/surroundings.h"
-#include "suite/connections.h"
 #include "suite/export/suite_exporter.h"
 #include "suite/print/suite_print.h"
-#include "suite/task.h"
-#include "suite/user.h"
+#include "suite/store/connections.h"
+#include "suite/users/user.h"
+#include "suite/visits/task.h"
 
 namespace qvzj {
 

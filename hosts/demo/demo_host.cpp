@@ -4,7 +4,7 @@
 
 #include "frontends/qt/text.h"
 #include "platform/surroundings.h"
-#include "suite/user_rights.h"
+#include "suite/users/user_rights.h"
 
 namespace qvzj::demo {
 

@@ -23,7 +23,7 @@
 #include "hosts/demo/saying_boxes.h"
 #include "hosts/demo/small_png.h"
 #include "hosts/demo/suite_window.h"
-#include "suite/login.h"
+#include "suite/users/login.h"
 
 namespace qvzj::demo {
 

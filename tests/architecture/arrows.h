@@ -39,8 +39,9 @@ inline const std::vector<Rule>& Rules() {
       {"suite", {"adapters", "platform"}, {"sodium.h"}},
       {"suite/print", {"platform"}, {}},
       {"suite/export", {"adapters/icu", "platform"}, {"xlsxwriter.h"}},
+      {"frontends/headless", {"adapters", "platform"}, {}},
       {"frontends/script",
-       {"control", "forms", "screen", "services", "platform", "adapters"},
+       {"frontends/headless", "control", "forms", "screen", "services", "platform", "adapters"},
        {"nlohmann/"}},
       {"frontends/qt", {"control", "forms", "screen", "services", "platform", "adapters"}, {"Q"}},
   };

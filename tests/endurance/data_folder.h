@@ -3,7 +3,7 @@
 #include <string>
 
 #include "adapters/sqlite/sqlite_session.h"
-#include "suite/schema.h"
+#include "suite/store/schema.h"
 #include "tests/endurance/script_process.h"
 #include "tests/endurance/script_stage.h"
 #include "tests/support/world.h"

@@ -3,8 +3,8 @@
 #include <chrono>
 #include <thread>
 
-#include "suite/check_data.h"
-#include "suite/connections.h"
+#include "suite/check/check_data.h"
+#include "suite/store/connections.h"
 #include "tests/endurance/script_process.h"
 #include "tests/support/postgres.h"
 

@@ -16,7 +16,7 @@
 #include <string>
 #include <vector>
 
-#include "suite/schema.h"
+#include "suite/store/schema.h"
 #include "tests/endurance/monkey_acts.h"
 #include "tests/endurance/monkey_checks.h"
 #include "tests/endurance/script_stage.h"

@@ -6,7 +6,7 @@
 
 #include "adapters/sqlite/sqlite_session.h"
 #include "services/context.h"
-#include "suite/schema.h"
+#include "suite/store/schema.h"
 
 namespace qvzj::endurance {
 

@@ -6,10 +6,10 @@
 
 #include "adapters/sqlite/sqlite_session.h"
 #include "control/qvJxc_Zj.h"
-#include "frontends/script/headless.h"
+#include "frontends/headless/headless.h"
 #include "frontends/script/script.h"
-#include "suite/connections.h"
-#include "suite/task.h"
+#include "suite/store/connections.h"
+#include "suite/visits/task.h"
 
 namespace qvzj::endurance {
 

@@ -3,7 +3,7 @@
 #include <functional>
 #include <thread>
 
-#include "suite/connections.h"
+#include "suite/store/connections.h"
 #include "tests/endurance/data_folder.h"
 #ifdef QV_WITH_SERVER
 #include "tests/support/postgres.h"

@@ -10,8 +10,8 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "suite/check_data.h"
-#include "suite/connections.h"
+#include "suite/check/check_data.h"
+#include "suite/store/connections.h"
 #include "tests/scenarios/play.h"
 #include "tests/support/postgres.h"
 

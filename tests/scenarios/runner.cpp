@@ -19,7 +19,7 @@
 #include <vector>
 
 #include "adapters/sqlite/sqlite_session.h"
-#include "suite/schema.h"
+#include "suite/store/schema.h"
 #include "tests/scenarios/play.h"
 
 namespace {

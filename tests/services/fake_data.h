@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "frontends/script/headless.h"
+#include "frontends/headless/headless.h"
 #include "platform/basic/errors.h"
 #include "services/context.h"
 

@@ -18,8 +18,8 @@
 #include <thread>
 #include <vector>
 
-#include "suite/connections.h"
-#include "suite/schema.h"
+#include "suite/store/connections.h"
+#include "suite/store/schema.h"
 
 namespace qvzj::test {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "platform/basic/text.h"
 #include "services/context.h"
-#include "suite/schema.h"
+#include "suite/store/schema.h"
 
 namespace qvzj::test {
 namespace fs = std::filesystem;

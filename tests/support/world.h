@@ -8,9 +8,9 @@
 
 #include "adapters/sqlite/sqlite_session.h"
 #include "control/qvJxc_Zj.h"
-#include "frontends/script/headless.h"
+#include "frontends/headless/headless.h"
 #include "services/context.h"
-#include "suite/connections.h"
+#include "suite/store/connections.h"
 #include "tests/support/temporary_folder.h"
 
 namespace qvzj::test {

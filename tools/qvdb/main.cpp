@@ -3,7 +3,7 @@
 
 #include <iostream>
 
-#include "suite/qvdb.h"
+#include "tools/qvdb/qvdb.h"
 
 namespace {
 

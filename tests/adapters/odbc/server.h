@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "suite/connections.h"
+#include "suite/store/connections.h"
 #include "tests/support/postgres.h"
 
 namespace qvzj::test {

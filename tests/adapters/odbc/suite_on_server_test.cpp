@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/surroundings.h"
-#include "suite/connections.h"
-#include "suite/visits.h"
+#include "suite/store/connections.h"
+#include "suite/visits/visits.h"
 #include "tests/adapters/odbc/server.h"
 
 namespace qvzj {

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "adapters/sqlite/sqlite_session.h"
-#include "suite/schema.h"
+#include "suite/store/schema.h"
 #include "tests/support/temporary_folder.h"
 
 namespace qvzj::test {

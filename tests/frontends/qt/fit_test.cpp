@@ -3,8 +3,8 @@
 #include <QHeaderView>
 
 #include "forms/frmList.h"
-#include "suite/login.h"
-#include "suite/task_form.h"
+#include "suite/users/login.h"
+#include "suite/visits/task_form.h"
 #include "tests/frontends/qt/window_world.h"
 
 namespace qvzj::test {

@@ -4,8 +4,8 @@
 #include <set>
 
 #include "forms/frmList.h"
-#include "suite/login.h"
-#include "suite/task_form.h"
+#include "suite/users/login.h"
+#include "suite/visits/task_form.h"
 #include "tests/frontends/qt/window_world.h"
 
 // What somebody needs who works without a mouse, or without seeing the screen.

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "frontends/script/headless.h"
+#include "frontends/headless/headless.h"
 #include "frontends/script/property_store.h"
 #include "frontends/script/script_error.h"
 #include "frontends/script/settings_file.h"

@@ -20,8 +20,8 @@
 #include "frontends/qt/theme.h"
 #include "hosts/demo/demo_host.h"
 #include "services/context.h"
-#include "suite/schema.h"
-#include "suite/user_rights.h"
+#include "suite/store/schema.h"
+#include "suite/users/user_rights.h"
 #include "tests/support/temporary_folder.h"
 
 namespace qvzj::demo {

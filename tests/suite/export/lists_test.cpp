@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "adapters/icu/chinese_text.h"
-#include "suite/csv.h"
 #include "suite/export/suite_exporter.h"
+#include "suite/import/csv.h"
 #include "tests/suite/export/read_back.h"
 #include "tests/support/world.h"
 

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/data/store.h"
+#include "suite/import/import.h"
+
+namespace qvzj {
+
+/// Takes the rows of one import, each whole or not at all.
+class ImportRows {
+ public:
+  virtual ~ImportRows() = default;
+  /// Checks one record's fields and writes the row; answers why it is refused, "" when it is not.
+  virtual std::string Take(const std::vector<std::string>& fields) = 0;
+};
+
+/// The rows of the kind that `options` names. All arguments must outlive the result.
+std::unique_ptr<ImportRows> MakeImportRows(data::Transaction& transaction,
+                                           const ImportOptions& options,
+                                           const ImportMapping& mapping, ImportReport& report);
+
+/// The rows of customers and money accounts.
+std::unique_ptr<ImportRows> MakeRegisterRows(data::Transaction& transaction,
+                                             const ImportOptions& options,
+                                             const ImportMapping& mapping, ImportReport& report);
+/// The rows of the ledger.
+std::unique_ptr<ImportRows> MakeEntryRows(data::Transaction& transaction,
+                                          const ImportOptions& options,
+                                          const ImportMapping& mapping, ImportReport& report);
+
+}  // namespace qvzj

@@ -1,0 +1,64 @@
+#include "suite/store/connections.h"
+
+#include "adapters/sqlite/sqlite_session.h"
+#include "platform/basic/errors.h"
+#include "suite/store/schema.h"
+
+namespace qvzj {
+namespace {
+
+/// What the module puts into the data path after a login in server mode.
+constexpr const char* kLoggedInServer = "SQL Server";
+
+/// The data file in `folder`, which may end in a slash of either kind.
+std::string DataFileIn(std::string folder) {
+  while (folder.size() > 1 && (folder.back() == '/' || folder.back() == '\\')) folder.pop_back();
+  return folder + "/" + kDataFile;
+}
+
+std::unique_ptr<SqliteSession> OpenFolder(const std::string& folder,
+                                          const ConnectionOptions& options) {
+  SqliteOptions sqlite;
+  sqlite.busy_timeout = options.busy_timeout;
+  sqlite.language = options.language;
+  return OpenSqlite(DataFileIn(folder), sqlite);
+}
+
+}  // namespace
+
+bool SuiteConnections::OpenConnection(uint8_t kind, data::Connection& connection,
+                                      const std::string& path, const std::string& password,
+                                      const std::string& user_id,
+                                      const std::string& default_database) {
+  last_error_.clear();
+  try {
+    Open(kind, connection, {path, user_id, password, default_database});
+    return true;
+  } catch (const DataError& error) {
+    last_error_ = error.what();
+    return false;
+  }
+}
+
+void SuiteConnections::Open(uint8_t kind, data::Connection& connection, ServerLogin login) {
+  if (kind == 0) {
+    connection.Attach(OpenFolder(login.address, options));
+    return;
+  }
+  if (login.address == kLoggedInServer && !last_server_.empty()) login.address = last_server_;
+  connection.Attach(OpenServer(login, options));
+  last_server_ = login.address;
+}
+
+NativeStatements OpenNative(uint8_t kind, const ServerLogin& login,
+                            const ConnectionOptions& options) {
+  std::shared_ptr<data::Store> store;
+  if (kind == 0) {
+    store = OpenFolder(login.address, options);
+  } else {
+    store = OpenServer(login, options);
+  }
+  return [store](std::string_view sql) { return store->Native(sql); };
+}
+
+}  // namespace qvzj

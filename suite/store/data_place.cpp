@@ -1,0 +1,56 @@
+#include "suite/store/data_place.h"
+
+#include <filesystem>
+
+#include "adapters/sqlite/sqlite_session.h"
+#include "suite/store/connections.h"
+#include "suite/store/schema.h"
+
+namespace qvzj {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::unique_ptr<data::Store> OpenPlaceOnServer(const DataPlace& place) {
+  ConnectionOptions options;
+  options.server = place.server;
+  return OpenServer(place.login, options);
+}
+
+std::unique_ptr<data::Store> OpenOrMakeFile(const DataPlace& place) {
+  std::error_code failure;
+  fs::create_directories(place.folder, failure);
+  if (failure) {
+    throw Error("The folder " + place.folder + " cannot be made: " + failure.message());
+  }
+  SqliteOptions options;
+  options.create = true;
+  auto store = OpenSqlite(place.Name(), options);
+  CreateSchema(*store);
+  return store;
+}
+
+}  // namespace
+
+std::string DataPlace::Name() const {
+  if (!folder.empty()) return (fs::path(folder) / kDataFile).string();
+  // A whole connection string may hold a password.
+  const bool whole = login.address.find('=') != std::string::npos;
+  const std::string server = whole ? "the server" : login.address;
+  return login.database.empty() ? server : login.database + " on " + server;
+}
+
+std::unique_ptr<data::Store> OpenPlace(const DataPlace& place) {
+  if (place.folder.empty()) return OpenPlaceOnServer(place);
+  return OpenSqlite(place.Name(), {});
+}
+
+std::unique_ptr<data::Store> OpenOrMakePlace(const DataPlace& place) {
+  if (!place.folder.empty()) return OpenOrMakeFile(place);
+  auto store = OpenPlaceOnServer(place);
+  // Who may only work with the tables of a server need not be allowed to make them.
+  if (!HasTable(*store, "tAccountDetail")) CreateSchema(*store);
+  return store;
+}
+
+}  // namespace qvzj
