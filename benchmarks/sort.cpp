@@ -40,7 +40,7 @@ Shuffled Days(int32_t rows) {
 }
 
 Shuffled Texts(int32_t rows, const std::function<std::string(uint32_t)>& text,
-               const ui::TextOrder* order) {
+               const basic::TextOrder* order) {
   std::mt19937 random(3);
   Shuffled values;
   for (int32_t i = 0; i < rows; ++i) {
@@ -71,7 +71,7 @@ struct Screen : ui::Form {
   ui::Grid grid{*this, "grid"};
 };
 
-void Sort(benchmark::State& state, Shuffled values, const ui::TextOrder* order) {
+void Sort(benchmark::State& state, Shuffled values, const basic::TextOrder* order) {
   Screen screen;
   const auto rows = static_cast<int32_t>(values.column.Size());
   screen.grid.SetColumnCount(1);

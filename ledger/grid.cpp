@@ -23,7 +23,7 @@ std::string BothDirections(int16_t plus, int16_t minus) {
 }
 
 // Null where the program gives no order for the language: texts then order by their bytes.
-const ui::TextOrder* OrderOfLanguage() {
+const basic::TextOrder* OrderOfLanguage() {
   return Around().text_order[static_cast<size_t>(CurrentLanguage())];
 }
 

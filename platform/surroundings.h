@@ -1,11 +1,11 @@
 #pragma once
 
+#include "platform/basic/text_order.h"
 #include "platform/boxes.h"
 #include "platform/components.h"
 #include "platform/data/connection.h"
 #include "platform/services.h"
 #include "platform/table_export.h"
-#include "platform/ui/grid.h"
 
 namespace qvzj {
 
@@ -26,7 +26,7 @@ struct Surroundings {
   UserComponent* user = nullptr;
   TaskComponent* task = nullptr;
   TableExporter* exporter = nullptr;
-  const ui::TextOrder* text_order[2] = {nullptr, nullptr};  ///< by language: pinyin, stroke
+  const basic::TextOrder* text_order[2] = {nullptr, nullptr};  ///< by language: pinyin, stroke
   data::StatementWatcher statement_watcher;
 };
 

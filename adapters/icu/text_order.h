@@ -3,15 +3,17 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <string>
+#include <string_view>
 
-#include "platform/ui/grid.h"
+#include "platform/basic/text_order.h"
 
 struct UCollator;
 
 namespace qvzj {
 
 /// Chinese order of texts through ICU; ASCII case does not count.
-class IcuTextOrder final : public ui::TextOrder {
+class IcuTextOrder final : public basic::TextOrder {
  public:
   /// By pinyin, as simplified Chinese readers expect. Throws Error when ICU lacks the order.
   static IcuTextOrder Pinyin();

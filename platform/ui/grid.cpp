@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "platform/basic/number.h"
-#include "platform/ui/sort_rows.h"
+#include "platform/basic/sort_rows.h"
 
 namespace qvzj::ui {
 
@@ -216,7 +216,7 @@ int32_t Grid::ShownRow(size_t stored) const {
   return 0;
 }
 
-void Grid::Sort(const TextOrder* order) {
+void Grid::Sort(const basic::TextOrder* order) {
   const bool keyed =
       sort_column_ >= 1 && sort_column_ <= ColumnCount() && sort_order_ != SortOrder::None;
   const auto stored = [this](int32_t row) { return row > 0 ? StoredRow(row) : 0; };
@@ -229,7 +229,7 @@ void Grid::Sort(const TextOrder* order) {
       order_.Resize(static_cast<size_t>(row_count_));
       for (size_t row = 0; row < order_.Size(); ++row) order_[row] = static_cast<uint32_t>(row);
     }
-    SortRows(Stored(sort_column_), sort_order_ == SortOrder::Descending, order, order_);
+    basic::SortRows(Stored(sort_column_), sort_order_ == SortOrder::Descending, order, order_);
   }
   sorted_ = keyed;
   if (active_row_ > 0) active_row_ = ShownRow(active);

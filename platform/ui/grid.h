@@ -8,19 +8,12 @@
 #include <vector>
 
 #include "platform/basic/column.h"
+#include "platform/basic/text_order.h"
 #include "platform/ui/control.h"
 
 namespace qvzj::ui {
 
 enum class SortOrder : uint8_t { None = 0, Ascending = 1, Descending = 2 };
-
-/// Makes sort keys so that texts order as their reader expects (Chinese by pinyin or stroke).
-class TextOrder {
- public:
-  virtual ~TextOrder() = default;
-  /// Bytes whose plain comparison is the order of the texts.
-  virtual std::string SortKey(std::string_view text) const = 0;
-};
 
 /// What can be done with a grid's contents besides looking at them; front ends offer it.
 struct GridOffers {
@@ -96,7 +89,7 @@ class Grid : public Control {
   /// value, texts by `order` (null: by their bytes), empty cells behind all others in either order:
   /// who sorts a column looks for what stands in it. The active row goes where its cells go.
   /// Without a sort key the rows go back to the order in which they were filled.
-  void Sort(const TextOrder* order);
+  void Sort(const basic::TextOrder* order);
   /// The column by whose present values the rows stand in GetSortOrder(); 0 once they were filled
   /// anew or the column's cells have changed. An arrow belongs to this column alone.
   int32_t SortedColumn() const { return sorted_ ? sort_column_ : 0; }

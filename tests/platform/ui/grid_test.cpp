@@ -11,7 +11,7 @@ namespace {
 using basic::Column;
 
 /// Orders texts by their length, so that a test sees that its keys decide.
-struct ByLength : TextOrder {
+struct ByLength : basic::TextOrder {
   std::string SortKey(std::string_view text) const override {
     ++calls;
     return std::string(1, static_cast<char>(text.size()));
@@ -20,7 +20,7 @@ struct ByLength : TextOrder {
 };
 
 /// Orders texts by their last digit: thousands of texts, ten sort keys.
-struct ByLastDigit : TextOrder {
+struct ByLastDigit : basic::TextOrder {
   std::string SortKey(std::string_view text) const override {
     return "the same beginning " + std::string(text.substr(text.size() - 1));
   }
@@ -42,7 +42,8 @@ void FillTexts(Grid& grid, const std::vector<std::string>& texts) {
   }
 }
 
-void Sort(Grid& grid, int32_t column, SortOrder order, const TextOrder* text_order = nullptr) {
+void Sort(Grid& grid, int32_t column, SortOrder order,
+          const basic::TextOrder* text_order = nullptr) {
   grid.SetSortKey(column, order);
   grid.Sort(text_order);
 }

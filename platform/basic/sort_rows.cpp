@@ -1,4 +1,4 @@
-#include "platform/ui/sort_rows.h"
+#include "platform/basic/sort_rows.h"
 
 #include <algorithm>
 #include <array>
@@ -10,17 +10,12 @@
 #include <utility>
 #include <vector>
 
-#include "platform/ui/grid.h"
-
 /// Every kind of value is first turned into an unsigned key of the same order, 0 for empty; the
 /// rows are then distributed by the digits of their keys, which takes the same few passes however
 /// the values lie and keeps equal ones in order. Texts get as key the rank of their text among the
 /// distinct texts of the column.
-namespace qvzj::ui {
+namespace qvzj::basic {
 namespace {
-
-using basic::Buffer;
-using basic::Column;
 
 template <class Key>
 struct Item {
@@ -270,4 +265,4 @@ void SortRows(const Column& column, bool descending, const TextOrder* order,
   }
 }
 
-}  // namespace qvzj::ui
+}  // namespace qvzj::basic
