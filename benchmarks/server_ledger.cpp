@@ -34,7 +34,7 @@ void Fill(data::Store& store, int64_t customers, int64_t entries) {
       "from generate_series(1," +
       n + "::bigint) i");
   store.Native("insert into Moneys (MoneyCode,MoneyRate,MoneyType) values ('RMB',1,1)");
-  SettleTables(store);
+  store::SettleTables(store);
 }
 
 constexpr const char* kLedger =
@@ -52,14 +52,14 @@ ServerLedger::ServerLedger(test::PrivatePostgres& server, int64_t customers, int
     : entries_(entries),
       login_{server.Address(), test::PrivatePostgres::kUser, test::PrivatePostgres::kPassword,
              server.MakeDatabase()},
-      session_(OpenServer(login_, {})) {
+      session_(store::OpenServer(login_, {})) {
   Fill(*session_, customers, entries);
 }
 
 void ServerLedger::FetchBare(const std::string& statement) {
   constexpr size_t kRows = 512;
   constexpr size_t kWidth = 258;
-  if (!bare_) bare_ = std::make_unique<OdbcConnection>(ConnectionString(login_, {}), 10);
+  if (!bare_) bare_ = std::make_unique<OdbcConnection>(store::ConnectionString(login_, {}), 10);
   std::u16string sql = ToUtf16(Session().Translate(statement).text);
   const OdbcStatement run(bare_->Get());
   run.Check(SQLExecDirectW(run.Get(), reinterpret_cast<SQLWCHAR*>(sql.data()),
@@ -91,7 +91,7 @@ void ServerLedger::FetchBare(const std::string& statement) {
   }
 }
 
-ServerForm::ServerForm(const ServerLogin& login) {
+ServerForm::ServerForm(const store::ServerLogin& login) {
   ResetShared();
   headless_.Install(connections_);
   Around().statement_watcher = {};  // nobody looks at a million statements

@@ -26,14 +26,14 @@ class ServerLedger {
   ServerLedger(test::PrivatePostgres& server, int64_t customers, int64_t entries);
 
   int64_t Entries() const { return entries_; }
-  const ServerLogin& Login() const { return login_; }
+  const store::ServerLogin& Login() const { return login_; }
   OdbcSession& Session() { return static_cast<OdbcSession&>(*session_); }
   /// Fetches the rows of a statement of the module in blocks through ODBC alone.
   void FetchBare(const std::string& statement);
 
  private:
   int64_t entries_;
-  ServerLogin login_;
+  store::ServerLogin login_;
   std::unique_ptr<data::Store> session_;
   std::unique_ptr<OdbcConnection> bare_;
 };
@@ -41,7 +41,7 @@ class ServerLedger {
 /// The control opened without a window on a server, in customers mode. One at a time.
 class ServerForm {
  public:
-  explicit ServerForm(const ServerLogin& login);
+  explicit ServerForm(const store::ServerLogin& login);
   ~ServerForm();
   ServerForm(const ServerForm&) = delete;
   ServerForm& operator=(const ServerForm&) = delete;
@@ -50,7 +50,7 @@ class ServerForm {
 
  private:
   Headless headless_;
-  SuiteConnections connections_;
+  store::SuiteConnections connections_;
   qvJxc_Zj control_;
 };
 

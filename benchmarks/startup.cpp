@@ -56,7 +56,7 @@ void PaintAll(QApplication& application) {
 [[noreturn]] void ShowModule(QApplication& application, const std::string& folder) {
   qt::QtSurroundings surroundings(QString::fromStdString(folder + "/settings.ini"));
   surroundings.Install();
-  SuiteConnections connections;
+  store::SuiteConnections connections;
   Around().connections = &connections;
   qvJxc_Zj control;
   AllowEverything(control, folder);

@@ -19,7 +19,7 @@ namespace {
 std::unique_ptr<SqliteSession> Open(const fs::path& folder, bool create) {
   SqliteOptions options;
   options.create = create;
-  return OpenSqlite((folder / kDataFile).string(), options);
+  return OpenSqlite((folder / store::kDataFile).string(), options);
 }
 
 /// Makes every entry a customer's, so that the ledger shown has as many rows as the table, and
@@ -47,11 +47,11 @@ fs::path DataFolder(int32_t customers, int32_t entries) {
   fs::create_directories(unfinished);
   {
     const auto session = Open(unfinished, true);
-    CreateSchema(*session);
-    DemoOptions options;
+    store::CreateSchema(*session);
+    demo_data::Options options;
     options.customers = customers;
     options.entries = entries;
-    MakeDemoData(*session, options, {});
+    demo_data::MakeData(*session, options, {});
     ShareOut(*session, customers, entries);
     session->NativeScript("pragma wal_checkpoint(truncate)");
   }

@@ -55,7 +55,7 @@ class World {
 
  private:
   Headless headless_;
-  SuiteConnections connections_;
+  store::SuiteConnections connections_;
   std::deque<std::string> ran_;  ///< the last statements, as the module built them
   qvJxc_Zj control_;
 };

@@ -33,9 +33,9 @@ class OwnConnection {
   data::Recordset Run(std::string_view statement) {
     const Context& context = Shared();
     const uint8_t kind = context.SQLData == 0 ? 0 : 1;
-    ServerLogin login{context.UserPath, context.UserID, context.Password, context.Default};
+    store::ServerLogin login{context.UserPath, context.UserID, context.Password, context.Default};
     if (!run_ || kind_ != kind || login_ != login) {
-      run_ = OpenNative(kind, login, {});
+      run_ = store::OpenNative(kind, login, {});
       kind_ = kind;
       login_ = std::move(login);
     }
@@ -43,9 +43,9 @@ class OwnConnection {
   }
 
  private:
-  NativeStatements run_;
+  store::NativeStatements run_;
   uint8_t kind_ = 0;
-  ServerLogin login_;
+  store::ServerLogin login_;
 };
 
 /// What the host presets before a script begins; a script may overwrite each.
@@ -66,12 +66,13 @@ void Preset(qvJxc_Zj& control, const Options& options) {
 
 int Play(const Options& options, std::istream& in) {
   Headless headless;
-  SuiteConnections connections({.language = [] { return static_cast<int>(Shared().Language); }});
+  store::SuiteConnections connections(
+      {.language = [] { return static_cast<int>(Shared().Language); }});
   headless.Install(connections);
-  BoxLogin dialogue;
-  const SystemTryClock clock;
-  SuiteUser user(dialogue, clock);
-  BoxTask task;
+  users::BoxLogin dialogue;
+  const users::SystemTryClock clock;
+  users::SuiteUser user(dialogue, clock);
+  visits::BoxTask task;
   headless.user.inner = &user;
   headless.task.inner = &task;
   if (options.today) headless.clock.Set(*options.today);

@@ -25,15 +25,15 @@ class Component {
 
  private:
   qt::QtSurroundings surroundings_;
-  SuiteConnections connections_;
+  store::SuiteConnections connections_;
   qt::QtPageOutput pages_;
   SystemClock clock_;
-  SuitePrint print_{pages_, clock_};
-  SuiteExporter exporter_;
-  FormLogin login_;
-  SystemTryClock try_clock_;
-  SuiteUser user_{login_, try_clock_};
-  SuiteTask task_;
+  print::SuitePrint print_{pages_, clock_};
+  exports::SuiteExporter exporter_;
+  users::FormLogin login_;
+  users::SystemTryClock try_clock_;
+  users::SuiteUser user_{login_, try_clock_};
+  visits::SuiteTask task_;
 };
 
 }  // namespace qvzj

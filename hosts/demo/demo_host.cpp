@@ -27,7 +27,7 @@ void DemoHost::Employ(const std::string& user, const std::string& company) {
 }
 
 bool DemoHost::HasUsers() const {
-  return std::filesystem::exists(std::filesystem::path(data_) / kRightsFile);
+  return std::filesystem::exists(std::filesystem::path(data_) / users::kRightsFile);
 }
 
 bool DemoHost::LogIn() {
@@ -36,7 +36,7 @@ bool DemoHost::LogIn() {
   call.action = UserCall::kLogin;
   call.language = language_;
   call.access.user_path = data_;
-  call.rights_file = (std::filesystem::path(data_) / kRightsFile).string();
+  call.rights_file = (std::filesystem::path(data_) / users::kRightsFile).string();
   Around().user->Run(call);
   if (call.user_name.empty()) return false;
   Close();

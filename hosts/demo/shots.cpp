@@ -233,7 +233,7 @@ bool ShootLanguage(DemoHost& host, SayingBoxes& boxes, Camera& camera, int16_t l
   host.SetLanguage(language);
   ShootSuite(host, camera, "suite" + suffix);
   camera.ShootModal("login" + suffix, [&] {
-    FormLogin().Ask(language, [](const std::string&, const std::string&) { return false; });
+    users::FormLogin().Ask(language, [](const std::string&, const std::string&) { return false; });
   });
   for (int16_t mode : kModes) {
     const bool done = WalkThrough(host, boxes, camera, mode, suffix, [&](Walk& walk) {

@@ -25,7 +25,7 @@ struct QtPictures::Running {
   char* arguments[2] = {name, nullptr};
   QApplication application{argument_count, arguments};
   qt::QtPageOutput pages{Traditional};
-  SuitePrint print{pages, *Around().clock};
+  print::SuitePrint print{pages, *Around().clock};
 };
 
 QtPictures::QtPictures() = default;

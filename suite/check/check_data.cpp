@@ -6,7 +6,7 @@
 #include "platform/basic/text.h"
 #include "platform/data/store.h"
 
-namespace qvzj {
+namespace qvzj::check {
 namespace {
 
 /// A fault that a statement finds: each row's first column is its text. In the statement
@@ -159,4 +159,4 @@ int64_t CheckData(data::Store& store, const std::function<void(const Fault&)>& r
   return count;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::check

@@ -4,11 +4,11 @@
 #include <functional>
 #include <string>
 
-namespace qvzj {
-
-namespace data {
+namespace qvzj::data {
 class Store;
 }
+
+namespace qvzj::check {
 
 /// Kinds of faults that data can have, in the order in which they are looked for.
 enum class FaultKind {
@@ -36,4 +36,4 @@ struct Fault {
 /// PostgreSQL.
 int64_t CheckData(data::Store& store, const std::function<void(const Fault&)>& report);
 
-}  // namespace qvzj
+}  // namespace qvzj::check

@@ -3,8 +3,9 @@
 #include <cmath>
 
 #include "platform/basic/errors.h"
+#include "suite/copy/lots.h"
 
-namespace qvzj {
+namespace qvzj::copy {
 namespace {
 
 using basic::Column;
@@ -37,7 +38,7 @@ std::string Decimal(int64_t cents) {
 
 class Comparison {
  public:
-  Comparison(const CopyTable& table, const std::vector<std::string>& columns)
+  Comparison(const store::Table& table, const std::vector<std::string>& columns)
       : table_(table), columns_(columns), cents_(table.amounts.size()) {}
 
   void Take(const data::Recordset& left, const data::Recordset& right) {
@@ -87,7 +88,7 @@ class Comparison {
     }
   }
 
-  const CopyTable& table_;
+  const store::Table& table_;
   const std::vector<std::string>& columns_;
   std::vector<int64_t> cents_;
   int64_t rows_ = 0;
@@ -95,7 +96,7 @@ class Comparison {
 
 }  // namespace
 
-CopiedTable CompareTables(data::Store& source, data::Store& target, const CopyTable& table,
+CopiedTable CompareTables(data::Store& source, data::Store& target, const store::Table& table,
                           const std::vector<std::string>& columns, int32_t lot) {
   Comparison comparison(table, columns);
   std::optional<int64_t> after;
@@ -110,4 +111,4 @@ CopiedTable CompareTables(data::Store& source, data::Store& target, const CopyTa
   return comparison.Result();
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::copy

@@ -8,9 +8,10 @@
 #include "platform/basic/text.h"
 #include "platform/data/store.h"
 #include "suite/copy/compare.h"
+#include "suite/copy/lots.h"
 #include "suite/store/tables.h"
 
-namespace qvzj {
+namespace qvzj::copy {
 namespace {
 
 /// The note in an unfinished target: a row for every table with the last key and the rows that
@@ -44,18 +45,18 @@ data::Cell CellAt(const basic::Column& column, size_t row) {
 
 class Copy {
  public:
-  Copy(data::Store& source, data::Store& target, const CopyOptions& options,
-       const RowProgress& progress)
+  Copy(data::Store& source, data::Store& target, const Options& options,
+       const store::RowProgress& progress)
       : source_(source), target_(target), options_(options), progress_(progress) {}
 
-  CopyReport Run() {
+  Report Run() {
     if (data::HasTable(source_, kNote)) {
       throw Error("The source holds an unfinished copy itself");
     }
-    for (const CopyTable& table : CopyTables()) CompareColumns(table);
+    for (const store::Table& table : store::Tables()) CompareColumns(table);
     Begin();
-    for (const CopyTable& table : CopyTables()) all_ += data::CountOf(source_, table.name);
-    for (const CopyTable& table : CopyTables()) {
+    for (const store::Table& table : store::Tables()) all_ += data::CountOf(source_, table.name);
+    for (const store::Table& table : store::Tables()) {
       CopyRows(table);
       KeepIds(table);
     }
@@ -65,9 +66,9 @@ class Copy {
   }
 
  private:
-  void CompareColumns(const CopyTable& table) {
-    std::vector<std::string> columns = ColumnsOf(source_, table);
-    const std::vector<std::string> there = ColumnsOf(target_, table);
+  void CompareColumns(const store::Table& table) {
+    std::vector<std::string> columns = store::ColumnsOf(source_, table);
+    const std::vector<std::string> there = store::ColumnsOf(target_, table);
     for (const std::string& column : columns) {
       const bool found = std::any_of(there.begin(), there.end(), [&](const std::string& name) {
         return basic::EqualIgnoringCase(name, column);
@@ -91,7 +92,7 @@ class Copy {
       transaction.Commit();
     } else if (options_.anew) {
       data::Transaction transaction(target_);
-      for (const CopyTable& table : CopyTables()) {
+      for (const store::Table& table : store::Tables()) {
         target_.Native(std::string("delete from ") + table.name);
       }
       target_.Native(std::string("delete from ") + kNote);
@@ -103,7 +104,7 @@ class Copy {
   }
 
   void RefuseRows() {
-    for (const CopyTable& table : CopyTables()) {
+    for (const store::Table& table : store::Tables()) {
       if (data::CountOf(target_, table.name) == 0) continue;
       throw Error("The table " + std::string(table.name) +
                   " of the target holds rows already; a copy goes only into empty tables");
@@ -112,7 +113,7 @@ class Copy {
 
   void WriteNote(data::Transaction& transaction) {
     data::RowWriter& note = transaction.Into(kNote, {"fSource", "fTable", "fLast", "fRows"});
-    for (const CopyTable& table : CopyTables()) {
+    for (const store::Table& table : store::Tables()) {
       note.Add({options_.source_name, table.name, std::monostate{}, int64_t{0}});
     }
   }
@@ -132,9 +133,9 @@ class Copy {
     report_.resumed = true;
   }
 
-  void CopyRows(const CopyTable& table) {
+  void CopyRows(const store::Table& table) {
     Standing& standing = standings_[table.name];
-    if (table.keys == CopyTable::Keys::Text && standing.last) return;
+    if (table.keys == store::Table::Keys::Text && standing.last) return;
     while (true) {
       const data::Recordset rows =
           ReadLot(source_, table, columns_.at(table.name), standing.last, options_.lot);
@@ -145,7 +146,7 @@ class Copy {
   }
 
   /// Stores rows and how far they bring the copy, both or neither.
-  void StoreLot(const CopyTable& table, const data::Recordset& rows, Standing& standing) {
+  void StoreLot(const store::Table& table, const data::Recordset& rows, Standing& standing) {
     data::Transaction transaction(target_);
     const std::vector<std::string>& columns = columns_.at(table.name);
     data::RowWriter& writer = transaction.Into(table.name, {columns.begin(), columns.end()});
@@ -168,7 +169,7 @@ class Copy {
   }
 
   static void AddRow(data::RowWriter& writer, const std::vector<data::Cell>& cells,
-                     const CopyTable& table, const data::Recordset& rows, size_t row) {
+                     const store::Table& table, const data::Recordset& rows, size_t row) {
     try {
       writer.AddRow(cells);
     } catch (const data::CellError& error) {
@@ -177,14 +178,14 @@ class Copy {
     }
   }
 
-  void KeepIds(const CopyTable& table) {
-    if (table.keys != CopyTable::Keys::Given) return;
+  void KeepIds(const store::Table& table) {
+    if (table.keys != store::Table::Keys::Given) return;
     const int64_t last = standings_[table.name].last.value_or(0);
     target_.GiveIdsAbove(table.name, std::max(source_.LastGivenId(table.name), last));
   }
 
   void Verify() {
-    for (const CopyTable& table : CopyTables()) {
+    for (const store::Table& table : store::Tables()) {
       report_.tables.push_back(
           CompareTables(source_, target_, table, columns_.at(table.name), options_.lot));
     }
@@ -192,22 +193,22 @@ class Copy {
 
   data::Store& source_;
   data::Store& target_;
-  const CopyOptions& options_;
-  const RowProgress& progress_;
+  const Options& options_;
+  const store::RowProgress& progress_;
   std::map<std::string, std::vector<std::string>> columns_;
   std::map<std::string, Standing> standings_;
   int64_t all_ = 0;
   int64_t done_ = 0;
-  CopyReport report_;
+  Report report_;
 };
 
 }  // namespace
 
-CopyReport CopyData(data::Store& source, data::Store& target, const CopyOptions& options,
-                    const RowProgress& progress) {
+Report CopyData(data::Store& source, data::Store& target, const Options& options,
+                const store::RowProgress& progress) {
   RefuseEngine(source);
   RefuseEngine(target);
   return Copy(source, target, options, progress).Run();
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::copy

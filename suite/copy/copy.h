@@ -5,11 +5,12 @@
 #include <utility>
 #include <vector>
 
-#include "suite/demo/demo.h"
+#include "platform/data/store.h"
+#include "suite/store/progress.h"
 
-namespace qvzj {
+namespace qvzj::copy {
 
-struct CopyOptions {
+struct Options {
   /// What the source is called. An unfinished copy goes on only from the same one.
   std::string source_name;
   /// Empties a target that holds an unfinished copy and begins again.
@@ -25,7 +26,7 @@ struct CopiedTable {
   std::vector<std::pair<std::string, std::string>> sums;  ///< amount columns and their totals
 };
 
-struct CopyReport {
+struct Report {
   bool resumed = false;
   std::vector<CopiedTable> tables;
 };
@@ -41,7 +42,7 @@ struct CopyReport {
 /// Throws Error when the target holds rows of its own or an unfinished copy of something else,
 /// when it lacks a column, when a value does not fit its column there (the row is named), or when
 /// the two sides differ; DataError when an engine refuses or fails.
-CopyReport CopyData(data::Store& source, data::Store& target, const CopyOptions& options,
-                    const RowProgress& progress);
+Report CopyData(data::Store& source, data::Store& target, const Options& options,
+                const store::RowProgress& progress);
 
-}  // namespace qvzj
+}  // namespace qvzj::copy

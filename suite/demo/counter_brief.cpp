@@ -2,7 +2,7 @@
 
 #include "platform/basic/text.h"
 
-namespace qvzj {
+namespace qvzj::demo_data {
 namespace {
 
 /// Bytes of the summary field, less the five of "挂入-".
@@ -21,4 +21,4 @@ std::string CounterBrief(const AnsiCodec& codec, const std::string& customer) {
   return "挂入-" + basic::Left(customer, fitting);
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::demo_data

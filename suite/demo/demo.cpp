@@ -8,17 +8,17 @@
 #include "suite/demo/ledger.h"
 #include "suite/demo/names.h"
 
-namespace qvzj {
+namespace qvzj::demo_data {
 namespace {
 
 constexpr int32_t kStaff = 12;
 
-class DemoMaker {
+class Maker {
  public:
-  DemoMaker(data::Transaction& transaction, const DemoOptions& options)
+  Maker(data::Transaction& transaction, const Options& options)
       : transaction_(transaction), options_(options), dice_(options.seed) {}
 
-  void Run(const RowProgress& progress) {
+  void Run(const store::RowProgress& progress) {
     WriteCurrencies();
     WriteStaff();
     WriteTemplates();
@@ -26,15 +26,15 @@ class DemoMaker {
     WriteAccounts();
     WriteCustomers();
     WriteVisitsAndOrders();
-    WriteDemoLedger(transaction_, options_, registers_, dice_, progress);
+    WriteLedger(transaction_, options_, registers_, dice_, progress);
   }
 
  private:
   /// Lists show currencies by falling type, so the local one has the highest.
   void WriteCurrencies() {
     data::RowWriter& table = transaction_.Into("Moneys", {"MoneyCode", "MoneyRate", "MoneyType"});
-    auto type = static_cast<int64_t>(std::size(kDemoCurrencies));
-    for (const DemoCurrency& currency : kDemoCurrencies) {
+    auto type = static_cast<int64_t>(std::size(kCurrencies));
+    for (const demo_data::Currency& currency : kCurrencies) {
       table.Add({currency.code, currency.rate, type--});
     }
   }
@@ -52,7 +52,7 @@ class DemoMaker {
   void WriteTemplates() {
     data::RowWriter& table =
         transaction_.Into("tJXC_InvSet", {"fSetNo", "fSetNoUse_", "fRowID", "fSetAutoNo"});
-    const std::string digits(static_cast<size_t>(DemoNumberWidth(options_)), 'X');
+    const std::string digits(static_cast<size_t>(NumberWidth(options_)), 'X');
     table.Add({int64_t{51}, int64_t{1}, int64_t{1}, "PZyymmXXXX"});  // switched off
     table.Add({int64_t{51}, int64_t{0}, int64_t{2}, "yyyymmPZ" + digits});
     table.Add({int64_t{52}, int64_t{0}, int64_t{3}, "yyyymmZJ" + digits});
@@ -117,8 +117,8 @@ class DemoMaker {
     const int width = std::max(4, static_cast<int>(std::to_string(options_.customers).size()));
     registers_.customers.reserve(static_cast<size_t>(options_.customers));
     for (int32_t i = 1; i <= options_.customers; ++i) {
-      const DemoPlace& place = names_.Place();
-      DemoCustomer customer{i, dice_.Between(0, 3), Currency(), names_.Company(place)};
+      const Town& place = names_.Place();
+      Customer customer{i, dice_.Between(0, 3), Currency(), names_.Company(place)};
       std::string goods{names_.Goods()};
       table.Add({int64_t{i}, Numbered("K", i, width), customer.name, names_.Person(),
                  names_.Bank(place), "62" + names_.Digits(14), names_.Remark(), place.province,
@@ -152,10 +152,10 @@ class DemoMaker {
   }
 
   data::Transaction& transaction_;
-  const DemoOptions& options_;
+  const Options& options_;
   Dice dice_;
-  DemoNames names_{dice_};
-  DemoRegisters registers_;
+  Names names_{dice_};
+  Registers registers_;
 };
 
 void CheckRange(const char* what, int64_t value, int64_t low, int64_t high) {
@@ -166,7 +166,7 @@ void CheckRange(const char* what, int64_t value, int64_t low, int64_t high) {
 
 }  // namespace
 
-void MakeDemoData(data::Store& store, const DemoOptions& options, const RowProgress& progress) {
+void MakeData(data::Store& store, const Options& options, const store::RowProgress& progress) {
   CheckRange("customers", options.customers, 1, 10'000'000);
   CheckRange("accounts", options.accounts, 1, 1000);
   CheckRange("entries", options.entries, 0, 100'000'000);
@@ -179,8 +179,8 @@ void MakeDemoData(data::Store& store, const DemoOptions& options, const RowProgr
     }
   }
   data::Transaction transaction(store);
-  DemoMaker(transaction, options).Run(progress);
+  Maker(transaction, options).Run(progress);
   transaction.Commit();
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::demo_data

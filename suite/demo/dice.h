@@ -4,7 +4,7 @@
 #include <random>
 #include <span>
 
-namespace qvzj {
+namespace qvzj::demo_data {
 
 /// Random choices that come out the same for the same seed on every machine, which the standard
 /// library's distributions do not promise.
@@ -36,4 +36,4 @@ class Dice {
   std::mt19937_64 engine_;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::demo_data

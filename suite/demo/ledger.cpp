@@ -8,7 +8,7 @@
 #include "suite/demo/counter_brief.h"
 #include "suite/demo/names.h"
 
-namespace qvzj {
+namespace qvzj::demo_data {
 namespace {
 
 constexpr int32_t kMaxDocuments = 500;
@@ -42,13 +42,13 @@ struct Entry {
 
 class LedgerMaker {
  public:
-  LedgerMaker(data::Transaction& transaction, const DemoOptions& options,
-              const DemoRegisters& registers, Dice& dice, const RowProgress& progress)
+  LedgerMaker(data::Transaction& transaction, const Options& options, const Registers& registers,
+              Dice& dice, const store::RowProgress& progress)
       : options_(options),
         registers_(registers),
         dice_(dice),
         progress_(progress),
-        width_(DemoNumberWidth(options)),
+        width_(NumberWidth(options)),
         ledger_(transaction.Into("tAccountDetail",
                                  {"fID", "fDate", "fCompID", "fType1", "fType2", "fAcntNo", "fInit",
                                   "fMoneyA", "fMoneyB", "fBrief", "fInvID", "fOrderID", "fUser",
@@ -56,7 +56,7 @@ class LedgerMaker {
         documents_(transaction.Into("tJXC_CkDj01", {"fKhID", "fInvNo", "fInvSHR"})),
         archive_(transaction.Into("tJXC_CkDj_Bak01", {"fKhID", "fInvNo", "fInvSHR"})),
         debts_(registers.customers.size() * 2 + 2) {
-    for (const DemoAccount& account : registers.accounts) {
+    for (const Account& account : registers.accounts) {
       accounts_of_[account.currency].push_back(account.id);
     }
     ListWorkdays();
@@ -143,15 +143,15 @@ class LedgerMaker {
     const int32_t id = ++written_;
     ledger_.Add({int64_t{id}, e.date, int64_t{e.company}, int64_t{e.kind}, int64_t{e.direction},
                  e.number, int64_t{e.opening}, e.money_a, e.money_b, e.brief, e.document, e.order,
-                 e.user, e.handler, e.checker, int64_t{e.link}, kDemoCurrencies[e.currency].code,
-                 kDemoCurrencies[e.currency].rate});
+                 e.user, e.handler, e.checker, int64_t{e.link}, kCurrencies[e.currency].code,
+                 kCurrencies[e.currency].rate});
     if (progress_ && written_ % 1000 == 0) progress_(written_, options_.entries);
     return id;
   }
 
   void WriteOpenings() {
     StartDay(workdays_.front());
-    for (const DemoAccount& account : registers_.accounts) {
+    for (const Account& account : registers_.accounts) {
       if (written_ >= options_.entries) return;
       Entry entry = NewEntry(1);
       entry.company = account.id;
@@ -161,7 +161,7 @@ class LedgerMaker {
     }
     const int32_t limit = written_ + (options_.entries - written_) / 4;
     for (size_t i = 0; i < registers_.customers.size() && written_ < limit; i += 3) {
-      const DemoCustomer& customer = registers_.customers[i];
+      const Customer& customer = registers_.customers[i];
       Entry entry = NewEntry(0);
       entry.company = customer.id;
       entry.currency = customer.currency;
@@ -181,7 +181,7 @@ class LedgerMaker {
   }
 
   void WriteAccountEntry() {
-    const DemoAccount& account = dice_.Pick(std::span<const DemoAccount>(registers_.accounts));
+    const Account& account = dice_.Pick(std::span<const Account>(registers_.accounts));
     Entry entry = NewEntry(1);
     entry.company = account.id;
     entry.currency = account.currency;
@@ -192,20 +192,20 @@ class LedgerMaker {
     Write(entry);
   }
 
-  int DirectionOf(const DemoCustomer& customer) {
+  int DirectionOf(const Customer& customer) {
     if (customer.type == 1) return 2;
     if (customer.type == 2) return 1;
     return dice_.Chance(50) ? 1 : 2;
   }
 
   /// A customer of the busy nine tenths; the others have no entries but an opening balance.
-  const DemoCustomer& BusyCustomer() {
+  const Customer& BusyCustomer() {
     const size_t busy = std::max<size_t>(1, registers_.customers.size() * 9 / 10);
     return registers_.customers[dice_.Below(static_cast<uint32_t>(busy))];
   }
 
   void WriteCustomerEntry() {
-    const DemoCustomer& customer = BusyCustomer();
+    const Customer& customer = BusyCustomer();
     Entry entry = NewEntry(0);
     entry.company = customer.id;
     entry.currency = customer.currency;
@@ -267,17 +267,17 @@ class LedgerMaker {
                dice_.Chance(70) ? Someone() : std::string_view{}});
   }
 
-  const DemoOptions& options_;
-  const DemoRegisters& registers_;
+  const Options& options_;
+  const Registers& registers_;
   Dice& dice_;
-  const RowProgress& progress_;
+  const store::RowProgress& progress_;
   const int width_;
   data::RowWriter& ledger_;
   data::RowWriter& documents_;
   data::RowWriter& archive_;
   IcuAnsiCodec codec_;
   std::vector<basic::Date> workdays_;
-  std::vector<int32_t> accounts_of_[std::size(kDemoCurrencies)];
+  std::vector<int32_t> accounts_of_[std::size(kCurrencies)];
   std::vector<int64_t> debts_;  // two a customer, see Debt
   basic::Date day_;
   std::array<int, 2> counters_{};
@@ -288,7 +288,7 @@ class LedgerMaker {
 
 }  // namespace
 
-int DemoNumberWidth(const DemoOptions& options) {
+int NumberWidth(const Options& options) {
   // A month holds at most a twelfth of a year's entries and its share of the openings.
   int64_t busiest = options.entries / (12 * options.years) * 2 + options.entries / 4;
   int width = 5;
@@ -296,10 +296,10 @@ int DemoNumberWidth(const DemoOptions& options) {
   return width;
 }
 
-void WriteDemoLedger(data::Transaction& transaction, const DemoOptions& options,
-                     const DemoRegisters& registers, Dice& dice, const RowProgress& progress) {
+void WriteLedger(data::Transaction& transaction, const Options& options, const Registers& registers,
+                 Dice& dice, const store::RowProgress& progress) {
   LedgerMaker(transaction, options, registers, dice, progress).Run();
   transaction.Within().GiveIdsAbove("tAccountDetail", options.entries);
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::demo_data

@@ -8,21 +8,21 @@
 #include "suite/demo/demo.h"
 #include "suite/demo/dice.h"
 
-namespace qvzj {
+namespace qvzj::demo_data {
 
-struct DemoCurrency {
+struct Currency {
   const char* code;
   double rate;
 };
 /// Currencies of the demo data; the first is the local one.
-inline constexpr DemoCurrency kDemoCurrencies[] = {{"RMB", 1.0}, {"USD", 7.1234}, {"HKD", 0.9156}};
+inline constexpr Currency kCurrencies[] = {{"RMB", 1.0}, {"USD", 7.1234}, {"HKD", 0.9156}};
 
-struct DemoAccount {
+struct Account {
   int32_t id;
-  size_t currency;  ///< index in kDemoCurrencies
+  size_t currency;  ///< index in kCurrencies
 };
 
-struct DemoCustomer {
+struct Customer {
   int32_t id;
   int32_t type;  ///< 0 both, 1 supplier, 2 buyer, 3 agent
   size_t currency;
@@ -30,17 +30,17 @@ struct DemoCustomer {
 };
 
 /// The registers that the ledger's entries refer to.
-struct DemoRegisters {
-  std::vector<DemoAccount> accounts;
-  std::vector<DemoCustomer> customers;
+struct Registers {
+  std::vector<Account> accounts;
+  std::vector<Customer> customers;
   std::vector<std::string> staff;
 };
 
 /// Digits of the counter in voucher numbers, enough for the busiest month.
-int DemoNumberWidth(const DemoOptions& options);
+int NumberWidth(const Options& options);
 
 /// Writes the ledger in the order of its days, and warehouse documents for some of its entries.
-void WriteDemoLedger(data::Transaction& transaction, const DemoOptions& options,
-                     const DemoRegisters& registers, Dice& dice, const RowProgress& progress);
+void WriteLedger(data::Transaction& transaction, const Options& options, const Registers& registers,
+                 Dice& dice, const store::RowProgress& progress);
 
-}  // namespace qvzj
+}  // namespace qvzj::demo_data

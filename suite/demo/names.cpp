@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-namespace qvzj {
+namespace qvzj::demo_data {
 namespace {
 
-constexpr DemoPlace kPlaces[] = {
+constexpr Town kPlaces[] = {
     {"广东", "深圳", "518000", "0755"}, {"广东", "广州", "510000", "020"},
     {"广东", "东莞", "523000", "0769"}, {"广东", "佛山", "528000", "0757"},
     {"广东", "惠州", "516000", "0752"}, {"浙江", "杭州", "310000", "0571"},
@@ -73,16 +73,16 @@ std::string Numbered(std::string_view prefix, int64_t number, int width) {
   return std::string(prefix) + std::string(zeros, '0') + digits;
 }
 
-std::string DemoNames::Person() {
+std::string Names::Person() {
   std::string name{dice_.Pick(kFamilies)};
   name += dice_.Pick(kGiven);
   if (dice_.Chance(60)) name += dice_.Pick(kGiven);
   return name;
 }
 
-const DemoPlace& DemoNames::Place() { return dice_.Pick(kPlaces); }
+const Town& Names::Place() { return dice_.Pick(kPlaces); }
 
-std::string DemoNames::Company(const DemoPlace& place) {
+std::string Names::Company(const Town& place) {
   // After a few tries in vain the town is full, and a third character makes the difference.
   for (int tries = 0;; ++tries) {
     std::string name{place.city};
@@ -95,30 +95,30 @@ std::string DemoNames::Company(const DemoPlace& place) {
   }
 }
 
-std::string DemoNames::Bank(const DemoPlace& place) {
+std::string Names::Bank(const Town& place) {
   std::string bank{dice_.Pick(kBanks)};
   bank += place.city;
   bank += dice_.Pick(kBranches);
   return bank;
 }
 
-std::string DemoNames::Digits(int count) {
+std::string Names::Digits(int count) {
   std::string digits;
   for (int i = 0; i < count; ++i) digits += static_cast<char>('0' + dice_.Below(10));
   return digits;
 }
 
-std::string DemoNames::Telephone(const DemoPlace& place) {
+std::string Names::Telephone(const Town& place) {
   std::string number{place.area_code};
   number += '-';
   number += static_cast<char>('2' + dice_.Below(7));
   return number + Digits(7);
 }
 
-std::string_view DemoNames::Goods() { return dice_.Pick(kGoods); }
+std::string_view Names::Goods() { return dice_.Pick(kGoods); }
 
-std::string_view DemoNames::Remark() {
+std::string_view Names::Remark() {
   return dice_.Chance(40) ? dice_.Pick(kRemarks) : std::string_view{};
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::demo_data

@@ -7,13 +7,13 @@
 
 #include "suite/demo/dice.h"
 
-namespace qvzj {
+namespace qvzj::demo_data {
 
 /// `number` with zeros before it up to `width` digits, after `prefix`.
 std::string Numbered(std::string_view prefix, int64_t number, int width);
 
 /// A place with what an address needs.
-struct DemoPlace {
+struct Town {
   std::string_view province;
   std::string_view city;
   std::string_view postcode;
@@ -21,20 +21,20 @@ struct DemoPlace {
 };
 
 /// Makes up Chinese names, numbers and remarks that look like a trading company's.
-class DemoNames {
+class Names {
  public:
-  explicit DemoNames(Dice& dice) : dice_(dice) {}
+  explicit Names(Dice& dice) : dice_(dice) {}
 
   /// Family name and one or two characters.
   std::string Person();
   /// A place to live at.
-  const DemoPlace& Place();
+  const Town& Place();
   /// A company of that place; never the same twice from one object.
-  std::string Company(const DemoPlace& place);
+  std::string Company(const Town& place);
   /// A bank branch of that place.
-  std::string Bank(const DemoPlace& place);
+  std::string Bank(const Town& place);
   std::string Digits(int count);
-  std::string Telephone(const DemoPlace& place);
+  std::string Telephone(const Town& place);
   /// Something that is bought and sold.
   std::string_view Goods();
   /// A remark on a customer; "" for most of them.
@@ -45,4 +45,4 @@ class DemoNames {
   std::unordered_set<std::string> companies_;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::demo_data

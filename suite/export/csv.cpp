@@ -9,7 +9,7 @@
 #include "suite/export/replaced_file.h"
 #include "suite/export/suite_exporter.h"
 
-namespace qvzj {
+namespace qvzj::exports {
 namespace {
 
 constexpr int32_t kProgressRows = 1000;
@@ -103,4 +103,4 @@ ExportResult ExportCsv(const ExportRequest& request, bool gb18030) {
   return result;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::exports

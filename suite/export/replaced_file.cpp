@@ -8,7 +8,7 @@
 
 #include "platform/basic/errors.h"
 
-namespace qvzj {
+namespace qvzj::exports {
 namespace fs = std::filesystem;
 
 ReplacedFile::ReplacedFile(std::string path) : path_(std::move(path)), temporary_(path_ + ".part") {
@@ -27,4 +27,4 @@ void ReplacedFile::Commit() {
   committed_ = true;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::exports

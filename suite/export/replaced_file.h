@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace qvzj {
+namespace qvzj::exports {
 
 /// A file that is written under a temporary name beside its place and takes it only when it is
 /// complete, so that a failed or cancelled export leaves the old file as it was.
@@ -25,4 +25,4 @@ class ReplacedFile {
   bool committed_ = false;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::exports

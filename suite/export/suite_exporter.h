@@ -4,7 +4,7 @@
 
 #include "platform/table_export.h"
 
-namespace qvzj {
+namespace qvzj::exports {
 
 /// Writes grids as Excel workbooks and as comma-separated values.
 class SuiteExporter : public TableExporter {
@@ -29,4 +29,4 @@ struct XlsxBounds {
 /// below. More rows than a sheet holds go on to further sheets.
 ExportResult ExportXlsx(const ExportRequest& request, const XlsxBounds& bounds = {});
 
-}  // namespace qvzj
+}  // namespace qvzj::exports

@@ -12,7 +12,7 @@
 #include "suite/export/replaced_file.h"
 #include "suite/export/suite_exporter.h"
 
-namespace qvzj {
+namespace qvzj::exports {
 namespace {
 
 constexpr int32_t kProgressRows = 1000;
@@ -202,4 +202,4 @@ ExportResult ExportXlsx(const ExportRequest& request, const XlsxBounds& bounds) 
   return result;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::exports

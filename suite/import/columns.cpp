@@ -2,10 +2,10 @@
 
 #include "platform/basic/text.h"
 
-namespace qvzj {
+namespace qvzj::imports {
 namespace {
 
-constexpr ImportColumn kRegister[] = {
+constexpr Column kRegister[] = {
     {"CompCode", FieldKind::Text, 20, true, "编号"},
     {"compname", FieldKind::Text, 0, true, "名称"},
     {"name", FieldKind::Text, 20, false, "联系人"},
@@ -21,7 +21,7 @@ constexpr ImportColumn kRegister[] = {
     {"detail", FieldKind::Memo, 0, false, "详细资料"},
 };
 
-constexpr ImportColumn kEntries[] = {
+constexpr Column kEntries[] = {
     {"fCompID", FieldKind::Whole, 0, false, "单位序号"},
     {"CompCode", FieldKind::Text, 20, false, "编号"},
     {"compname", FieldKind::Text, 0, false, "名称"},
@@ -43,12 +43,12 @@ constexpr ImportColumn kEntries[] = {
 
 }  // namespace
 
-std::span<const ImportColumn> ColumnsOf(ImportKind kind) {
-  if (kind == ImportKind::Entries) return kEntries;
+std::span<const Column> ColumnsOf(Kind kind) {
+  if (kind == Kind::Entries) return kEntries;
   return kRegister;
 }
 
-int FindColumn(std::span<const ImportColumn> columns, std::string_view name) {
+int FindColumn(std::span<const Column> columns, std::string_view name) {
   for (size_t i = 0; i < columns.size(); ++i) {
     if (name == columns[i].heading || basic::EqualIgnoringCase(name, columns[i].name)) {
       return static_cast<int>(i);
@@ -57,4 +57,4 @@ int FindColumn(std::span<const ImportColumn> columns, std::string_view name) {
   return -1;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

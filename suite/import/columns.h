@@ -4,10 +4,10 @@
 #include <span>
 #include <string_view>
 
-namespace qvzj {
+namespace qvzj::imports {
 
 /// What a file of an import holds.
-enum class ImportKind { Customers, Accounts, Entries };
+enum class Kind { Customers, Accounts, Entries };
 
 /// How the text of a field becomes a value.
 enum class FieldKind {
@@ -22,7 +22,7 @@ enum class FieldKind {
 };
 
 /// One column that an import fills.
-struct ImportColumn {
+struct Column {
   std::string_view name;  ///< as in the table
   FieldKind kind;
   int limit;                 ///< bytes of the Chinese code page, 0 = none
@@ -32,10 +32,10 @@ struct ImportColumn {
 
 /// The columns of a kind of import. Those of the entries begin with the three that name the
 /// register record (fCompID, CompCode, compname), of which a row needs one.
-std::span<const ImportColumn> ColumnsOf(ImportKind kind);
+std::span<const Column> ColumnsOf(Kind kind);
 
 /// Index of the column called `name` (the table's name, ASCII case ignored, or the screen's); -1
 /// when there is none.
-int FindColumn(std::span<const ImportColumn> columns, std::string_view name);
+int FindColumn(std::span<const Column> columns, std::string_view name);
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

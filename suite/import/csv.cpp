@@ -1,6 +1,6 @@
 #include "suite/import/csv.h"
 
-namespace qvzj {
+namespace qvzj::imports {
 
 bool CsvReader::AtLineEnd() const {
   if (at_ >= text_.size() || text_[at_] == '\n') return true;
@@ -86,4 +86,4 @@ bool CsvReader::Next(CsvRecord& record) {
   return true;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

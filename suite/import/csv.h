@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace qvzj {
+namespace qvzj::imports {
 
 /// One record of a CSV text.
 struct CsvRecord {
@@ -42,4 +42,4 @@ class CsvReader {
   int64_t line_ = 1;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

@@ -6,10 +6,10 @@
 #include "suite/import/rows.h"
 #include "suite/import/texts.h"
 
-namespace qvzj {
+namespace qvzj::imports {
 namespace {
 
-/// Places of the columns in ColumnsOf(ImportKind::Entries).
+/// Places of the columns in ColumnsOf(Kind::Entries).
 enum Place : size_t {
   kId,
   kCode,
@@ -118,10 +118,10 @@ class Currencies {
   int64_t lowest_type_ = 1;
 };
 
-class EntryRows : public ImportRows {
+class EntryRows : public Rows {
  public:
-  EntryRows(data::Transaction& transaction, const ImportOptions& options,
-            const ImportMapping& mapping, ImportReport& report)
+  EntryRows(data::Transaction& transaction, const Options& options, const Mapping& mapping,
+            Report& report)
       : options_(options),
         mapping_(mapping),
         report_(report),
@@ -247,11 +247,11 @@ class EntryRows : public ImportRows {
     return rate;
   }
 
-  const ImportOptions& options_;
-  const ImportMapping& mapping_;
-  ImportReport& report_;
-  std::span<const ImportColumn> columns_;
-  ImportTexts texts_;
+  const Options& options_;
+  const Mapping& mapping_;
+  Report& report_;
+  std::span<const Column> columns_;
+  Texts texts_;
   Records records_;
   Currencies currencies_;
   data::RowWriter& writer_;
@@ -260,10 +260,9 @@ class EntryRows : public ImportRows {
 
 }  // namespace
 
-std::unique_ptr<ImportRows> MakeEntryRows(data::Transaction& transaction,
-                                          const ImportOptions& options,
-                                          const ImportMapping& mapping, ImportReport& report) {
+std::unique_ptr<Rows> MakeEntryRows(data::Transaction& transaction, const Options& options,
+                                    const Mapping& mapping, Report& report) {
   return std::make_unique<EntryRows>(transaction, options, mapping, report);
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

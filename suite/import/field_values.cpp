@@ -7,7 +7,7 @@
 
 #include "platform/basic/text.h"
 
-namespace qvzj {
+namespace qvzj::imports {
 namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -149,4 +149,4 @@ std::optional<basic::Date> ReadDate(std::string_view text, DateOrder order, std:
   return date;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

@@ -9,7 +9,7 @@
 /// How the fields of files that people exported from other programs are read. What can be read in
 /// one way only is read; what could mean two things is refused, since a wrong amount or day in a
 /// ledger costs more than a row that is keyed by hand.
-namespace qvzj {
+namespace qvzj::imports {
 
 /// Order of a date's numbers in a file, for those that leave it open.
 enum class DateOrder { Unknown, MonthFirst, DayFirst };
@@ -27,4 +27,4 @@ std::optional<int32_t> ReadWholeNumber(std::string_view text);
 /// order makes it a day ("3/15/2024"). Empty for everything else; `why` then says the reason.
 std::optional<basic::Date> ReadDate(std::string_view text, DateOrder order, std::string& why);
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

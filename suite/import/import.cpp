@@ -6,7 +6,7 @@
 #include "suite/import/csv.h"
 #include "suite/import/rows.h"
 
-namespace qvzj {
+namespace qvzj::imports {
 namespace {
 
 /// Reports progress about once in a thousand rows, in bytes of the file.
@@ -14,18 +14,18 @@ constexpr int64_t kRowsBetweenReports = 1000;
 
 class Import {
  public:
-  Import(data::Transaction& transaction, std::string_view text, const ImportOptions& options,
-         const std::function<void(const Refusal&)>& refused, ImportReport& report)
+  Import(data::Transaction& transaction, std::string_view text, const Options& options,
+         const std::function<void(const Refusal&)>& refused, Report& report)
       : refused_(refused), report_(report), reader_(text, options.separator) {
     CsvRecord header;
     if (!reader_.Next(header))
       throw Error("The file is empty; its first row must name the columns");
     if (!header.fault.empty()) throw Error("The first row cannot be read: " + header.fault);
     mapping_.emplace(options.kind, header.fields, options.map, options.set, options.presets);
-    rows_ = MakeImportRows(transaction, options, *mapping_, report);
+    rows_ = MakeRows(transaction, options, *mapping_, report);
   }
 
-  void Run(const RowProgress& progress, int64_t size) {
+  void Run(const store::RowProgress& progress, int64_t size) {
     CsvRecord record;
     while (reader_.Next(record)) {
       ++report_.rows;
@@ -52,18 +52,18 @@ class Import {
   }
 
   const std::function<void(const Refusal&)>& refused_;
-  ImportReport& report_;
+  Report& report_;
   CsvReader reader_;
-  std::optional<ImportMapping> mapping_;
-  std::unique_ptr<ImportRows> rows_;
+  std::optional<Mapping> mapping_;
+  std::unique_ptr<Rows> rows_;
 };
 
 }  // namespace
 
-ImportReport ImportCsv(data::Store& store, std::string_view bytes, const ImportOptions& options,
-                       const std::function<void(const Refusal&)>& refused,
-                       const RowProgress& progress) {
-  ImportReport report;
+Report ImportCsv(data::Store& store, std::string_view bytes, const Options& options,
+                 const std::function<void(const Refusal&)>& refused,
+                 const store::RowProgress& progress) {
+  Report report;
   const ChineseText text = ReadChineseText(bytes);
   report.encoding = text.encoding;
   data::Transaction transaction(store);
@@ -77,4 +77,4 @@ ImportReport ImportCsv(data::Store& store, std::string_view bytes, const ImportO
   return report;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

@@ -6,19 +6,19 @@
 #include <string_view>
 #include <vector>
 
-#include "suite/demo/demo.h"
 #include "suite/import/field_values.h"
 #include "suite/import/mapping.h"
+#include "suite/store/progress.h"
 
-namespace qvzj {
-
-namespace data {
+namespace qvzj::data {
 class Store;
 }
 
+namespace qvzj::imports {
+
 /// What is imported, and how the file is to be understood.
-struct ImportOptions {
-  ImportKind kind = ImportKind::Customers;
+struct Options {
+  Kind kind = Kind::Customers;
   int16_t ledger = 0;  ///< entries: 0 customers, 1 money accounts
   char separator = ',';
   DateOrder dates = DateOrder::Unknown;
@@ -36,7 +36,7 @@ struct Refusal {
   std::string reason;
 };
 
-struct ImportReport {
+struct Report {
   std::string encoding;  ///< what the file was written in
   int64_t rows = 0;      ///< records after the header
   int64_t written = 0;
@@ -52,8 +52,8 @@ struct ImportReport {
 /// transaction, so that an import that breaks off leaves nothing behind. Values are bound, never
 /// pasted into statements. Throws Error when the file as a whole cannot be understood, DataError
 /// when the engine fails.
-ImportReport ImportCsv(data::Store& store, std::string_view bytes, const ImportOptions& options,
-                       const std::function<void(const Refusal&)>& refused,
-                       const RowProgress& progress);
+Report ImportCsv(data::Store& store, std::string_view bytes, const Options& options,
+                 const std::function<void(const Refusal&)>& refused,
+                 const store::RowProgress& progress);
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

@@ -3,7 +3,7 @@
 #include "platform/basic/errors.h"
 #include "platform/basic/text.h"
 
-namespace qvzj {
+namespace qvzj::imports {
 namespace {
 
 std::string_view TrimSpace(std::string_view text) {
@@ -15,10 +15,9 @@ std::string_view TrimSpace(std::string_view text) {
 
 }  // namespace
 
-ImportMapping::ImportMapping(ImportKind kind, const std::vector<std::string>& header,
-                             const std::vector<ColumnOption>& map,
-                             const std::vector<ColumnOption>& set,
-                             const std::vector<ColumnOption>& presets)
+Mapping::Mapping(Kind kind, const std::vector<std::string>& header,
+                 const std::vector<ColumnOption>& map, const std::vector<ColumnOption>& set,
+                 const std::vector<ColumnOption>& presets)
     : columns_(ColumnsOf(kind)), values_(columns_.size()), presets_(columns_.size()) {
   for (const std::string& name : header) header_.emplace_back(TrimSpace(name));
   for (const auto& [column, name] : map) {
@@ -31,7 +30,7 @@ ImportMapping::ImportMapping(ImportKind kind, const std::vector<std::string>& he
     if (column < 0 || !values_[static_cast<size_t>(column)].empty()) continue;
     values_[static_cast<size_t>(column)] = {Part{static_cast<int>(i), {}}};
   }
-  if (kind == ImportKind::Entries && !Fills(0) && !Fills(1) && !Fills(2)) {
+  if (kind == Kind::Entries && !Fills(0) && !Fills(1) && !Fills(2)) {
     throw Error(
         "Nothing says whose entries these are: one of fCompID, CompCode and compname must "
         "be filled; map one with --map CompCode=HEADER");
@@ -45,12 +44,12 @@ ImportMapping::ImportMapping(ImportKind kind, const std::vector<std::string>& he
   }
 }
 
-void ImportMapping::SetTemplate(std::vector<Template>& templates, const std::string& column,
-                                Template value) {
+void Mapping::SetTemplate(std::vector<Template>& templates, const std::string& column,
+                          Template value) {
   const int index = FindColumn(columns_, column);
   if (index < 0) {
     std::string known;
-    for (const ImportColumn& c : columns_) known += " " + std::string(c.name);
+    for (const Column& c : columns_) known += " " + std::string(c.name);
     throw Error("There is no column " + column + "; the columns are" + known);
   }
   Template& target = templates[static_cast<size_t>(index)];
@@ -58,7 +57,7 @@ void ImportMapping::SetTemplate(std::vector<Template>& templates, const std::str
   target = std::move(value);
 }
 
-int ImportMapping::HeaderIndex(const std::string& name) const {
+int Mapping::HeaderIndex(const std::string& name) const {
   int found = -1;
   for (size_t i = 0; i < header_.size(); ++i) {
     if (header_[i] != name) continue;
@@ -73,7 +72,7 @@ int ImportMapping::HeaderIndex(const std::string& name) const {
   return found;
 }
 
-ImportMapping::Template ImportMapping::Parse(const std::string& text) const {
+Mapping::Template Mapping::Parse(const std::string& text) const {
   Template parts;
   size_t at = 0;
   while (at < text.size()) {
@@ -88,7 +87,7 @@ ImportMapping::Template ImportMapping::Parse(const std::string& text) const {
   return parts;
 }
 
-std::string ImportMapping::Fill(const Template& value, const std::vector<std::string>& fields) {
+std::string Mapping::Fill(const Template& value, const std::vector<std::string>& fields) {
   if (value.size() == 1 && value[0].field >= 0) {
     return std::string(TrimSpace(fields[static_cast<size_t>(value[0].field)]));
   }
@@ -100,10 +99,10 @@ std::string ImportMapping::Fill(const Template& value, const std::vector<std::st
   return std::string(TrimSpace(text));
 }
 
-std::string ImportMapping::Value(size_t column, const std::vector<std::string>& fields) const {
+std::string Mapping::Value(size_t column, const std::vector<std::string>& fields) const {
   std::string value = Fill(values_[column], fields);
   if (value.empty() && !presets_[column].empty()) value = Fill(presets_[column], fields);
   return value;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

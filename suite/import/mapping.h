@@ -7,22 +7,21 @@
 
 #include "suite/import/columns.h"
 
-namespace qvzj {
+namespace qvzj::imports {
 
 /// A column's name and where its value comes from, as given on a command line.
 using ColumnOption = std::pair<std::string, std::string>;
 
 /// What the fields of a record become: for every column of the import a template of fixed text and
 /// of fields of the file.
-class ImportMapping {
+class Mapping {
  public:
   /// `header` is the first record of the file. A header that is called like a column fills it;
   /// `map` (column, header) names another header; `set` (column, text with {header} in it) makes
   /// the value up; `presets` (column, such a text) is taken where the value is empty. Throws Error
   /// for an unknown column or header, a column named twice, and a required column without a source.
-  ImportMapping(ImportKind kind, const std::vector<std::string>& header,
-                const std::vector<ColumnOption>& map, const std::vector<ColumnOption>& set,
-                const std::vector<ColumnOption>& presets);
+  Mapping(Kind kind, const std::vector<std::string>& header, const std::vector<ColumnOption>& map,
+          const std::vector<ColumnOption>& set, const std::vector<ColumnOption>& presets);
 
   size_t FieldCount() const { return header_.size(); }
   /// True when anything fills the column.
@@ -43,10 +42,10 @@ class ImportMapping {
   int HeaderIndex(const std::string& name) const;
   static std::string Fill(const Template& value, const std::vector<std::string>& fields);
 
-  std::span<const ImportColumn> columns_;
+  std::span<const Column> columns_;
   std::vector<std::string> header_;
   std::vector<Template> values_;
   std::vector<Template> presets_;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

@@ -5,21 +5,19 @@
 #include "suite/import/rows.h"
 #include "suite/import/texts.h"
 
-namespace qvzj {
+namespace qvzj::imports {
 namespace {
 
 constexpr size_t kCode = 0;
 constexpr size_t kColumns = 13;
 constexpr const char* kTypes[] = {"供销商", "供应商", "销售商", "代销商"};
 
-const char* TableOf(ImportKind kind) {
-  return kind == ImportKind::Accounts ? "tAccounts" : "cards";
-}
+const char* TableOf(Kind kind) { return kind == Kind::Accounts ? "tAccounts" : "cards"; }
 
-class RegisterRows : public ImportRows {
+class RegisterRows : public Rows {
  public:
-  RegisterRows(data::Transaction& transaction, const ImportOptions& options,
-               const ImportMapping& mapping, ImportReport& report)
+  RegisterRows(data::Transaction& transaction, const Options& options, const Mapping& mapping,
+               Report& report)
       : options_(options),
         mapping_(mapping),
         report_(report),
@@ -41,7 +39,7 @@ class RegisterRows : public ImportRows {
     texts_.BeginRow();
     for (size_t i = 0; i < columns_.size(); ++i) {
       values_[i] = mapping_.Value(i, fields);
-      const ImportColumn& column = columns_[i];
+      const Column& column = columns_[i];
       if (column.required && values_[i].empty()) return std::string(column.name) + " is empty";
     }
     const std::string code = basic::Lower(basic::Replace(values_[kCode], "'", "’"));
@@ -82,11 +80,11 @@ class RegisterRows : public ImportRows {
     return -1;
   }
 
-  const ImportOptions& options_;
-  const ImportMapping& mapping_;
-  ImportReport& report_;
-  std::span<const ImportColumn> columns_;
-  ImportTexts texts_;
+  const Options& options_;
+  const Mapping& mapping_;
+  Report& report_;
+  std::span<const Column> columns_;
+  Texts texts_;
   data::RowWriter& writer_;
   std::unordered_set<std::string> codes_;
   int32_t last_id_ = 0;
@@ -95,18 +93,15 @@ class RegisterRows : public ImportRows {
 
 }  // namespace
 
-std::unique_ptr<ImportRows> MakeRegisterRows(data::Transaction& transaction,
-                                             const ImportOptions& options,
-                                             const ImportMapping& mapping, ImportReport& report) {
+std::unique_ptr<Rows> MakeRegisterRows(data::Transaction& transaction, const Options& options,
+                                       const Mapping& mapping, Report& report) {
   return std::make_unique<RegisterRows>(transaction, options, mapping, report);
 }
 
-std::unique_ptr<ImportRows> MakeImportRows(data::Transaction& transaction,
-                                           const ImportOptions& options,
-                                           const ImportMapping& mapping, ImportReport& report) {
-  return options.kind == ImportKind::Entries
-             ? MakeEntryRows(transaction, options, mapping, report)
-             : MakeRegisterRows(transaction, options, mapping, report);
+std::unique_ptr<Rows> MakeRows(data::Transaction& transaction, const Options& options,
+                               const Mapping& mapping, Report& report) {
+  return options.kind == Kind::Entries ? MakeEntryRows(transaction, options, mapping, report)
+                                       : MakeRegisterRows(transaction, options, mapping, report);
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

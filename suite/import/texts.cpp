@@ -4,7 +4,7 @@
 
 #include "platform/basic/text.h"
 
-namespace qvzj {
+namespace qvzj::imports {
 namespace {
 
 bool IsControl(char c) {
@@ -14,12 +14,12 @@ bool IsControl(char c) {
 
 }  // namespace
 
-void ImportTexts::Keep() {
+void Texts::Keep() {
   report_.quoted_texts += quoted_;
   report_.joined_texts += joined_;
 }
 
-std::string ImportTexts::Fit(const ImportColumn& column, std::string& text) {
+std::string Texts::Fit(const Column& column, std::string& text) {
   if (text.find('\0') != std::string::npos) {
     return std::string(column.name) + " holds a zero character";
   }
@@ -43,4 +43,4 @@ std::string ImportTexts::Fit(const ImportColumn& column, std::string& text) {
   return {};
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::imports

@@ -7,7 +7,7 @@
 #include "platform/basic/errors.h"
 #include "platform/basic/number.h"
 
-namespace qvzj {
+namespace qvzj::print {
 namespace {
 
 struct Unit {
@@ -70,4 +70,4 @@ std::string AmountInWords(double amount, int16_t language) {
   return text;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::print

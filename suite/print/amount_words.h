@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace qvzj {
+namespace qvzj::print {
 
 /// From here on a double no longer holds the fen of an amount.
 inline constexpr double kNoAmountInWords = 1e15;
@@ -15,4 +15,4 @@ inline constexpr double kNoAmountInWords = 1e15;
 /// OverflowError from kNoAmountInWords on.
 std::string AmountInWords(double amount, int16_t language);
 
-}  // namespace qvzj
+}  // namespace qvzj::print

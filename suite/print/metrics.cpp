@@ -2,7 +2,7 @@
 
 #include "platform/basic/text.h"
 
-namespace qvzj {
+namespace qvzj::print {
 
 double FixedMetrics::Width(std::string_view text) const {
   double width = 0;
@@ -10,4 +10,4 @@ double FixedMetrics::Width(std::string_view text) const {
   return width;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::print

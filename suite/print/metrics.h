@@ -2,7 +2,7 @@
 
 #include "platform/pages.h"
 
-namespace qvzj {
+namespace qvzj::print {
 
 /// A typewriter for tests and for printers without fonts: Chinese characters one em wide, ASCII
 /// half an em.
@@ -11,4 +11,4 @@ class FixedMetrics : public TextMetrics {
   double Width(std::string_view text) const override;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::print

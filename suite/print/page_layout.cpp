@@ -8,7 +8,7 @@
 #include "suite/print/amount_words.h"
 #include "suite/print/print_words.h"
 
-namespace qvzj {
+namespace qvzj::print {
 namespace {
 
 constexpr int32_t kProgressRows = 1000;  // rows between two progress reports
@@ -314,4 +314,4 @@ void PageLayout::PlaceFoot(Page& page, int number) const {
                             std::to_string(PageCount()) + words.page_after});
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::print

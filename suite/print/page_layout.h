@@ -11,7 +11,7 @@
 
 /// Breaks a print job into pages, apart from painting: a front end paints what it is told, and a
 /// test reads it as text. All lengths are points (1/72 inch), from the paper's top left corner.
-namespace qvzj {
+namespace qvzj::print {
 
 /// Paper in portrait; the layout turns it where the columns need the width.
 struct Paper {
@@ -89,4 +89,4 @@ class PageLayout final : public PageSource {
   std::vector<Start> starts_;        // of the pages; past the last row for totals alone
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::print

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace qvzj {
+namespace qvzj::print {
 
 /// The words that a printed page adds to what the form hands over, by language.
 struct PrintWords {
@@ -25,4 +25,4 @@ inline const PrintWords& WordsOf(int16_t language) {
   return language == 1 ? kTraditional : kSimplified;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::print

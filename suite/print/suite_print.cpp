@@ -2,7 +2,7 @@
 
 #include "suite/print/page_layout.h"
 
-namespace qvzj {
+namespace qvzj::print {
 
 void SuitePrint::Print(const PrintJob& job) {
   const auto progress = [this](int64_t done, int64_t total) {
@@ -12,4 +12,4 @@ void SuitePrint::Print(const PrintJob& job) {
   if (!pages.Cancelled()) output_.Output(pages, job.title);
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::print

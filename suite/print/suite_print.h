@@ -4,7 +4,7 @@
 #include "platform/pages.h"
 #include "platform/services.h"
 
-namespace qvzj {
+namespace qvzj::print {
 
 /// The suite's print component: lays a job out and hands the pages to the front end's output.
 class SuitePrint : public PrintComponent {
@@ -17,4 +17,4 @@ class SuitePrint : public PrintComponent {
   const Clock& clock_;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::print

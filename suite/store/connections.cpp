@@ -4,7 +4,7 @@
 #include "platform/basic/errors.h"
 #include "suite/store/schema.h"
 
-namespace qvzj {
+namespace qvzj::store {
 namespace {
 
 /// What the module puts into the data path after a login in server mode.
@@ -61,4 +61,4 @@ NativeStatements OpenNative(uint8_t kind, const ServerLogin& login,
   return [store](std::string_view sql) { return store->Native(sql); };
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::store

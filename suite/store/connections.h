@@ -9,7 +9,7 @@
 #include "platform/data/store.h"
 #include "suite/store/server_address.h"
 
-namespace qvzj {
+namespace qvzj::store {
 
 struct ConnectionOptions {
   /// How long a statement waits for another process that holds the data file, or on a server for
@@ -63,4 +63,4 @@ NativeStatements OpenNative(uint8_t kind, const ServerLogin& login,
 /// A session on a server. Throws DataError; its text holds no credentials.
 std::unique_ptr<data::Store> OpenServer(const ServerLogin& login, const ConnectionOptions& options);
 
-}  // namespace qvzj
+}  // namespace qvzj::store

@@ -6,7 +6,7 @@
 #include "suite/store/connections.h"
 #include "suite/store/schema.h"
 
-namespace qvzj {
+namespace qvzj::store {
 namespace {
 
 namespace fs = std::filesystem;
@@ -53,4 +53,4 @@ std::unique_ptr<data::Store> OpenOrMakePlace(const DataPlace& place) {
   return store;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::store

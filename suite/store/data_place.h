@@ -6,7 +6,7 @@
 #include "platform/data/store.h"
 #include "suite/store/server_address.h"
 
-namespace qvzj {
+namespace qvzj::store {
 
 /// Where the tables of a suite lie: in the data file of a folder or on a server.
 struct DataPlace {
@@ -25,4 +25,4 @@ std::unique_ptr<data::Store> OpenPlace(const DataPlace& place);
 /// file too. A server's database must be there. Throws Error.
 std::unique_ptr<data::Store> OpenOrMakePlace(const DataPlace& place);
 
-}  // namespace qvzj
+}  // namespace qvzj::store

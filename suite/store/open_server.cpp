@@ -6,7 +6,7 @@
 #include "adapters/odbc/odbc_session.h"
 #endif
 
-namespace qvzj {
+namespace qvzj::store {
 
 #ifdef QV_WITH_ODBC
 
@@ -35,4 +35,4 @@ std::unique_ptr<data::Store> OpenServer(const ServerLogin&, const ConnectionOpti
 
 #endif
 
-}  // namespace qvzj
+}  // namespace qvzj::store

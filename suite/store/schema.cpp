@@ -2,7 +2,7 @@
 
 #include "platform/basic/text.h"
 
-namespace qvzj {
+namespace qvzj::store {
 namespace {
 
 // {text} stands for a text column that compares without ASCII case, {memo} for one without a limit.
@@ -160,4 +160,4 @@ std::vector<std::string> TransactSqlSchema() {
   return statements;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::store

@@ -5,7 +5,7 @@
 
 #include "platform/data/store.h"
 
-namespace qvzj {
+namespace qvzj::store {
 
 /// Name of the data file in a data folder.
 inline constexpr const char* kDataFile = "qvjxc.db";
@@ -24,4 +24,4 @@ std::vector<std::string> PostgresSchema();
 /// Has not been run on one. Texts compare as the database's collation has it.
 std::vector<std::string> TransactSqlSchema();
 
-}  // namespace qvzj
+}  // namespace qvzj::store

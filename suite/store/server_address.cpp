@@ -7,7 +7,7 @@
 #include "platform/basic/text.h"
 #include "platform/data/details.h"
 
-namespace qvzj {
+namespace qvzj::store {
 namespace {
 
 /// A value with the characters that end one put between braces.
@@ -158,4 +158,4 @@ std::vector<std::string> PasswordsIn(const std::string& connection_string) {
   return passwords;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::store

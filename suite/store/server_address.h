@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace qvzj {
+namespace qvzj::store {
 
 enum class ServerKind {
   PostgreSql,   ///< PostgreSQL and servers that speak its protocol
@@ -39,4 +39,4 @@ std::string ConnectionString(const ServerLogin& login, const ServerOptions& opti
 /// The passwords that a whole connection string holds, under either name that drivers know.
 std::vector<std::string> PasswordsIn(const std::string& connection_string);
 
-}  // namespace qvzj
+}  // namespace qvzj::store

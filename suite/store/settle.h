@@ -2,7 +2,7 @@
 
 #include "platform/data/store.h"
 
-namespace qvzj {
+namespace qvzj::store {
 
 /// Lets a server look at the tables after many rows came in or went, so that its plans and counts
 /// are right from the first statement on and not only when it finds the time by itself. Does
@@ -10,4 +10,4 @@ namespace qvzj {
 /// PostgreSQL's. Not inside a transaction. Throws DataError.
 void SettleTables(data::Store& store);
 
-}  // namespace qvzj
+}  // namespace qvzj::store

@@ -1,17 +1,15 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "platform/data/store.h"
 
-namespace qvzj {
+namespace qvzj::store {
 
-/// What a copy has to know about a table of the suite.
-struct CopyTable {
+/// A table of the suite, as what goes over all of them has to know it.
+struct Table {
   enum class Keys {
     Given,   ///< numbers that the engine gives
     Chosen,  ///< numbers that programs choose
@@ -24,21 +22,12 @@ struct CopyTable {
 };
 
 /// All tables of the suite.
-std::span<const CopyTable> CopyTables();
+std::span<const Table> Tables();
 
 /// Names of a table's columns as the engine writes them. Throws DataError when there is none.
-std::vector<std::string> ColumnsOf(data::Store& store, const CopyTable& table);
+std::vector<std::string> ColumnsOf(data::Store& store, const Table& table);
 
 /// "a,b,c".
 std::string Joined(const std::vector<std::string>& names);
 
-/// Reads the next `lot` rows behind the key `after`, from the first when it is empty, in the order
-/// of the keys; all rows of a table whose keys are texts.
-data::Recordset ReadLot(data::Store& store, const CopyTable& table,
-                        const std::vector<std::string>& columns, std::optional<int64_t> after,
-                        int32_t lot);
-
-/// Key of the last row of a lot that holds rows; empty where no lot follows, the keys being texts.
-std::optional<int64_t> LastKey(const CopyTable& table, const data::Recordset& lot);
-
-}  // namespace qvzj
+}  // namespace qvzj::store

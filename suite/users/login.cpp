@@ -5,14 +5,16 @@
 #include <utility>
 
 #include "platform/surroundings.h"
-#include "suite/forms/form_wiring.h"
-#include "suite/forms/texts.h"
+#include "suite/dialogues/form_wiring.h"
+#include "suite/dialogues/texts.h"
 #include "suite/users/password.h"
 
-namespace qvzj {
+namespace qvzj::users {
 namespace {
 
-std::string LoginTitle(int16_t language) { return InLanguage(language, "用户登录", "用戶登錄"); }
+std::string LoginTitle(int16_t language) {
+  return dialogues::InLanguage(language, "用户登录", "用戶登錄");
+}
 
 }  // namespace
 
@@ -20,10 +22,10 @@ void BoxLogin::Ask(int16_t language, const AcceptLogin& accept) {
   const std::string title = LoginTitle(language);
   while (true) {
     const std::optional<std::string> user =
-        Around().boxes->Input(InLanguage(language, "用户:", "用戶:"), title, "");
+        Around().boxes->Input(dialogues::InLanguage(language, "用户:", "用戶:"), title, "");
     if (!user) return;
     std::optional<std::string> password =
-        Around().boxes->Input(InLanguage(language, "密码:", "密碼:"), title, "");
+        Around().boxes->Input(dialogues::InLanguage(language, "密码:", "密碼:"), title, "");
     if (!password) return;
     const bool accepted = accept(*user, *password);
     Forget(*password);
@@ -48,10 +50,10 @@ frmLogin::frmLogin(int16_t language, AcceptLogin accept)
 
 void frmLogin::WriteCaptions(int16_t language) {
   SetCaption(LoginTitle(language));
-  lblUser.SetCaption(InLanguage(language, "用户(&U):", "用戶(&U):"));
-  lblPassword.SetCaption(InLanguage(language, "密码(&P):", "密碼(&P):"));
-  cmdOK.SetCaption(InLanguage(language, "确定(&O)", "確定(&O)"));
-  cmdCancel.SetCaption(InLanguage(language, "取消(&C)", "取消(&C)"));
+  lblUser.SetCaption(dialogues::InLanguage(language, "用户(&U):", "用戶(&U):"));
+  lblPassword.SetCaption(dialogues::InLanguage(language, "密码(&P):", "密碼(&P):"));
+  cmdOK.SetCaption(dialogues::InLanguage(language, "确定(&O)", "確定(&O)"));
+  cmdCancel.SetCaption(dialogues::InLanguage(language, "取消(&C)", "取消(&C)"));
   txtUser.SetAccessibleName(ui::ShownCaption(lblUser.Caption()));
   txtPassword.SetAccessibleName(ui::ShownCaption(lblPassword.Caption()));
 }
@@ -68,8 +70,8 @@ void frmLogin::Place() {
 }
 
 void frmLogin::Connect() {
-  WireForm(*this);
-  for (ui::Control* control : Controls()) MoveOnByEnter(*this, *control);
+  dialogues::WireForm(*this);
+  for (ui::Control* control : Controls()) dialogues::MoveOnByEnter(*this, *control);
   // Enter on a button presses it; in the last field it logs in.
   const auto close_by_escape = [this](int& key) {
     if (key == ui::kKeyEscape) Unload();
@@ -96,4 +98,4 @@ void frmLogin::Accept() {
   }
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::users

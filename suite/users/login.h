@@ -7,7 +7,7 @@
 #include "platform/ui/form.h"
 #include "platform/ui/widgets.h"
 
-namespace qvzj {
+namespace qvzj::users {
 
 /// Looks at a name and a password; true when they are taken. Says itself what is wrong.
 using AcceptLogin = std::function<bool(const std::string& user, const std::string& password)>;
@@ -51,4 +51,4 @@ struct frmLogin : ui::Form {
   AcceptLogin accept_;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::users

@@ -4,7 +4,7 @@
 
 #include "platform/basic/errors.h"
 
-namespace qvzj {
+namespace qvzj::users {
 namespace {
 
 void Start() {
@@ -47,4 +47,4 @@ void Forget(std::string& secret) {
   secret.clear();
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::users

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace qvzj {
+namespace qvzj::users {
 
 /// Hash of a password as it is stored: argon2id with a salt of its own; the parameters stand in
 /// the text, so that they can be raised later. Takes some ten milliseconds and 64 MiB on purpose.
@@ -13,4 +13,4 @@ bool VerifyPassword(const std::string& hash, const std::string& password);
 /// Overwrites a text that is not needed any more.
 void Forget(std::string& secret);
 
-}  // namespace qvzj
+}  // namespace qvzj::users

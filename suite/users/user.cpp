@@ -3,25 +3,26 @@
 #include <optional>
 
 #include "platform/surroundings.h"
-#include "suite/forms/texts.h"
+#include "suite/dialogues/texts.h"
 
-namespace qvzj {
+namespace qvzj::users {
 namespace {
 
 void Say(int16_t language, const std::string& text, int style) {
-  Around().boxes->Show(text, style, InLanguage(language, "用户登录", "用戶登錄"));
+  Around().boxes->Show(text, style, dialogues::InLanguage(language, "用户登录", "用戶登錄"));
 }
 
 // Says why a try failed.
 void SayWhy(int16_t language, const TryResult& result) {
   if (result.kind == TryResult::Kind::Wrong) {
-    Say(language, InLanguage(language, "用户名或密码不正确!", "用戶名或密碼不正確!"),
+    Say(language, dialogues::InLanguage(language, "用户名或密码不正确!", "用戶名或密碼不正確!"),
         box::kExclamation);
     return;
   }
   Say(language,
-      InLanguage(language, "密码错误次数过多，请在 ", "密碼錯誤次數過多，請在 ") +
-          std::to_string(result.wait_seconds) + InLanguage(language, " 秒后再试!", " 秒後再試!"),
+      dialogues::InLanguage(language, "密码错误次数过多，请在 ", "密碼錯誤次數過多，請在 ") +
+          std::to_string(result.wait_seconds) +
+          dialogues::InLanguage(language, " 秒后再试!", " 秒後再試!"),
       box::kExclamation);
 }
 
@@ -31,7 +32,8 @@ std::unique_ptr<RightsDatabase> OpenRights(const UserCall& call) {
     return std::make_unique<RightsDatabase>(call.rights_file, RightsDatabase::Missing::Fail);
   } catch (const DataError& error) {
     Say(call.language,
-        InLanguage(call.language, "用户权限数据库不能打开: ", "用戶權限數據庫不能打開: ") +
+        dialogues::InLanguage(call.language,
+                              "用户权限数据库不能打开: ", "用戶權限數據庫不能打開: ") +
             error.what(),
         box::kCritical);
     return nullptr;
@@ -79,4 +81,4 @@ void SuiteUser::LogIn(UserCall& call) {
   });
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::users

@@ -7,7 +7,7 @@
 #include "suite/users/login.h"
 #include "suite/users/user_rights.h"
 
-namespace qvzj {
+namespace qvzj::users {
 
 /// Stand-in for the suite's user component: logs users in against the rights database and records
 /// there which functions they open.
@@ -34,4 +34,4 @@ class SuiteUser : public UserComponent {
   std::string rights_file_;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::users

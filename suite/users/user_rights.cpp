@@ -7,7 +7,7 @@
 #include "platform/basic/text.h"
 #include "suite/users/password.h"
 
-namespace qvzj {
+namespace qvzj::users {
 namespace {
 
 constexpr size_t kMostNameBytes = 20;  // width of the user columns in the module's tables
@@ -219,4 +219,4 @@ std::vector<AccessInfo> RightsDatabase::Record() {
   return record;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::users

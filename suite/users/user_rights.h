@@ -8,7 +8,7 @@
 #include "adapters/sqlite/sqlite_session.h"
 #include "platform/basic/errors.h"
 
-namespace qvzj {
+namespace qvzj::users {
 
 /// Name of the rights database within its folder, as the module asks for it. It is a SQLite file;
 /// the name is the suite's of old.
@@ -112,4 +112,4 @@ class RightsDatabase {
   std::unique_ptr<SqliteSession> session_;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::users

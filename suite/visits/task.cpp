@@ -6,13 +6,13 @@
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "platform/surroundings.h"
-#include "suite/forms/texts.h"
+#include "suite/dialogues/texts.h"
 
-namespace qvzj {
+namespace qvzj::visits {
 namespace {
 
 std::string Title(const TaskCall& call) {
-  return InLanguage(call.language, "联系记录", "聯繫記錄") + " - " + call.customer_name;
+  return dialogues::InLanguage(call.language, "联系记录", "聯繫記錄") + " - " + call.customer_name;
 }
 
 std::string Prompt(const TaskCall& call, const std::vector<Visit>& visits) {
@@ -21,8 +21,8 @@ std::string Prompt(const TaskCall& call, const std::vector<Visit>& visits) {
     prompt += std::to_string(i + 1) + ". " + basic::FormatIso(visits[i].date) + " " +
               visits[i].user + ": " + visits[i].text + "\n";
   }
-  return prompt + InLanguage(call.language, "+内容 新增; 序号=内容 修改; -序号 删除",
-                             "+內容 新增; 序號=內容 修改; -序號 刪除");
+  return prompt + dialogues::InLanguage(call.language, "+内容 新增; 序号=内容 修改; -序号 删除",
+                                        "+內容 新增; 序號=內容 修改; -序號 刪除");
 }
 
 // The record that a number of the list means; null when there is none.
@@ -34,8 +34,9 @@ const Visit* Numbered(const std::vector<Visit>& visits, const std::string& numbe
 }
 
 bool Confirmed(const TaskCall& call) {
-  return Around().boxes->Show(InLanguage(call.language, "删除该联系记录吗?", "刪除該聯繫記錄嗎?"),
-                              box::kQuestionOkCancel, Title(call)) == Answer::Ok;
+  return Around().boxes->Show(
+             dialogues::InLanguage(call.language, "删除该联系记录吗?", "刪除該聯繫記錄嗎?"),
+             box::kQuestionOkCancel, Title(call)) == Answer::Ok;
 }
 
 // Carries one answer out; false when it means nothing.
@@ -77,10 +78,10 @@ void BoxTask::Open(const TaskCall& call) {
         Around().boxes->Input(Prompt(call, visits), Title(call), "");
     if (!answer || basic::Trim(*answer).empty()) return;
     if (!CarryOut(call, records, visits, basic::Trim(*answer))) {
-      Around().boxes->Show(InLanguage(call.language, "输入有误!", "輸入有誤!"), box::kExclamation,
-                           Title(call));
+      Around().boxes->Show(dialogues::InLanguage(call.language, "输入有误!", "輸入有誤!"),
+                           box::kExclamation, Title(call));
     }
   }
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::visits

@@ -6,7 +6,7 @@
 #include "suite/visits/task_form.h"
 #include "suite/visits/visits.h"
 
-namespace qvzj {
+namespace qvzj::visits {
 
 /// Stand-in for the suite's task component: a customer's visit records. Errors rise to the caller.
 class SuiteTask : public TaskComponent {
@@ -26,4 +26,4 @@ class BoxTask : public TaskComponent {
   void Open(const TaskCall& call) override;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::visits

@@ -3,10 +3,10 @@
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "platform/surroundings.h"
-#include "suite/forms/form_wiring.h"
-#include "suite/forms/texts.h"
+#include "suite/dialogues/form_wiring.h"
+#include "suite/dialogues/texts.h"
 
-namespace qvzj {
+namespace qvzj::visits {
 namespace {
 
 enum Column : int32_t { kId = 1, kDate, kUser, kText, kColumns = kText };
@@ -28,16 +28,16 @@ frmTask::frmTask(const TaskCall& call)
 }
 
 void frmTask::WriteCaptions(const TaskCall& call) {
-  SetCaption(InLanguage(language_, "联系记录", "聯繫記錄") + " - " + call.customer_name);
+  SetCaption(dialogues::InLanguage(language_, "联系记录", "聯繫記錄") + " - " + call.customer_name);
   Grid1.SetColumnCount(kColumns);
   Grid1.SetHeader(kDate, "日期");
-  Grid1.SetHeader(kUser, InLanguage(language_, "登录人", "登錄人"));
-  Grid1.SetHeader(kText, InLanguage(language_, "联系内容", "聯繫內容"));
+  Grid1.SetHeader(kUser, dialogues::InLanguage(language_, "登录人", "登錄人"));
+  Grid1.SetHeader(kText, dialogues::InLanguage(language_, "联系内容", "聯繫內容"));
   lblDate.SetCaption("日期(&T):");
-  lblBrief.SetCaption(InLanguage(language_, "联系内容(&B):", "聯繫內容(&B):"));
+  lblBrief.SetCaption(dialogues::InLanguage(language_, "联系内容(&B):", "聯繫內容(&B):"));
   cmdNew.SetCaption("新增(&N)");
-  cmdSave.SetCaption(InLanguage(language_, "存盘(&S)", "保存(&S)"));
-  cmdDelete.SetCaption(InLanguage(language_, "删除(&D)", "刪除(&D)"));
+  cmdSave.SetCaption(dialogues::InLanguage(language_, "存盘(&S)", "保存(&S)"));
+  cmdDelete.SetCaption(dialogues::InLanguage(language_, "删除(&D)", "刪除(&D)"));
   cmdExit.SetCaption("退出(&X)");
   Grid1.SetAccessibleName(Caption());
   dtpDate.SetAccessibleName(ui::ShownCaption(lblDate.Caption()));
@@ -64,14 +64,14 @@ void frmTask::Place() {
 }
 
 void frmTask::Connect() {
-  WireForm(*this);
+  dialogues::WireForm(*this);
   const auto unload = onUnload;
   onUnload = [this, unload] {
     // The window's close button cannot be refused any more: the text is saved or given up here.
     if (changed_ && Asks("联系内容已修改，存盘吗?", "聯繫內容已修改，保存嗎?")) Save();
     unload();
   };
-  MoveOnByEnter(*this, dtpDate);
+  dialogues::MoveOnByEnter(*this, dtpDate);
   Grid1.onLeaveCell = [this](int32_t, int32_t, int32_t, int32_t row, bool& cancel) {
     cancel = !MayLeave();
     if (!cancel) ShowRow(row);
@@ -93,7 +93,7 @@ void frmTask::Connect() {
 }
 
 bool frmTask::Asks(const char* simplified, const char* traditional) const {
-  return Around().boxes->Show(InLanguage(language_, simplified, traditional),
+  return Around().boxes->Show(dialogues::InLanguage(language_, simplified, traditional),
                               box::kQuestionOkCancel, Caption()) == Answer::Ok;
 }
 
@@ -131,7 +131,7 @@ void frmTask::ShowRow(int32_t row) {
 void frmTask::Save() {
   const std::string text = basic::Trim(txtBrief.Text());
   if (text.empty()) {
-    Around().boxes->Show(InLanguage(language_, "请输入联系内容!", "請輸入聯繫內容!"),
+    Around().boxes->Show(dialogues::InLanguage(language_, "请输入联系内容!", "請輸入聯繫內容!"),
                          box::kExclamation, Caption());
     SetFocus(txtBrief);
     return;
@@ -150,4 +150,4 @@ void frmTask::Delete() {
   Refill(0);
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::visits

@@ -9,7 +9,7 @@
 #include "platform/ui/widgets.h"
 #include "suite/visits/visits.h"
 
-namespace qvzj {
+namespace qvzj::visits {
 
 /// The window of a customer's visit records: the list, and below it the one that is being keyed or
 /// changed. A text that was changed is never lost silently: leaving it asks first.
@@ -49,4 +49,4 @@ struct frmTask : ui::Form {
   bool changed_ = false;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::visits

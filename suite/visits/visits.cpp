@@ -5,7 +5,7 @@
 #include "platform/basic/text.h"
 #include "platform/surroundings.h"
 
-namespace qvzj {
+namespace qvzj::visits {
 namespace {
 
 std::string Quoted(const std::string& text) { return "'" + basic::Replace(text, "'", "''") + "'"; }
@@ -62,4 +62,4 @@ void VisitRecords::Change(int32_t id, basic::Date date, const std::string& text)
 
 void VisitRecords::Remove(int32_t id) { connection_.Execute("delete from tTaskList" + Only(id)); }
 
-}  // namespace qvzj
+}  // namespace qvzj::visits

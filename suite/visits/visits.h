@@ -8,7 +8,7 @@
 #include "platform/components.h"
 #include "platform/data/connection.h"
 
-namespace qvzj {
+namespace qvzj::visits {
 
 /// One visit to, or talk with, a customer.
 struct Visit {
@@ -43,4 +43,4 @@ class VisitRecords {
   std::string date_quote_;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::visits

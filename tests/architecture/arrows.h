@@ -18,7 +18,8 @@ struct Rule {
 };
 
 /// Every directory of the module. Programs (main.cpp anywhere, hosts/, tools/, tests/ and
-/// benchmarks/) wire everything together and are free.
+/// benchmarks/) wire everything together and are free; tools/qvdb is a library with a main beside
+/// it.
 inline const std::vector<Rule>& Rules() {
   static const std::vector<Rule> rules = {
       {"platform/basic", {}, {}},
@@ -36,9 +37,19 @@ inline const std::vector<Rule>& Rules() {
       {"adapters/system", {"platform"}, {}},
       {"adapters/sqlite", {"adapters/dialect", "adapters/icu", "platform"}, {"sqlite3.h", "sys/"}},
       {"adapters/odbc", {"adapters/dialect", "adapters/icu", "platform"}, {"sql"}},
-      {"suite", {"adapters", "platform"}, {"sodium.h"}},
+      {"suite/dialogues", {"platform"}, {}},
+      {"suite/store", {"adapters", "platform"}, {}},
+      {"suite/users",
+       {"suite/dialogues", "adapters/icu", "adapters/sqlite", "platform"},
+       {"sodium.h"}},
+      {"suite/visits", {"suite/dialogues", "platform"}, {}},
       {"suite/print", {"platform"}, {}},
       {"suite/export", {"adapters/icu", "platform"}, {"xlsxwriter.h"}},
+      {"suite/check", {"platform"}, {}},
+      {"suite/copy", {"suite/store", "platform"}, {}},
+      {"suite/demo", {"suite/store", "adapters/icu", "platform"}, {}},
+      {"suite/import", {"suite/store", "adapters/icu", "platform"}, {}},
+      {"tools/qvdb", {"suite", "platform"}, {}},
       {"frontends/headless", {"adapters", "platform"}, {}},
       {"frontends/script",
        {"frontends/headless", "control", "forms", "screen", "services", "platform", "adapters"},

@@ -76,8 +76,35 @@ TEST(Arrows, TheCoreMayNotIncludeALibrary) {
 
 TEST(Arrows, ALibraryIsKnownOnlyToTheAdapterThatBindsIt) {
   EXPECT_EQ(Fault("adapters/sqlite/sqlite_session.cpp", "#include <sqlite3.h>"), "");
-  EXPECT_NE(Fault("suite/schema.cpp", "#include <sqlite3.h>"), "");
+  EXPECT_NE(Fault("suite/store/schema.cpp", "#include <sqlite3.h>"), "");
   EXPECT_EQ(Fault("frontends/qt/mirror.cpp", "#include <QWidget>"), "");
+}
+
+TEST(Arrows, NoRoomOfTheSuiteSeesItsNeighbour) {
+  EXPECT_NE(Fault("suite/import/import.cpp", "#include \"suite/demo/demo.h\""), "");
+  EXPECT_NE(Fault("suite/users/login.cpp", "#include \"suite/visits/task.h\""), "");
+  EXPECT_NE(Fault("suite/store/settle.cpp", "#include \"suite/copy/copy.h\""), "");
+  EXPECT_EQ(Fault("suite/copy/copy.cpp", "#include \"suite/store/tables.h\""), "");
+}
+
+/// Is `to` among the directories that `from` may include from, directly or by way of others?
+bool Reaches(const Rule& from, const Rule& to, std::set<const Rule*>& seen) {
+  for (const Rule& next : Rules()) {
+    const bool arrow = &next != &from &&
+                       std::any_of(from.may_include.begin(), from.may_include.end(), [&](auto dir) {
+                         return next.directory == dir || IsUnder(next.directory, dir);
+                       });
+    if (!arrow || !seen.insert(&next).second) continue;
+    if (&next == &to || Reaches(next, to, seen)) return true;
+  }
+  return false;
+}
+
+TEST(Arrows, NoAllowedWayLeadsBack) {
+  for (const Rule& rule : Rules()) {
+    std::set<const Rule*> seen;
+    EXPECT_FALSE(Reaches(rule, rule, seen)) << rule.directory << " reaches itself";
+  }
 }
 
 TEST(Arrows, AHeaderOfTheCoreIsNamedByItsPathFromTheRoot) {

@@ -14,7 +14,7 @@ namespace qvzj::endurance {
 struct DataFolder {
   test::TemporaryFolder folder;
   std::unique_ptr<SqliteSession> session =
-      MakeData((folder.Path() / kDataFile).string(), QV_SCENARIO_FIXTURE);
+      MakeData((folder.Path() / store::kDataFile).string(), QV_SCENARIO_FIXTURE);
 
   /// The arguments with which qvzj-script works on it.
   std::vector<std::string> Arguments() const { return {"--data", folder.Path().string()}; }

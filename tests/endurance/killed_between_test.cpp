@@ -31,9 +31,9 @@ class KilledBetweenTwoStatements : public testing::Test {
   }
 
   std::unique_ptr<data::Store> Open() {
-    return OpenServer({server_->Address(), test::PrivatePostgres::kUser,
-                       test::PrivatePostgres::kPassword, database_},
-                      {});
+    return store::OpenServer({server_->Address(), test::PrivatePostgres::kUser,
+                              test::PrivatePostgres::kPassword, database_},
+                             {});
   }
 
   /// Presses save on the third entry of the first customer with "check" armed, `times` times, and
@@ -75,8 +75,8 @@ class KilledBetweenTwoStatements : public testing::Test {
   /// What qvdb's check says of the third entry.
   std::string FaultsOfTheEntry() {
     std::string all;
-    CheckData(*store_, [&all](const Fault& fault) {
-      const std::string line = std::string(NameOf(fault.kind)) + ": " + fault.text + "\n";
+    check::CheckData(*store_, [&all](const Fault& fault) {
+      const std::string line = std::string(check::NameOf(fault.kind)) + ": " + fault.text + "\n";
       if (line.find("202402PZ00001") != std::string::npos) all += line;
     });
     return all;

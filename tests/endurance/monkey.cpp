@@ -114,7 +114,7 @@ int Main(const std::vector<std::string>& arguments) {
   if (!mkdtemp(folder.data())) throw std::runtime_error("cannot make a temporary folder");
   std::string fault;
   {
-    const auto real = MakeData((fs::path(folder) / kDataFile).string(), options.fixture);
+    const auto real = MakeData((fs::path(folder) / store::kDataFile).string(), options.fixture);
     const auto shadow = MakeData((fs::path(folder) / "shadow.db").string(), options.fixture);
     Day day(options, folder, *real, *shadow);
     fault = day.Run();

@@ -33,14 +33,14 @@ std::unique_ptr<SqliteSession> MakeData(const std::string& file, const std::stri
   options.create = true;
   options.language = [] { return static_cast<int>(Shared().Language); };
   auto session = OpenSqlite(file, options);
-  CreateSchema(*session);
+  store::CreateSchema(*session);
   session->NativeScript(statements.str());
   return session;
 }
 
 ScriptStage::ScriptStage(const std::string& folder)
     : connections_({.language = [] { return static_cast<int>(Shared().Language); }}),
-      file_((std::filesystem::path(folder) / kDataFile).string()),
+      file_((std::filesystem::path(folder) / store::kDataFile).string()),
       own_(OpenSqlite(file_, {})) {
   ResetShared();
   headless.Install(connections_);

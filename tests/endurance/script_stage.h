@@ -35,8 +35,8 @@ class ScriptStage {
   qvJxc_Zj control;
 
  private:
-  SuiteConnections connections_;
-  BoxTask task_;
+  store::SuiteConnections connections_;
+  visits::BoxTask task_;
   std::string file_;
   std::unique_ptr<SqliteSession> own_;
   std::vector<std::string> printed_;

@@ -59,7 +59,7 @@ std::string WorkADay(const std::vector<std::string>& arguments, int client) {
 }
 
 /// All clerks work at once, then the tables are looked at.
-void WorkAtOnce(const std::vector<std::string>& arguments, const NativeStatements& native) {
+void WorkAtOnce(const std::vector<std::string>& arguments, const store::NativeStatements& native) {
   std::vector<std::thread> clerks;
   std::vector<std::string> printed(kClients);
   for (int client = 0; client < kClients; ++client) {
@@ -92,7 +92,7 @@ void WorkAtOnce(const std::vector<std::string>& arguments, const NativeStatement
 
 TEST(TenClients, OnOneDataFileLoseNothing) {
   DataFolder data;
-  WorkAtOnce(data.Arguments(), OpenNative(0, {data.folder.Path().string(), "", "", ""}, {}));
+  WorkAtOnce(data.Arguments(), store::OpenNative(0, {data.folder.Path().string(), "", "", ""}, {}));
   EXPECT_EQ(data.session->CheckIntegrity(), "");
 }
 
@@ -103,11 +103,11 @@ TEST(TenClients, OnOneServerLoseNothing) {
   test::PrivatePostgres server;
   const std::string database = server.MakeDatabase();
   server.RunFile(database, QV_SCENARIO_FIXTURE);
-  const ServerLogin login{server.Address(), test::PrivatePostgres::kUser,
-                          test::PrivatePostgres::kPassword, database};
+  const store::ServerLogin login{server.Address(), test::PrivatePostgres::kUser,
+                                 test::PrivatePostgres::kPassword, database};
   WorkAtOnce({"--server", login.address, "--user", login.user, "--password", login.password,
               "--database", database},
-             OpenNative(1, login, {}));
+             store::OpenNative(1, login, {}));
 }
 #endif
 

@@ -116,7 +116,7 @@ int Main(const fs::path& program) {
                    "select sum(fMoneyB)::integer from tAccountDetail where fType1=1", 3 * kClients);
   qvzj::CheckData(*qvzj::OpenServer(login, {}), [&faults](const qvzj::Fault& fault) {
     ++faults;
-    std::printf("%s: %s\n", NameOf(fault.kind), fault.text.c_str());
+    std::printf("%s: %s\n", check::NameOf(fault.kind), fault.text.c_str());
   });
   return faults == 0 ? 0 : 1;
 }

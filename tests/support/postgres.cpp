@@ -258,7 +258,7 @@ void PrivatePostgres::RunFile(const std::string& database, const std::filesystem
 
 void PrivatePostgres::RunAll(const std::string& database,
                              const std::vector<std::string>& statements) {
-  const auto store = OpenServer({Address(), kUser, kPassword, database}, {});
+  const auto store = store::OpenServer({Address(), kUser, kPassword, database}, {});
   for (const std::string& statement : statements) store->Native(statement);
 }
 
@@ -266,7 +266,7 @@ std::string PrivatePostgres::MakeDatabase() {
   constexpr const char* kTemplate = "qvzj_empty";
   if (!has_template_) {
     Run("postgres", std::string("create database ") + kTemplate);
-    RunAll(kTemplate, PostgresSchema());
+    RunAll(kTemplate, store::PostgresSchema());
     has_template_ = true;
   }
   return MakeFrom(kTemplate);

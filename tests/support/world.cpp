@@ -16,7 +16,7 @@ World::World() {
   SqliteOptions options;
   options.create = true;
   native_ = OpenSqlite(DataFile().string(), options);
-  CreateSchema(*native_);
+  store::CreateSchema(*native_);
   control.InitProperties();
   control.setUserPath(folder.Path().string());
   control.setMyModel("11111111111");
@@ -30,7 +30,7 @@ World::~World() {
   Around() = {};
 }
 
-fs::path World::DataFile() const { return folder.Path() / kDataFile; }
+fs::path World::DataFile() const { return folder.Path() / store::kDataFile; }
 
 void World::Sql(std::string_view statements) { native_->NativeScript(statements); }
 

@@ -55,7 +55,7 @@ class World {
 
   TemporaryFolder folder;
   Headless headless;
-  SuiteConnections connections{{.language = [] { return int{Shared().Language}; }}};
+  store::SuiteConnections connections{{.language = [] { return int{Shared().Language}; }}};
   qvJxc_Zj control;
 
  private:

@@ -4,7 +4,7 @@
 
 #include "suite/import/field_values.h"
 
-namespace qvzj {
+namespace qvzj::qvdb {
 
 Arguments::Arguments(const std::vector<std::string>& words,
                      const std::vector<std::string_view>& options,
@@ -70,9 +70,9 @@ std::vector<std::pair<std::string, std::string>> Arguments::Pairs(std::string_vi
 
 int32_t Arguments::Number(std::string_view option, int32_t preset) const {
   if (!Has(option)) return preset;
-  const auto number = ReadWholeNumber(Text(option));
+  const auto number = imports::ReadWholeNumber(Text(option));
   if (!number) throw UsageError(std::string(option) + " needs a whole number, not " + Text(option));
   return *number;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::qvdb

@@ -8,7 +8,7 @@
 
 #include "platform/basic/errors.h"
 
-namespace qvzj {
+namespace qvzj::qvdb {
 
 /// A command line that cannot be understood.
 class UsageError : public Error {
@@ -41,4 +41,4 @@ class Arguments {
   std::vector<std::pair<std::string, std::string>> given_;
 };
 
-}  // namespace qvzj
+}  // namespace qvzj::qvdb

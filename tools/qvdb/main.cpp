@@ -29,5 +29,5 @@ std::string AskPassword(const std::string& prompt) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  return qvzj::RunQvdb({argv + 1, argv + argc}, {std::cin, std::cout, std::cerr, AskPassword});
+  return qvzj::qvdb::Run({argv + 1, argv + argc}, {std::cin, std::cout, std::cerr, AskPassword});
 }

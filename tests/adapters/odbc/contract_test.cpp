@@ -6,7 +6,7 @@ namespace {
 
 class PostgresContractDatabase : public ContractDatabase {
  public:
-  std::unique_ptr<data::Session> Open() override { return OpenServer(LoginTo(name_), {}); }
+  std::unique_ptr<data::Session> Open() override { return store::OpenServer(LoginTo(name_), {}); }
 
  private:
   std::string name_ = Server().MakeDatabase();

@@ -34,8 +34,8 @@ class ModuleOnAServer : public testing::Test {
     world_.Type(form.txtAcnt2(3), "5");
   }
   std::string Entries() {
-    const ServerLogin login = LoginTo(database_);
-    return OpenServer(login, {})->Native("select count(*) from tAccountDetail").Text(0);
+    const store::ServerLogin login = LoginTo(database_);
+    return store::OpenServer(login, {})->Native("select count(*) from tAccountDetail").Text(0);
   }
   /// All that was reported as an error since the last call.
   std::string Errors() {
@@ -99,7 +99,7 @@ TEST_F(ModuleOnAServer, KeepsWhatWasKeyedWhenTheServersFilesCanGrowNoMore) {
   Server().RunAll(database_, {"alter table tAccountDetail set (fillfactor=10)",
                               "insert into tAccountDetail (fCompID,fType1,fBrief) select 77,0,"
                               "repeat('x',1900) from generate_series(1,2200)"});
-  const std::string size = OpenServer(LoginTo(database_), {})
+  const std::string size = store::OpenServer(LoginTo(database_), {})
                                ->Native("select pg_relation_size('taccountdetail')")
                                .Text(0);
   KeyEntry();
@@ -118,7 +118,7 @@ TEST_F(ModuleOnAServer, KeepsWhatWasKeyedWhenTheServersFilesCanGrowNoMore) {
 
 TEST_F(ModuleOnAServer, ShowsNothingHalfWhenTheServerDiesUnderARefresh) {
   frmZj& form = world_.Form();
-  auto holder = OpenServer(LoginTo(database_), {});
+  auto holder = store::OpenServer(LoginTo(database_), {});
   holder->Native("begin");
   holder->Native("lock table tAccountDetail in access exclusive mode");
   std::thread killer([] {

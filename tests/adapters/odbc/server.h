@@ -13,7 +13,7 @@ inline PrivatePostgres& Server() {
   return server;
 }
 
-inline ServerLogin LoginTo(const std::string& database) {
+inline store::ServerLogin LoginTo(const std::string& database) {
   return {Server().Address(), PrivatePostgres::kUser, PrivatePostgres::kPassword, database};
 }
 

@@ -19,13 +19,14 @@ class OdbcSessions : public testing::Test {
     database_ = Server().MakeDatabase();
   }
 
-  std::unique_ptr<data::Session> Open(const ConnectionOptions& options = {}) {
-    return OpenServer(LoginTo(database_), options);
+  std::unique_ptr<data::Session> Open(const store::ConnectionOptions& options = {}) {
+    return store::OpenServer(LoginTo(database_), options);
   }
   /// What opening says when it fails.
-  static std::string Refusal(const ServerLogin& login, const ConnectionOptions& options = {}) {
+  static std::string Refusal(const store::ServerLogin& login,
+                             const store::ConnectionOptions& options = {}) {
     try {
-      OpenServer(login, options);
+      store::OpenServer(login, options);
     } catch (const DataError& error) {
       return error.what();
     }
@@ -80,7 +81,7 @@ TEST_F(OdbcSessions, SayWhatTheServerSaidWithItsState) {
 }
 
 TEST_F(OdbcSessions, NeverShowThePasswordThatWasRefused) {
-  ServerLogin login = LoginTo(database_);
+  store::ServerLogin login = LoginTo(database_);
   login.password = "wrong;secret";
   const std::string text = Refusal(login);
   EXPECT_NE(text.find("authentication failed"), std::string::npos) << text;
@@ -93,13 +94,13 @@ TEST_F(OdbcSessions, SayWhichDatabaseIsMissing) {
 }
 
 TEST_F(OdbcSessions, SayThatNoServerAnswers) {
-  ServerLogin login = LoginTo(database_);
+  store::ServerLogin login = LoginTo(database_);
   login.address = "127.0.0.1:1";
   EXPECT_NE(Refusal(login), "");
 }
 
 TEST_F(OdbcSessions, RefuseAnUnencryptedServerWhereEncryptionIsRequired) {
-  ConnectionOptions options;
+  store::ConnectionOptions options;
   options.server.require_tls = true;
   const std::string text = Refusal(LoginTo(database_), options);
   EXPECT_NE(text.find("SSL"), std::string::npos) << text;
@@ -108,12 +109,12 @@ TEST_F(OdbcSessions, RefuseAnUnencryptedServerWhereEncryptionIsRequired) {
 TEST_F(OdbcSessions, EncryptWhereTheServerOffersIt) {
   if (!std::filesystem::exists("/usr/bin/openssl")) GTEST_SKIP() << "openssl is not installed";
   PrivatePostgres server({"ssl=on"});
-  const ServerLogin login{server.Address(), PrivatePostgres::kUser, PrivatePostgres::kPassword,
-                          "postgres"};
+  const store::ServerLogin login{server.Address(), PrivatePostgres::kUser,
+                                 PrivatePostgres::kPassword, "postgres"};
   for (const bool require : {false, true}) {
-    ConnectionOptions options;
+    store::ConnectionOptions options;
     options.server.require_tls = require;
-    const auto session = OpenServer(login, options);
+    const auto session = store::OpenServer(login, options);
     EXPECT_EQ(
         session->Native("select ssl::text from pg_stat_ssl where pid=pg_backend_pid()").Text(0),
         "true");
@@ -150,7 +151,7 @@ TEST_F(OdbcSessions, NeverRepeatAWriteWhoseOutcomeIsUnknown) {
 }
 
 TEST_F(OdbcSessions, SpeakOfAnUnknownOutcomeInTheReadersLanguage) {
-  ConnectionOptions options;
+  store::ConnectionOptions options;
   options.language = [] { return 1; };
   auto session = Open(options);
   session->Execute("Update cards Set compname='' Where fID=0");
@@ -171,7 +172,7 @@ TEST_F(OdbcSessions, ReportAServerThatStaysAwayAndWorkOnceItIsBack) {
 
 TEST_F(OdbcSessions, EndAStatementThatTakesTooLong) {
   Open()->Execute(kInsert);
-  ConnectionOptions options;
+  store::ConnectionOptions options;
   options.statement_timeout = 1;
   auto session = Open(options);
   const TableHeld held(Open());
@@ -180,7 +181,7 @@ TEST_F(OdbcSessions, EndAStatementThatTakesTooLong) {
 }
 
 TEST_F(OdbcSessions, WaitForAnotherSessionAndThenSaySoAndGoOn) {
-  ConnectionOptions options;
+  store::ConnectionOptions options;
   options.busy_timeout = std::chrono::milliseconds(100);
   auto session = Open(options);
   session->Execute(kInsert);
@@ -194,7 +195,7 @@ TEST_F(OdbcSessions, WaitForAnotherSessionAndThenSaySoAndGoOn) {
 }
 
 TEST_F(OdbcSessions, AnswerNothingWhenTheServerDiesInTheMiddleOfAnAnswer) {
-  auto session = OpenServer(LoginTo(database_), {});
+  auto session = store::OpenServer(LoginTo(database_), {});
   std::thread killer([] {
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
     Server().Kill();
@@ -211,7 +212,7 @@ TEST_F(OdbcSessions, SayThatARightIsMissing) {
                "do $$begin create role reader login password 'r'; exception when "
                "duplicate_object then null; end$$");
   Server().Run(database_, "grant select on cards to reader");
-  auto session = OpenServer({Server().Address(), "reader", "r", database_}, {});
+  auto session = store::OpenServer({Server().Address(), "reader", "r", database_}, {});
   EXPECT_EQ(session->Query(kCount).Text(0), "0");
   const std::string text = Failure(*session, kInsert);
   EXPECT_NE(text.find("permission denied"), std::string::npos) << text;
@@ -219,7 +220,7 @@ TEST_F(OdbcSessions, SayThatARightIsMissing) {
 
 TEST_F(OdbcSessions, OrderByStrokesForReadersOfTraditionalChinese) {
   int language = 0;
-  ConnectionOptions options;
+  store::ConnectionOptions options;
   options.language = [&language] { return language; };
   auto session = Open(options);
   int id = 0;
@@ -279,7 +280,7 @@ TEST_F(OdbcSessions, FindTheNextNumberFromTheEndOfItsStem) {
 TEST(ServerConnections, OpenThroughTheConnectionComponent) {
   QV_NEEDS_SERVER();
   const std::string database = Server().MakeDatabase();
-  SuiteConnections connections;
+  store::SuiteConnections connections;
   data::Connection connection;
   EXPECT_TRUE(connections.OpenConnection(1, connection, Server().Address(),
                                          PrivatePostgres::kPassword, PrivatePostgres::kUser,
@@ -289,7 +290,7 @@ TEST(ServerConnections, OpenThroughTheConnectionComponent) {
 
 TEST(ServerConnections, AnswerFalseWithAReasonThatHoldsNoPassword) {
   QV_NEEDS_SERVER();
-  SuiteConnections connections;
+  store::SuiteConnections connections;
   data::Connection connection;
   EXPECT_FALSE(connections.OpenConnection(1, connection, Server().Address(), "pass word",
                                           PrivatePostgres::kUser, "postgres"));

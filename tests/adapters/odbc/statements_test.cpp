@@ -23,7 +23,7 @@ std::vector<std::string> ModuleStatements() {
 
 TEST(ServerStatementsOnPostgres, AreAllTaken) {
   QV_NEEDS_SERVER();
-  const auto store = OpenServer(LoginTo(Server().MakeDatabase()), {});
+  const auto store = store::OpenServer(LoginTo(Server().MakeDatabase()), {});
   auto& session = static_cast<OdbcSession&>(*store);
   const std::vector<std::string> statements = ModuleStatements();
   EXPECT_GT(statements.size(), 70U);

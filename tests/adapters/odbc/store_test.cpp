@@ -16,7 +16,7 @@ class OdbcStore : public ::testing::Test {
   void SetUp() override {
     QV_NEEDS_SERVER();
     database_ = Server().MakeDatabase();
-    store_ = OpenServer(LoginTo(database_), {});
+    store_ = store::OpenServer(LoginTo(database_), {});
   }
   std::string One(const std::string& sql) { return store_->Native(sql).Text(0); }
 

@@ -10,7 +10,8 @@ namespace {
 
 using basic::Date;
 
-bool Open(SuiteConnections& connections, const std::string& path, const ServerLogin& login) {
+bool Open(store::SuiteConnections& connections, const std::string& path,
+          const store::ServerLogin& login) {
   data::Connection connection;
   return connections.OpenConnection(1, connection, path, login.password, login.user,
                                     login.database);
@@ -18,8 +19,8 @@ bool Open(SuiteConnections& connections, const std::string& path, const ServerLo
 
 TEST(SuiteConnectionsOnAServer, FindTheServerAgainUnderTheTextThatALoginLeaves) {
   QV_NEEDS_SERVER();
-  const ServerLogin login = test::LoginTo(test::Server().MakeDatabase());
-  SuiteConnections connections;
+  const store::ServerLogin login = test::LoginTo(test::Server().MakeDatabase());
+  store::SuiteConnections connections;
   EXPECT_FALSE(Open(connections, "SQL Server", login)) << "no server is known yet";
   EXPECT_TRUE(Open(connections, login.address, login));
   EXPECT_TRUE(Open(connections, "SQL Server", login)) << connections.LastError();
@@ -27,19 +28,19 @@ TEST(SuiteConnectionsOnAServer, FindTheServerAgainUnderTheTextThatALoginLeaves) 
 
 TEST(VisitRecordsOnAServer, AreListedAddedChangedAndRemoved) {
   QV_NEEDS_SERVER();
-  const ServerLogin login = test::LoginTo(test::Server().MakeDatabase());
-  SuiteConnections connections;
+  const store::ServerLogin login = test::LoginTo(test::Server().MakeDatabase());
+  store::SuiteConnections connections;
   Around().connections = &connections;
   TaskCall call;
   call.access = {login.address, login.password, 1, login.user, login.database};
   call.user_name = "wang";
   call.customer_id = 7;
-  VisitRecords records(call);
+  visits::VisitRecords records(call);
   const int32_t first = records.Add(Date::FromYmd(2024, 3, 1), "电话'回访'");
   const int32_t second = records.Add(Date::FromYmd(2024, 2, 1), "送样品");
   records.Change(second, Date::FromYmd(2024, 4, 1), "送样品两件");
 
-  std::vector<Visit> visits = records.List();
+  std::vector<visits::Visit> visits = records.List();
   ASSERT_EQ(visits.size(), 2u);
   EXPECT_EQ(visits[0].text, "送样品两件");
   EXPECT_EQ(visits[0].date, Date::FromYmd(2024, 4, 1));

@@ -15,10 +15,10 @@ class TemporaryDatabase {
   TemporaryDatabase() {
     SqliteOptions options;
     options.create = true;
-    CreateSchema(*OpenSqlite(File(), options));
+    store::CreateSchema(*OpenSqlite(File(), options));
   }
 
-  std::string File() const { return (folder_.Path() / kDataFile).string(); }
+  std::string File() const { return (folder_.Path() / store::kDataFile).string(); }
   const std::filesystem::path& Folder() const { return folder_.Path(); }
   std::unique_ptr<SqliteSession> Open(const SqliteOptions& options = {}) const {
     return OpenSqlite(File(), options);

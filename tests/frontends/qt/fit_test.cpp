@@ -99,7 +99,7 @@ TEST_P(Dialogs, ShowTheirTextsWhole) {
   world_.control.setLanguage(GetParam());
   world_.Sql("insert into Employees values ('001', '张三');");
   world_.Open(kCustomers);
-  frmLogin login(GetParam(), {});
+  users::frmLogin login(GetParam(), {});
   ExpectWhole(login);
   frmList list;
   list.Load();
@@ -107,7 +107,7 @@ TEST_P(Dialogs, ShowTheirTextsWhole) {
   TaskCall call;
   call.language = GetParam();
   call.access.user_path = Shared().UserPath;
-  frmTask visits(call);
+  visits::frmTask visits(call);
   ExpectWhole(visits);
 }
 

@@ -188,7 +188,7 @@ TEST_F(Tools, OfferPrintingByTheFormsOwnButton) {
 }
 
 TEST_F(Tools, ExportTheGridAndSayHowManyRows) {
-  SuiteExporter exporter;
+  exports::SuiteExporter exporter;
   Around().exporter = &exporter;
   const QString file = QString::fromStdString((world_.folder.Path() / "out.csv").string());
   qt::WriteGrid(world_.Window(), form_.Grid2, {}, qt::TextsOf(0), file, ExportFormat::CsvUtf8);
@@ -201,7 +201,7 @@ TEST_F(Tools, ExportTheGridAndSayHowManyRows) {
 }
 
 TEST_F(Tools, ExportTheColumnsAsTheUserArrangedThem) {
-  SuiteExporter exporter;
+  exports::SuiteExporter exporter;
   Around().exporter = &exporter;
   QHeaderView* header = table_.horizontalHeader();
   header->moveSection(header->visualIndex(1), 0);
@@ -290,7 +290,7 @@ TEST(AskFile, ComesAgainWithTheNameOfTheFileThatItWouldReplace) {
 }
 
 TEST_F(Tools, SayWhyAnExportFailed) {
-  SuiteExporter exporter;
+  exports::SuiteExporter exporter;
   Around().exporter = &exporter;
   qt::WriteGrid(world_.Window(), form_.Grid2, {}, qt::TextsOf(0), "/nowhere/out.csv",
                 ExportFormat::CsvUtf8);

@@ -113,14 +113,14 @@ void ExpectNamesAndFocus(ui::Form& form) {
 TEST(ReachDialogs, NameTheirFieldsAndStartInOne) {
   WindowWorld world;
   world.Open(kCustomers);
-  frmLogin login(0, {});
+  users::frmLogin login(0, {});
   ExpectNamesAndFocus(login);
   frmList list;
   list.Load();
   ExpectNamesAndFocus(list);
   TaskCall call;
   call.access.user_path = Shared().UserPath;
-  frmTask visits(call);
+  visits::frmTask visits(call);
   ExpectNamesAndFocus(visits);
 }
 

@@ -37,7 +37,7 @@ class Suite : public testing::Test {
     SqliteOptions options;
     options.create = true;
     const auto data = OpenSqlite((folder_.Path() / "qvjxc.db").string(), options);
-    CreateSchema(*data);
+    store::CreateSchema(*data);
     data->NativeScript(
         "insert into cards (fID,CompCode,compname,fType0) values (1,'K1','甲公司',0);"
         "insert into cards (fID,CompCode,compname,fType0) values (2,'K2','乙公司',0);"
@@ -239,7 +239,8 @@ TEST_F(Suite, LetsItsWindowShowItsTextsWhole) {
 class SuiteWithUsers : public Suite {
  protected:
   SuiteWithUsers() {
-    RightsDatabase rights((folder_.Path() / kRightsFile).string(), RightsDatabase::Missing::Create);
+    users::RightsDatabase rights((folder_.Path() / users::kRightsFile).string(),
+                                 users::RightsDatabase::Missing::Create);
     rights.Add("wang", "secret", "101");
     rights.SetUnit("总公司");
   }

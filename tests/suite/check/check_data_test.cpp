@@ -6,7 +6,7 @@
 
 #include "tests/suite/store/database.h"
 
-namespace qvzj {
+namespace qvzj::check {
 namespace {
 
 /// A customer 1, an account 1, a checked customer entry 1 and its counter-entry 2.
@@ -140,4 +140,4 @@ TEST_F(CheckDataTest, TakesEmptyNumbersForNoDuplicates) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::check

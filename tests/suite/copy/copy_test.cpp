@@ -9,7 +9,7 @@
 #include "suite/store/tables.h"
 #include "tests/suite/store/database.h"
 
-namespace qvzj {
+namespace qvzj::copy {
 namespace {
 
 using test::EmptyDatabase;
@@ -24,15 +24,15 @@ struct BrokenOff : std::runtime_error {
 class CopyTest : public ::testing::Test {
  protected:
   CopyTest() {
-    DemoOptions demo;
+    demo_data::Options demo;
     demo.customers = 30;
     demo.entries = 900;
-    MakeDemoData(*source_, demo, {});
+    demo_data::MakeData(*source_, demo, {});
     options_.source_name = "source";
     options_.lot = 100;
   }
 
-  CopyReport Copy(const RowProgress& progress = {}) {
+  Report Copy(const store::RowProgress& progress = {}) {
     return CopyData(*source_, *target_, options_, progress);
   }
   void BreakOffAfter(int64_t rows) {
@@ -50,7 +50,7 @@ class CopyTest : public ::testing::Test {
     return {};
   }
   void ExpectSameRows() {
-    for (const CopyTable& table : CopyTables()) {
+    for (const store::Table& table : store::Tables()) {
       const std::string all = std::string("select * from ") + table.name + " order by 1";
       EXPECT_EQ(Rows(*target_, all), Rows(*source_, all)) << table.name;
     }
@@ -58,13 +58,13 @@ class CopyTest : public ::testing::Test {
 
   std::unique_ptr<SqliteSession> source_ = EmptyDatabase();
   std::unique_ptr<SqliteSession> target_ = EmptyDatabase();
-  CopyOptions options_;
+  Options options_;
 };
 
 TEST_F(CopyTest, BringsEveryRowOfEveryTable) {
-  const CopyReport report = Copy();
+  const Report report = Copy();
   ExpectSameRows();
-  EXPECT_EQ(report.tables.size(), CopyTables().size());
+  EXPECT_EQ(report.tables.size(), store::Tables().size());
   EXPECT_FALSE(report.resumed);
   EXPECT_FALSE(data::HasTable(*target_, "qvdb_copy"));
 }
@@ -73,7 +73,7 @@ TEST_F(CopyTest, KnowsEveryTableOfTheSchema) {
   EXPECT_EQ(One(*source_,
                 "select count(*) from sqlite_master where type='table' and name not like "
                 "'sqlite_%'"),
-            std::to_string(CopyTables().size()));
+            std::to_string(store::Tables().size()));
 }
 
 TEST_F(CopyTest, ReportsTheSumsOfTheAmounts) {
@@ -186,4 +186,4 @@ TEST_F(CopyTest, KeepsNullsAndOddTexts) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::copy

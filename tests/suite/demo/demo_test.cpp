@@ -9,16 +9,16 @@
 #include "suite/demo/ledger.h"
 #include "tests/suite/store/database.h"
 
-namespace qvzj {
+namespace qvzj::demo_data {
 namespace {
 
 using test::EmptyDatabase;
 using test::One;
 using test::Rows;
 
-std::unique_ptr<SqliteSession> DemoDatabase(const DemoOptions& options = {}) {
+std::unique_ptr<SqliteSession> DemoDatabase(const Options& options = {}) {
   auto session = EmptyDatabase();
-  MakeDemoData(*session, options, {});
+  MakeData(*session, options, {});
   return session;
 }
 
@@ -39,14 +39,14 @@ TEST(DemoData, ComesOutTheSameForTheSameSeed) {
 }
 
 TEST(DemoData, ComesOutDifferentlyForAnotherSeed) {
-  DemoOptions other;
+  Options other;
   other.seed = 2;
   EXPECT_NE(Rows(*DemoDatabase(), kEverything), Rows(*DemoDatabase(other), kEverything));
 }
 
 TEST(DemoData, IsWithoutFaults) {
   const auto session = DemoDatabase();
-  EXPECT_EQ(CheckData(*session, [](const Fault& fault) { ADD_FAILURE() << fault.text; }), 0);
+  EXPECT_EQ(check::CheckData(*session, [](const Fault& fault) { ADD_FAILURE() << fault.text; }), 0);
 }
 
 TEST(DemoData, HasEveryKindOfEntry) {
@@ -64,7 +64,7 @@ TEST(DemoData, HasEveryKindOfEntry) {
 }
 
 TEST(DemoData, LiesOnWorkdaysOfTheYearsAskedFor) {
-  DemoOptions options;
+  Options options;
   options.until = basic::Date::FromYmd(2024, 6, 30);
   options.years = 1;
   const auto session = DemoDatabase(options);
@@ -108,22 +108,22 @@ TEST(DemoData, KeepsTheEditLimitsOfEveryTextField) {
 }
 
 TEST(DemoData, NeverNamesTwoCustomersAlike) {
-  DemoOptions options;
+  Options options;
   options.customers = 5000;
   options.entries = 100;
   EXPECT_EQ(One(*DemoDatabase(options), "select count(distinct compname) from cards"), "5000");
 }
 
 TEST(DemoData, WidensTheVoucherCounterForABusyLedger) {
-  DemoOptions options;
-  EXPECT_EQ(DemoNumberWidth(options), 5);
+  Options options;
+  EXPECT_EQ(NumberWidth(options), 5);
   options.entries = 5'000'000;
-  EXPECT_EQ(DemoNumberWidth(options), 7);
+  EXPECT_EQ(NumberWidth(options), 7);
 }
 
 TEST(DemoData, FillsALedgerOfAnySmallSize) {
   for (int entries = 0; entries <= 12; ++entries) {
-    DemoOptions options;
+    Options options;
     options.entries = entries;
     options.customers = 2;
     options.accounts = 1;
@@ -135,24 +135,24 @@ TEST(DemoData, FillsALedgerOfAnySmallSize) {
 TEST(DemoData, GoesOnlyIntoAnEmptyDatabase) {
   const auto session = EmptyDatabase();
   session->NativeScript("insert into cards (fID,CompCode,compname) values (1,'K1','甲')");
-  EXPECT_THROW(MakeDemoData(*session, {}, {}), Error);
+  EXPECT_THROW(MakeData(*session, {}, {}), Error);
   EXPECT_EQ(One(*session, "select count(*) from tAccounts"), "0");
 }
 
 TEST(DemoData, RefusesSizesOutOfRange) {
   const auto session = EmptyDatabase();
-  DemoOptions options;
+  Options options;
   options.customers = 0;
-  EXPECT_THROW(MakeDemoData(*session, options, {}), Error);
+  EXPECT_THROW(MakeData(*session, options, {}), Error);
   options = {};
   options.entries = -1;
-  EXPECT_THROW(MakeDemoData(*session, options, {}), Error);
+  EXPECT_THROW(MakeData(*session, options, {}), Error);
 }
 
 TEST(DemoData, TellsHowFarItIs) {
   const auto session = EmptyDatabase();
   std::vector<int64_t> told;
-  MakeDemoData(*session, {}, [&](int64_t done, int64_t all) {
+  MakeData(*session, {}, [&](int64_t done, int64_t all) {
     EXPECT_EQ(all, 5000);
     told.push_back(done);
   });
@@ -168,4 +168,4 @@ TEST(CounterBrief, IsTheNameCutToTheRoomOfTheSummary) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::demo_data

@@ -76,8 +76,8 @@ class Lists : public testing::TestWithParam<Case> {
 
   static Records Read(const std::string& text) {
     Records records;
-    CsvReader reader(text);
-    for (CsvRecord record; reader.Next(record);) {
+    imports::CsvReader reader(text);
+    for (imports::CsvRecord record; reader.Next(record);) {
       EXPECT_EQ(record.fault, "");
       records.push_back(record.fields);
     }

@@ -10,7 +10,7 @@
 #include "tests/suite/export/read_back.h"
 #include "tests/support/small_files.h"
 
-namespace qvzj {
+namespace qvzj::exports {
 namespace {
 
 namespace fs = std::filesystem;
@@ -171,4 +171,4 @@ TEST_F(SuiteExporterTest, WritesAWorkbook) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::exports

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace qvzj {
+namespace qvzj::imports {
 namespace {
 
 using Fields = std::vector<std::string>;
@@ -95,4 +95,4 @@ TEST(Csv, AnEmptyTextHasNoRecord) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::imports

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace qvzj {
+namespace qvzj::imports {
 namespace {
 
 std::string Iso(std::string_view text, DateOrder order = DateOrder::Unknown) {
@@ -91,4 +91,4 @@ TEST(FieldValues, RefusesAYearThatNoLedgerHolds) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::imports

@@ -7,7 +7,7 @@
 #include "platform/basic/errors.h"
 #include "tests/suite/store/database.h"
 
-namespace qvzj {
+namespace qvzj::imports {
 namespace {
 
 using test::One;
@@ -15,7 +15,7 @@ using test::Rows;
 
 class ImportTest : public ::testing::Test {
  protected:
-  ImportReport Import(const std::string& text) {
+  Report Import(const std::string& text) {
     refusals_.clear();
     return ImportCsv(*session_, text, options_,
                      [this](const Refusal& refusal) {
@@ -36,15 +36,14 @@ class ImportTest : public ::testing::Test {
   std::string One(const std::string& sql) { return test::One(*session_, sql); }
 
   std::unique_ptr<SqliteSession> session_ = test::EmptyDatabase();
-  ImportOptions options_;
+  Options options_;
   std::string refusals_;  ///< of the last import, "line: reason" each
 };
 
 // --- customers and accounts ---------------------------------------------------------------------
 
 TEST_F(ImportTest, FillsColumnsFromHeadersOfTheirName) {
-  const ImportReport report =
-      Import("CompCode,COMPNAME,telphone,detail\nK1,甲公司,123,\"一\n二\"\n");
+  const Report report = Import("CompCode,COMPNAME,telphone,detail\nK1,甲公司,123,\"一\n二\"\n");
   EXPECT_EQ(report.rows, 1);
   EXPECT_EQ(report.written, 1);
   EXPECT_EQ(report.encoding, "UTF-8");
@@ -87,14 +86,14 @@ TEST_F(ImportTest, ContinuesTheIdsOfTheTable) {
 }
 
 TEST_F(ImportTest, PutsAccountsIntoTheirOwnTable) {
-  options_.kind = ImportKind::Accounts;
+  options_.kind = Kind::Accounts;
   Import("CompCode,compname,fBank\n0001,现金,现金\n");
   EXPECT_EQ(Rows("select fID,CompCode,compname,fBank from tAccounts"), "1|0001|现金|现金\n");
   EXPECT_EQ(One("select count(*) from cards"), "0");
 }
 
 TEST_F(ImportTest, TakesCustomerTypesByDigitAndByName) {
-  const ImportReport report =
+  const Report report =
       Import("CompCode,compname,fType0\n1,a,3\n2,b,供应商\n3,c,\n4,d,4\n5,e,客户\n");
   EXPECT_EQ(Rows("select fType0 from cards order by fID"), "3\n1\n0\n");
   EXPECT_EQ(report.refused, 2);
@@ -116,7 +115,7 @@ TEST_F(ImportTest, RefusesACodeThatIsThereWhateverItsCase) {
 
 TEST_F(ImportTest, PassesOverACodeThatIsThereWhenAskedTo) {
   options_.once = true;
-  const ImportReport report = Import("CompCode,compname\nK1,甲\nK1,乙\n");
+  const Report report = Import("CompCode,compname\nK1,甲\nK1,乙\n");
   EXPECT_EQ(report.passed_over, 1);
   EXPECT_EQ(report.refused, 0);
   EXPECT_EQ(Rows("select compname from cards"), "甲\n");
@@ -131,7 +130,7 @@ TEST_F(ImportTest, RefusesATextThatIsLongerThanItsField) {
 }
 
 TEST_F(ImportTest, TurnsSingleQuotesIntoApostrophesAndCountsThem) {
-  const ImportReport report =
+  const Report report =
       Import("CompCode,compname,name\nK'1,O'Neil's,'\nK2,plain,\n,it's refused,\n");
   EXPECT_EQ(Rows("select CompCode,compname,name from cards order by fID"),
             "K’1|O’Neil’s|’\nK2|plain|\n");
@@ -145,7 +144,7 @@ TEST_F(ImportTest, KnowsACodeAgainWhoseQuoteWasReplaced) {
 }
 
 TEST_F(ImportTest, TurnsLineBreaksInATextOfOneLineIntoBlanksAndCountsThem) {
-  const ImportReport report = Import("CompCode,compname\nK1,\"甲\r\n乙\t丙\"\n");
+  const Report report = Import("CompCode,compname\nK1,\"甲\r\n乙\t丙\"\n");
   EXPECT_EQ(One("select compname from cards"), "甲 乙 丙");
   EXPECT_EQ(report.joined_texts, 1);
 }
@@ -199,7 +198,7 @@ class EntryImportTest : public ImportTest {
         "(3,'K3','甲'),(4,'K4','乙'),(5,'K5','乙');"
         "insert into tAccounts (fID,CompCode,compname) values (7,'0001','现金');"
         "insert into Moneys values ('USD',7.1,1),('RMB',1,2)");
-    options_.kind = ImportKind::Entries;
+    options_.kind = Kind::Entries;
   }
 
   /// Imports one entry whose fields are overwritten: "column=value" each. "" = imported.
@@ -348,4 +347,4 @@ TEST_F(EntryImportTest, TellsHowFarItIs) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::imports

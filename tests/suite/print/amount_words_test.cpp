@@ -4,7 +4,7 @@
 
 #include "platform/basic/errors.h"
 
-namespace qvzj {
+namespace qvzj::print {
 namespace {
 
 std::string Simplified(double amount) { return AmountInWords(amount, 0); }
@@ -64,4 +64,4 @@ TEST(AmountInWords, RefusesAmountsWhoseFenADoubleCannotHold) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::print

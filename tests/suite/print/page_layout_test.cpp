@@ -7,7 +7,7 @@
 #include "platform/ui/form.h"
 #include "suite/print/metrics.h"
 
-namespace qvzj {
+namespace qvzj::print {
 namespace {
 
 using basic::Date;
@@ -314,4 +314,4 @@ TEST_F(PageLayoutTest, SpeaksTraditionalChinese) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::print

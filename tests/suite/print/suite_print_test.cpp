@@ -5,7 +5,7 @@
 #include "platform/ui/form.h"
 #include "suite/print/metrics.h"
 
-namespace qvzj {
+namespace qvzj::print {
 namespace {
 
 /// Takes pages and counts them; the user may cancel.
@@ -63,4 +63,4 @@ TEST_F(SuitePrintTest, HandsOverNothingWhenTheUserCancels) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::print

@@ -8,7 +8,7 @@
 #include "platform/basic/errors.h"
 #include "tests/adapters/sqlite/temporary.h"
 
-namespace qvzj {
+namespace qvzj::store {
 namespace {
 
 using test::TemporaryDatabase;
@@ -92,4 +92,4 @@ TEST(Schema, AddsWhatAnOlderDataFileLacks) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::store

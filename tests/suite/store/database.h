@@ -13,7 +13,7 @@ inline std::unique_ptr<SqliteSession> EmptyDatabase() {
   SqliteOptions options;
   options.create = true;
   auto session = OpenSqlite(":memory:", options);
-  CreateSchema(*session);
+  store::CreateSchema(*session);
   return session;
 }
 

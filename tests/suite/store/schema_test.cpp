@@ -6,7 +6,7 @@
 #include <fstream>
 #include <iterator>
 
-namespace qvzj {
+namespace qvzj::store {
 namespace {
 
 constexpr const char* kHead =
@@ -49,4 +49,4 @@ TEST(Schema, HasTheSameStatementsForEveryServer) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::store

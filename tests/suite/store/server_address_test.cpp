@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace qvzj {
+namespace qvzj::store {
 namespace {
 
 constexpr const char* kPostgresHabits =
@@ -111,4 +111,4 @@ TEST(PasswordsIn, ReadsBackWhatAConnectionStringWasMadeOf) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::store

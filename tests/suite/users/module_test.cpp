@@ -5,7 +5,7 @@
 #include "suite/visits/task.h"
 #include "tests/support/world.h"
 
-namespace qvzj {
+namespace qvzj::users {
 namespace {
 
 /// The module with the suite's own user and task components behind it.
@@ -31,7 +31,7 @@ struct SuiteWorld : test::World {
   BoxLogin dialogue;
   SystemTryClock clock;
   SuiteUser user{dialogue, clock};
-  BoxTask task;
+  visits::BoxTask task;
 };
 
 TEST(Suite, LogsTheUserInWhenTheModuleStarts) {
@@ -77,4 +77,4 @@ TEST(Suite, KeepsACustomerWithVisitRecordsFromBeingDeleted) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::users

@@ -5,7 +5,7 @@
 #include "suite/users/password.h"
 #include "tests/suite/users/rights_folder.h"
 
-namespace qvzj {
+namespace qvzj::users {
 namespace {
 
 using test::RightsFolder;
@@ -244,4 +244,4 @@ TEST(Rights, FailWhenTheFileIsMissingOrNoDatabase) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::users

@@ -6,7 +6,7 @@
 #include "suite/store/connections.h"
 #include "tests/suite/users/rights_folder.h"
 
-namespace qvzj {
+namespace qvzj::users {
 namespace {
 
 struct SetClock : TryClock {
@@ -47,7 +47,7 @@ struct UserWorld {
 
   test::RightsFolder folder;
   Headless headless;
-  SuiteConnections connections;
+  store::SuiteConnections connections;
   SetClock clock;
   BoxLogin boxes;
   FormLogin window;
@@ -249,4 +249,4 @@ TEST(RecordAccess, GoesIntoTheProgramsDatabaseWhenNobodyLoggedIn) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::users

@@ -9,7 +9,7 @@
 #include "suite/store/schema.h"
 #include "tests/suite/users/rights_folder.h"
 
-namespace qvzj {
+namespace qvzj::visits {
 namespace {
 
 using basic::Date;
@@ -20,8 +20,8 @@ struct TaskWorld {
     headless.Install(connections);
     SqliteOptions options;
     options.create = true;
-    native = OpenSqlite(folder.Path() + "/" + kDataFile, options);
-    CreateSchema(*native);
+    native = OpenSqlite(folder.Path() + "/" + store::kDataFile, options);
+    store::CreateSchema(*native);
     native->NativeScript(
         "insert into tTaskList(fID,taskID,fType,fDate,fUser,fBrief) values"
         "(1,7,1,'2024-03-01','li','送样品'),(2,7,1,'2024-03-10','wang','报价'),"
@@ -60,7 +60,7 @@ struct TaskWorld {
 
   test::RightsFolder folder;
   Headless headless;
-  SuiteConnections connections;
+  store::SuiteConnections connections;
   std::unique_ptr<SqliteSession> native;
   SuiteTask task;
   BoxTask boxes;
@@ -234,4 +234,4 @@ TEST(TaskWindow, FailsLoudlyWithoutData) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::visits

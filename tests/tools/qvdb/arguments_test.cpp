@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace qvzj {
+namespace qvzj::qvdb {
 namespace {
 
 TEST(Arguments, TakeValuesAfterABlankOrAnEqualsSign) {
@@ -42,4 +42,4 @@ TEST(Arguments, RefuseAMissingOrMalformedValue) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::qvdb

@@ -8,8 +8,9 @@
 #include <sstream>
 
 #include "tests/suite/store/database.h"
+#include "tools/qvdb/place.h"
 
-namespace qvzj {
+namespace qvzj::qvdb {
 namespace {
 
 namespace fs = std::filesystem;
@@ -32,7 +33,7 @@ class QvdbTest : public ::testing::Test {
     std::ostringstream out, err;
     if (words.front() != "user") words.insert(words.end(), {"--data", Data()});
     const int status =
-        RunQvdb(words, {in, out, err, [](const std::string&) { return "secret pass"; }});
+        qvdb::Run(words, {in, out, err, [](const std::string&) { return "secret pass"; }});
     out_ = out.str();
     err_ = err.str();
     return status;
@@ -44,7 +45,7 @@ class QvdbTest : public ::testing::Test {
     return path.string();
   }
   std::string One(const std::string& sql) const {
-    return test::One(*OpenSqlite(Data() + "/" + kDataFile, {}), sql);
+    return test::One(*OpenSqlite(Data() + "/" + store::kDataFile, {}), sql);
   }
 
   fs::path folder_;
@@ -128,7 +129,7 @@ TEST_F(QvdbTest, CheckExitsWithOneWhereItFindsFaults) {
   Run({"demo", "--entries", "200", "--customers", "5"});
   EXPECT_EQ(Run({"check"}), 0);
   EXPECT_EQ(out_, "no faults\n");
-  OpenSqlite(Data() + "/" + kDataFile, {})
+  OpenSqlite(Data() + "/" + store::kDataFile, {})
       ->NativeScript(
           "insert into tAccountDetail (fID,fDate,fCompID,fType1,fAcntNo,fChecker) values "
           "(999,'2024-01-01',77,0,'N','')");
@@ -149,7 +150,7 @@ TEST_F(QvdbTest, UserKeepsTheRightsDatabase) {
 
 TEST_F(QvdbTest, AFileThatIsNoDatabaseIsRefused) {
   fs::create_directory(Data());
-  std::ofstream(Data() + "/" + kDataFile) << std::string(5000, 'x');
+  std::ofstream(Data() + "/" + store::kDataFile) << std::string(5000, 'x');
   EXPECT_EQ(Run({"check"}), 2);
   EXPECT_EQ(Run({"demo"}), 2);
   EXPECT_NE(err_, "");
@@ -184,4 +185,4 @@ TEST(DefaultDataFolder, FollowsTheUsersDataFolder) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::qvdb

@@ -12,7 +12,7 @@
 #include "tests/adapters/odbc/server.h"
 #include "tests/support/temporary_folder.h"
 
-namespace qvzj {
+namespace qvzj::qvdb {
 namespace {
 
 using test::LoginTo;
@@ -32,7 +32,7 @@ class QvdbOnPostgres : public ::testing::Test {
   int Run(const Words& words, const std::string& input = {}) {
     std::istringstream in(input);
     std::ostringstream out, err;
-    const int status = RunQvdb(
+    const int status = qvdb::Run(
         words, {in, out, err, [](const std::string&) { return PrivatePostgres::kPassword; }});
     out_ = out.str();
     err_ = err.str();
@@ -57,10 +57,10 @@ class QvdbOnPostgres : public ::testing::Test {
   static std::string ThisServer() { return "server:" + Server().Address(); }
   std::string Folder(const std::string& name) const { return (folder_.Path() / name).string(); }
 
-  std::unique_ptr<data::Store> Store() { return OpenServer(LoginTo(database_), {}); }
+  std::unique_ptr<data::Store> Store() { return store::OpenServer(LoginTo(database_), {}); }
   std::string One(const std::string& sql) { return Store()->Native(sql).Text(0); }
   std::string OneIn(const std::string& folder, const std::string& sql) {
-    return OpenSqlite(Folder(folder) + "/" + kDataFile, {})->Native(sql).Text(0);
+    return OpenSqlite(Folder(folder) + "/" + store::kDataFile, {})->Native(sql).Text(0);
   }
 
   test::TemporaryFolder folder_;
@@ -173,7 +173,7 @@ TEST_F(QvdbOnPostgres, CheckFindsTheFaultsThatItFindsInADataFile) {
   ASSERT_EQ(Run({"init", "--data", Folder("file")}), 0);
   for (const std::string& sql : rows) {
     Server().Run(database_, sql);
-    OpenSqlite(Folder("file") + "/" + kDataFile, {})->NativeScript(sql);
+    OpenSqlite(Folder("file") + "/" + store::kDataFile, {})->NativeScript(sql);
   }
   EXPECT_EQ(Run({"check", "--data", Folder("file")}), 1);
   const std::string in_file = out_;
@@ -184,7 +184,7 @@ TEST_F(QvdbOnPostgres, CheckFindsTheFaultsThatItFindsInADataFile) {
 
 TEST_F(QvdbOnPostgres, CopyBringsADataFileToTheServerAndBackUnchanged) {
   ASSERT_EQ(Run({"demo", "--data", Folder("file"), "--entries", "3000"}), 0);
-  OpenSqlite(Folder("file") + "/" + kDataFile, {})
+  OpenSqlite(Folder("file") + "/" + store::kDataFile, {})
       ->NativeScript(
           "insert into cards (fID,CompCode,compname,detail) values (999,null,'',"
           "'a' || char(13,10) || '甲''\"\\ %_{?}' || char(9) || '\U0001F600');"
@@ -193,9 +193,9 @@ TEST_F(QvdbOnPostgres, CopyBringsADataFileToTheServerAndBackUnchanged) {
   ASSERT_EQ(Copy(Folder("file"), ThisServer()), 0) << err_;
   EXPECT_NE(out_.find("tAccountDetail: 3000 rows, fMoneyA "), std::string::npos) << out_;
   ASSERT_EQ(Copy(ThisServer(), Folder("back")), 0) << err_;
-  const auto before = OpenSqlite(Folder("file") + "/" + kDataFile, {});
-  before->NativeScript("attach '" + Folder("back") + "/" + kDataFile + "' as back");
-  for (const CopyTable& table : CopyTables()) {
+  const auto before = OpenSqlite(Folder("file") + "/" + store::kDataFile, {});
+  before->NativeScript("attach '" + Folder("back") + "/" + store::kDataFile + "' as back");
+  for (const store::Table& table : store::Tables()) {
     const std::string name = table.name;
     const auto missing =
         before->Native("select * from main." + name + " except select * from back." + name);
@@ -213,35 +213,35 @@ TEST_F(QvdbOnPostgres, CopyBringsADataFileToTheServerAndBackUnchanged) {
 
 TEST_F(QvdbOnPostgres, CopyGoesOnAfterTheServerBrokeDown) {
   ASSERT_EQ(Run({"demo", "--data", Folder("file"), "--entries", "2000"}), 0);
-  const auto source = OpenSqlite(Folder("file") + "/" + kDataFile, {});
-  CopyOptions options;
+  const auto source = OpenSqlite(Folder("file") + "/" + store::kDataFile, {});
+  copy::Options options;
   options.source_name = "file";
   options.lot = 200;
   bool killed = false;
   {
     const auto target = Store();
-    EXPECT_THROW(CopyData(*source, *target, options,
-                          [&](int64_t done, int64_t) {
-                            if (killed || done < 1000) return;
-                            Server().Kill();
-                            killed = true;
-                          }),
+    EXPECT_THROW(copy::CopyData(*source, *target, options,
+                                [&](int64_t done, int64_t) {
+                                  if (killed || done < 1000) return;
+                                  Server().Kill();
+                                  killed = true;
+                                }),
                  DataError);
   }
   Server().Start();
   const auto target = Store();
-  EXPECT_TRUE(CopyData(*source, *target, options, {}).resumed);
+  EXPECT_TRUE(copy::CopyData(*source, *target, options, {}).resumed);
   EXPECT_EQ(One(kTotals), OneIn("file", kTotals));
   EXPECT_EQ(OnServer({"check"}), 0) << out_;
 }
 
 TEST_F(QvdbOnPostgres, CopyNamesTheRowWhoseValueTheServerCannotHold) {
   ASSERT_EQ(Run({"demo", "--data", Folder("file"), "--entries", "100", "--customers", "5"}), 0);
-  OpenSqlite(Folder("file") + "/" + kDataFile, {})
+  OpenSqlite(Folder("file") + "/" + store::kDataFile, {})
       ->NativeScript("update tAccountDetail set fDate='someday' where fID=7");
   EXPECT_EQ(Copy(Folder("file"), ThisServer()), 2);
   EXPECT_EQ(err_, "qvdb: tAccountDetail, fID 7: fdate cannot hold the text \"someday\"\n");
-  OpenSqlite(Folder("file") + "/" + kDataFile, {})
+  OpenSqlite(Folder("file") + "/" + store::kDataFile, {})
       ->NativeScript("update tAccountDetail set fDate='2025-01-01' where fID=7");
   EXPECT_EQ(Copy(Folder("file"), ThisServer()), 0) << err_;
   EXPECT_EQ(Copy(Folder("file"), ThisServer(), {"--anew"}), 2);
@@ -272,10 +272,10 @@ TEST_F(QvdbOnPostgres, APasswordCanComeFromTheEnvironment) {
 }
 
 TEST_F(QvdbOnPostgres, AWholeConnectionStringIsNotRepeated) {
-  const std::string whole = ConnectionString(LoginTo(database_), {});
+  const std::string whole = store::ConnectionString(LoginTo(database_), {});
   EXPECT_EQ(Run({"init", "--server", whole}), 0) << err_;
   EXPECT_EQ(out_, "ready: the server\n");
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::qvdb

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace qvzj {
+namespace qvzj::dialogues {
 
 /// A text of the suite's own components in the user's language: 1 is traditional Chinese, anything
 /// else simplified.
@@ -11,4 +11,4 @@ inline std::string InLanguage(int16_t language, const char* simplified, const ch
   return language == 1 ? traditional : simplified;
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::dialogues

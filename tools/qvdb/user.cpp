@@ -1,12 +1,12 @@
-#include "tools/qvdb/user_command.h"
-
 #include <algorithm>
 #include <filesystem>
+#include <ostream>
 
 #include "suite/users/password.h"
 #include "suite/users/user_rights.h"
+#include "tools/qvdb/commands.h"
 
-namespace qvzj {
+namespace qvzj::qvdb {
 namespace {
 
 constexpr const char* kUsage =
@@ -15,7 +15,7 @@ constexpr const char* kUsage =
     "       unit FILE [TEXT] | exempt FILE [NAME] | list FILE | log FILE\n";
 
 struct Call {
-  RightsDatabase& rights;
+  users::RightsDatabase& rights;
   std::vector<std::string> words;  ///< after FILE
   const AskPassword& ask;
   std::ostream& out;
@@ -26,27 +26,27 @@ std::string NewPassword(const AskPassword& ask) {
   std::string first = ask("Password: ");
   std::string second = ask("Again: ");
   const bool same = first == second;
-  Forget(second);
-  if (!same) throw RightsError("the two passwords differ");
+  users::Forget(second);
+  if (!same) throw users::RightsError("the two passwords differ");
   return first;
 }
 
 void Add(const Call& call) {
   const std::string rights =
-      call.words.size() > 1 ? call.words[1] : std::string(kRightsLength, '1');
+      call.words.size() > 1 ? call.words[1] : std::string(users::kRightsLength, '1');
   std::string password = NewPassword(call.ask);
   call.rights.Add(call.words[0], password, rights);
-  Forget(password);
+  users::Forget(password);
 }
 
 void SetPassword(const Call& call) {
   std::string password = NewPassword(call.ask);
   call.rights.SetPassword(call.words[0], password);
-  Forget(password);
+  users::Forget(password);
 }
 
 void List(const Call& call) {
-  for (const SuiteUserInfo& user : call.rights.Users()) {
+  for (const users::SuiteUserInfo& user : call.rights.Users()) {
     const auto denied = std::count(user.power.begin(), user.power.end(), '0');
     call.out << user.name << (user.disabled ? "\tdisabled" : "\t") << "\t"
              << static_cast<long>(user.power.size()) - denied << "\n";
@@ -54,7 +54,7 @@ void List(const Call& call) {
 }
 
 void Log(const Call& call) {
-  for (const AccessInfo& access : call.rights.Record()) {
+  for (const users::AccessInfo& access : call.rights.Record()) {
     call.out << access.time << "\t" << access.user << "\t" << access.function << "\n";
   }
 }
@@ -95,7 +95,7 @@ constexpr Command kCommands[] = {
     {"log", 0, 0, Log},
 };
 
-const Command* Find(const std::vector<std::string>& args) {
+const Command* Find(const Words& args) {
   if (args.size() < 2) return nullptr;
   const size_t words = args.size() - 2;
   for (const Command& command : kCommands) {
@@ -109,27 +109,27 @@ const Command* Find(const std::vector<std::string>& args) {
 std::string FileOf(const std::string& path) {
   std::error_code ignored;
   if (!std::filesystem::is_directory(path, ignored)) return path;
-  return (std::filesystem::path(path) / kRightsFile).string();
+  return (std::filesystem::path(path) / users::kRightsFile).string();
 }
 
 }  // namespace
 
-int RunUserCommand(const std::vector<std::string>& args, const AskPassword& ask, std::ostream& out,
-                   std::ostream& err) {
-  const Command* command = Find(args);
+int User(const Words& words, const Streams& streams) {
+  const Command* command = Find(words);
   if (!command) {
-    err << kUsage;
+    streams.err << kUsage;
     return 2;
   }
   try {
-    using Missing = RightsDatabase::Missing;
-    RightsDatabase rights(FileOf(args[1]), args[0] == "add" ? Missing::Create : Missing::Fail);
-    command->run({rights, {args.begin() + 2, args.end()}, ask, out});
+    using Missing = users::RightsDatabase::Missing;
+    users::RightsDatabase rights(FileOf(words[1]),
+                                 words[0] == "add" ? Missing::Create : Missing::Fail);
+    command->run({rights, {words.begin() + 2, words.end()}, streams.ask_password, streams.out});
     return 0;
   } catch (const Error& error) {
-    err << error.what() << "\n";
+    streams.err << error.what() << "\n";
     return 1;
   }
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::qvdb

@@ -3,7 +3,7 @@
 #include "platform/surroundings.h"
 #include "platform/ui/form.h"
 
-namespace qvzj {
+namespace qvzj::dialogues {
 
 /// Connects what every form of the suite needs: error box, clipboard, and the presenter's notice
 /// when it is closed.
@@ -27,4 +27,4 @@ inline void MoveOnByEnter(ui::Form& form, ui::Control& control) {
   };
 }
 
-}  // namespace qvzj
+}  // namespace qvzj::dialogues

@@ -1,5 +1,3 @@
-#include "tools/qvdb/user_command.h"
-
 #include <gtest/gtest.h>
 
 #include <deque>
@@ -7,25 +5,24 @@
 
 #include "suite/users/user_rights.h"
 #include "tests/suite/users/rights_folder.h"
+#include "tools/qvdb/commands.h"
 
-namespace qvzj {
+namespace qvzj::qvdb {
 namespace {
 
 /// Runs commands as the command line does, passwords typed in order.
 struct Admin {
   int Run(std::vector<std::string> words) {
     words.insert(words.begin() + 1, folder.Path());
-    return RunUserCommand(
-        words,
-        [this](const std::string&) {
-          std::string next = passwords.front();
-          passwords.pop_front();
-          return next;
-        },
-        out, err);
+    std::istringstream in;
+    return User(words, {in, out, err, [this](const std::string&) {
+                          std::string next = passwords.front();
+                          passwords.pop_front();
+                          return next;
+                        }});
   }
-  RightsDatabase Rights() const {
-    return RightsDatabase(folder.File(), RightsDatabase::Missing::Fail);
+  users::RightsDatabase Rights() const {
+    return users::RightsDatabase(folder.File(), users::RightsDatabase::Missing::Fail);
   }
 
   test::RightsFolder folder;
@@ -38,7 +35,7 @@ TEST(UserCommand, AddsAUserWhoCanLogIn) {
   Admin admin;
   admin.passwords = {"secret", "secret"};
   EXPECT_EQ(admin.Run({"add", "王五"}), 0);
-  EXPECT_EQ(admin.Rights().Try("王五", "secret", 1000).kind, TryResult::Kind::Ok);
+  EXPECT_EQ(admin.Rights().Try("王五", "secret", 1000).kind, users::TryResult::Kind::Ok);
   EXPECT_EQ(admin.Rights().Users()[0].power, std::string(350, '1'));
 }
 
@@ -55,7 +52,7 @@ TEST(UserCommand, ChangesAPassword) {
   admin.passwords = {"one", "one", "two", "two"};
   admin.Run({"add", "wang"});
   EXPECT_EQ(admin.Run({"passwd", "wang"}), 0);
-  EXPECT_EQ(admin.Rights().Try("wang", "two", 1000).kind, TryResult::Kind::Ok);
+  EXPECT_EQ(admin.Rights().Try("wang", "two", 1000).kind, users::TryResult::Kind::Ok);
 }
 
 TEST(UserCommand, ListsUsersWithTheirState) {
@@ -94,7 +91,8 @@ TEST(UserCommand, SetsAndShowsTheUnitAndTheExemptUser) {
 
 TEST(UserCommand, ShowsTheRecordOfOpenedFunctions) {
   Admin admin;
-  RightsDatabase(admin.folder.File(), RightsDatabase::Missing::Create).Record("wang", "mnuCard");
+  users::RightsDatabase(admin.folder.File(), users::RightsDatabase::Missing::Create)
+      .Record("wang", "mnuCard");
   EXPECT_EQ(admin.Run({"log"}), 0);
   const std::string line = admin.out.str();
   EXPECT_EQ(line.substr(line.find('\t')), "\twang\tmnuCard\n");
@@ -114,4 +112,4 @@ TEST(UserCommand, ShowsItsUsageForWrongWords) {
 }
 
 }  // namespace
-}  // namespace qvzj
+}  // namespace qvzj::qvdb
