@@ -34,19 +34,6 @@ bool LedgerIsThere() {
   return CountRows("tAccountDetail", "1=2") != -1;
 }
 
-// The data path as a message may show it: passwords within a server's details are left out.
-std::string ShownPath(std::string path) {
-  for (const char* key : {"pwd=", "password="}) {
-    size_t from = 0;
-    for (size_t at; (at = basic::Lower(path).find(key, from)) != std::string::npos;) {
-      const size_t start = at + std::string_view(key).size();
-      path.replace(start, data::EndOfValue(path, start) - start, "***");
-      from = start;
-    }
-  }
-  return path;
-}
-
 }  // namespace
 
 qvJxc_Zj::~qvJxc_Zj() {
@@ -77,8 +64,8 @@ void qvJxc_Zj::Open(int16_t run_mode, int16_t show_mode) {
   shared.Title = LoadText(run_mode == 0 ? text_id::kCustomersTitle : text_id::kAccountsTitle);
   if (!LedgerIsThere()) {
     CloseData();
-    Message("系统数据库 " + ShownPath(shared.UserPath) + " 属早期版本，无 [" + shared.Title +
-                "] 功能。请升级系统！",
+    Message("系统数据库 " + data::WithoutPasswords(shared.UserPath) + " 属早期版本，无 [" +
+                shared.Title + "] 功能。请升级系统！",
             box::kCritical);
     return;
   }

@@ -35,6 +35,7 @@ test  unzip                looks into workbooks
 test  xdotool              presses those keys
 test  postgresql-15        a private server for the tests of the server dialect
 test  odbc-postgresql      the driver through which it is reached
+test  openssl              certificates for connections to it that are encrypted
 bench libbenchmark-dev     the benchmark framework
 bench postgresql-15        a private server for what the statements cost on one
 bench odbc-postgresql      the driver through which it is reached

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "adapters/sqlite/sqlite_session.h"
+#include "platform/data/details.h"
 #include "suite/store/connections.h"
 #include "suite/store/schema.h"
 
@@ -34,9 +35,8 @@ std::unique_ptr<data::Store> OpenOrMakeFile(const DataPlace& place) {
 
 std::string DataPlace::Name() const {
   if (!folder.empty()) return (fs::path(folder) / kDataFile).string();
-  // A whole connection string may hold a password.
   const bool whole = login.address.find('=') != std::string::npos;
-  const std::string server = whole ? "the server" : login.address;
+  const std::string server = whole ? "the server" : data::WithoutPasswords(login.address);
   return login.database.empty() ? server : login.database + " on " + server;
 }
 

@@ -1,4 +1,5 @@
 #include "platform/basic/errors.h"
+#include "platform/data/details.h"
 #include "suite/store/connections.h"
 
 #ifdef QV_WITH_ODBC
@@ -18,7 +19,7 @@ std::unique_ptr<data::Store> OpenServer(const ServerLogin& login,
   odbc.engine =
       server.kind == ServerKind::TransactSql ? ServerEngine::TransactSql : ServerEngine::PostgreSql;
   odbc.connection_string = ConnectionString(login, server);
-  odbc.secrets = PasswordsIn(login.address);
+  odbc.secrets = data::PasswordsIn(login.address);
   odbc.secrets.push_back(login.password);
   odbc.login_timeout = options.login_timeout;
   odbc.statement_timeout = options.statement_timeout;

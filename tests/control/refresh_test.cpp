@@ -141,13 +141,15 @@ TEST(Refresh, ShowsNoPasswordOfAServersDetails) {
   world.control.refresh(0, 0);
   world.control.setUserPath("Server=y;Password={a;b}");
   world.control.refresh(0, 0);
-  world.control.setUserPath("PWD={a}}b;c};Server=y;pwd=d;Password=e");
+  world.control.setUserPath("PWD = {a}}b;c};Server=y;pwd =d");
+  world.control.refresh(0, 0);
+  world.control.setUserPath("me:secret@host");
   world.control.refresh(0, 0);
   EXPECT_EQ(world.Messages(),
-            (std::vector<std::string>{
-                TooOld("Driver=x;PWD=***;Server=y", "客户往来帐管理系统"),
-                TooOld("Server=y;Password=***", "客户往来帐管理系统"),
-                TooOld("PWD=***;Server=y;pwd=***;Password=***", "客户往来帐管理系统")}));
+            (std::vector<std::string>{TooOld("Driver=x;PWD=***;Server=y", "客户往来帐管理系统"),
+                                      TooOld("Server=y;Password=***", "客户往来帐管理系统"),
+                                      TooOld("PWD = ***;Server=y;pwd =***", "客户往来帐管理系统"),
+                                      TooOld("me:***@host", "客户往来帐管理系统")}));
 }
 
 TEST(Refresh, ReportsADatabaseKindBeyondAByteAndThrowsNothing) {

@@ -173,9 +173,19 @@ void PrivatePostgres::InitializeCluster() {
 
 void PrivatePostgres::MakeCertificate() {
   const fs::path data = folder_.Path() / "data";
-  Do("openssl", {"/usr/bin/openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2",
-                 "-subj", "/CN=localhost", "-keyout", (data / "server.key").string(), "-out",
-                 (data / "server.crt").string()});
+  const std::string root = RootCertificate().string();
+  const std::string root_key = (data / "root.key").string();
+  const Words begin{"/usr/bin/openssl", "req",    "-x509", "-newkey",
+                    "rsa:2048",         "-nodes", "-days", "2"};
+  const auto make = [&](const Words& rest) {
+    Words words = begin;
+    words.insert(words.end(), rest.begin(), rest.end());
+    Do("openssl", words);
+  };
+  make({"-subj", "/CN=Root of a test", "-keyout", root_key, "-out", root});
+  make({"-subj", "/CN=127.0.0.1", "-addext", "subjectAltName=IP:127.0.0.1", "-CA", root, "-CAkey",
+        root_key, "-keyout", (data / "server.key").string(), "-out",
+        (data / "server.crt").string()});
 }
 
 void PrivatePostgres::Do(const std::string& what, const Words& words) {

@@ -36,7 +36,8 @@ class PrivatePostgres {
   static std::string Missing();
 
   /// Makes the cluster and starts it, with settings "name=value" besides those that make it
-  /// private; with "ssl=on" also a certificate. Throws std::runtime_error with the server's log.
+  /// private; with "ssl=on" also a certificate for its address. Throws std::runtime_error with the
+  /// server's log.
   explicit PrivatePostgres(std::vector<std::string> settings = {});
   ~PrivatePostgres();
   PrivatePostgres(const PrivatePostgres&) = delete;
@@ -65,6 +66,8 @@ class PrivatePostgres {
   /// the limit away. Its log of changes needs 16 MB.
   void LimitFiles(uint64_t bytes);
 
+  /// The root that its certificate comes from, with "ssl=on".
+  std::filesystem::path RootCertificate() const { return Folder() / "root.crt"; }
   const std::filesystem::path& Folder() const { return folder_.Path(); }
   pid_t Process() const { return server_; }
 

@@ -16,7 +16,8 @@ store::ServerKind EngineOf(const std::string& name) {
 }  // namespace
 
 Names WithServer(Names own) {
-  own.insert(own.end(), {"--user", "--password", "--database", "--engine", "--driver"});
+  own.insert(own.end(),
+             {"--user", "--password", "--database", "--engine", "--driver", "--root-certificate"});
   return own;
 }
 
@@ -36,6 +37,7 @@ store::DataPlace ServerPlace(const std::string& address, const Arguments& argume
   place.server.kind = EngineOf(arguments.Text("--engine", "postgresql"));
   place.server.driver = arguments.Text("--driver");
   place.server.require_tls = arguments.Has(kRequireTls);
+  place.server.root_certificate = arguments.Text("--root-certificate");
   return place;
 }
 

@@ -64,6 +64,8 @@ or on a server. Options for servers, also of copy:
   --engine ENGINE     postgresql (default) or tsql; on tsql only import works
   --driver NAME       ODBC driver, when it is not called as usual
   --require-tls       refuses a connection that is not encrypted
+  --root-certificate FILE  refuses a server whose certificate does not come from this root
+                      (postgresql)
 
 Exit status: 0 done; 1 done, but rows were refused or faults were found; 2 not done.
 )";

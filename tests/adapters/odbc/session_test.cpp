@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <filesystem>
 #include <thread>
 
 #include "platform/basic/errors.h"
@@ -97,28 +96,6 @@ TEST_F(OdbcSessions, SayThatNoServerAnswers) {
   store::ServerLogin login = LoginTo(database_);
   login.address = "127.0.0.1:1";
   EXPECT_NE(Refusal(login), "");
-}
-
-TEST_F(OdbcSessions, RefuseAnUnencryptedServerWhereEncryptionIsRequired) {
-  store::ConnectionOptions options;
-  options.server.require_tls = true;
-  const std::string text = Refusal(LoginTo(database_), options);
-  EXPECT_NE(text.find("SSL"), std::string::npos) << text;
-}
-
-TEST_F(OdbcSessions, EncryptWhereTheServerOffersIt) {
-  if (!std::filesystem::exists("/usr/bin/openssl")) GTEST_SKIP() << "openssl is not installed";
-  PrivatePostgres server({"ssl=on"});
-  const store::ServerLogin login{server.Address(), PrivatePostgres::kUser,
-                                 PrivatePostgres::kPassword, "postgres"};
-  for (const bool require : {false, true}) {
-    store::ConnectionOptions options;
-    options.server.require_tls = require;
-    const auto session = store::OpenServer(login, options);
-    EXPECT_EQ(
-        session->Native("select ssl::text from pg_stat_ssl where pid=pg_backend_pid()").Text(0),
-        "true");
-  }
 }
 
 TEST_F(OdbcSessions, ReadOnAfterTheServerCameBack) {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/basic/errors.h"
+#include "platform/data/details.h"
+
 namespace qvzj::store {
 namespace {
 
@@ -28,7 +31,7 @@ TEST(ServerAddress, NamesAHostWithItsPort) {
   EXPECT_EQ(Text("10.0.0.5:5433"), std::string("DRIVER={PostgreSQL Unicode};SERVER=10.0.0.5;"
                                                "PORT=5433;DATABASE=suite;UID=clerk;PWD=pw;") +
                                        kPostgresHabits);
-  EXPECT_NE(Text("[::1]:5433").find("SERVER={::1};PORT=5433;"), std::string::npos)
+  EXPECT_NE(Text("[::1]:5433").find("SERVER=::1;PORT=5433;"), std::string::npos)
       << Text("[::1]:5433");
 }
 
@@ -66,6 +69,94 @@ TEST(ServerAddress, QuotesWhatWouldEndAValue) {
   EXPECT_NE(ConnectionString({"h", "", "a;b}c", ""}, {}).find("PWD={a;b}}c};"), std::string::npos);
 }
 
+std::string Login(const ServerLogin& login) { return ConnectionString(login, {}); }
+
+TEST(ServerAddress, GivesANameAsItStandsBecauseTheDriverKeepsTheBraces) {
+  EXPECT_NE(Login({"h", "a b,c@d", "", "x(1)+%41"}).find("DATABASE=x(1)+%41;UID=a b,c@d;"),
+            std::string::npos);
+  EXPECT_NE(Login({"Server=h;UID={a,b};Servername={::1}", "", "", ""})
+                .find("Server=h;UID=a,b;Servername=::1;"),
+            std::string::npos);
+}
+
+TEST(ServerAddress, HandsANameThatWouldEndAValueOnToTheClientLibrary) {
+  const std::string text = Login({"h", "a;'b", "", " {é}"});
+  EXPECT_NE(text.find("pqopt={postgresql:///?dbname=%20%7B%C3%A9%7D&user=a%3B%27b};"),
+            std::string::npos)
+      << text;
+  EXPECT_EQ(text.find("UID="), std::string::npos) << text;
+  EXPECT_EQ(text.find("DATABASE="), std::string::npos) << text;
+}
+
+TEST(ServerAddress, AddsToTheOptionsThatAWholeConnectionStringHandsOn) {
+  EXPECT_NE(Login({"Server=h;pqopt={application_name='x}}'}", "a;'\\b", "", ""})
+                .find("pqopt={application_name='x}}' user='a;\\'\\\\b'};"),
+            std::string::npos);
+  EXPECT_NE(Login({"Server=h;pqopt=postgres://?port=1", "a;b", "", ""})
+                .find("pqopt={postgres://?port=1&user=a%3Bb};"),
+            std::string::npos);
+}
+
+TEST(ServerAddress, RefusesANameThatADataSourceCannotTake) {
+  ServerOptions options;
+  options.is_data_source = [](const std::string&) { return true; };
+  EXPECT_THROW(ConnectionString({"Books", "a;b", "", ""}, options), DataError);
+  EXPECT_THROW(ConnectionString({"DSN=Books", "", "", "a;b"}, {}), DataError);
+}
+
+TEST(ServerAddress, BracesAPasswordThatTheDriverWouldDecode) {
+  for (const char* password : {"50%41", "a+b", "a;b"}) {
+    const std::string braced = "PWD={" + std::string(password) + "};";
+    EXPECT_NE(Login({"h", "u", password, ""}).find(braced), std::string::npos) << password;
+  }
+  EXPECT_NE(Login({"Server=h;PWD = a+b", "u", "", ""}).find("PWD={a+b};"), std::string::npos);
+}
+
+TEST(ServerAddress, LetsNoRepeatedOrShortenedWordWeakenTheEncryptionThatIsRequired) {
+  ServerOptions options;
+  options.require_tls = true;
+  for (const char* said :
+       {"SSLmode=allow;SSLmode=disable", "SSLmode=require;SSLmode=disable", "sslmode = disable",
+        "SSLMODE=Require;CA=d", "PWD={SSLmode=verify-full;};SSLmode={disable}", "CA=p"}) {
+    const std::string text = Text(std::string(said) + ";Server=s", options);
+    EXPECT_NE(text.find(";SSLmode=require;"), std::string::npos) << text;
+    size_t found = 0;
+    for (const data::Detail& detail : data::DetailsIn(text)) {
+      if (detail.Is("SSLmode") || detail.Is("CA")) ++found;
+    }
+    EXPECT_EQ(found, 1U) << text;
+  }
+  EXPECT_NE(Text("SSLmode=disable;CA=vf;Server=s", options).find("SSLmode=verify-full;"),
+            std::string::npos);
+}
+
+TEST(ServerAddress, WritesTheWayOfEncryptionAsTheDriverReadsIt) {
+  EXPECT_NE(Text("Server=s;SSLMODE={Require}").find(";SSLmode=require;"), std::string::npos);
+  EXPECT_NE(Text("Server=s;ca=vc").find(";SSLmode=verify-ca;"), std::string::npos);
+}
+
+TEST(ServerAddress, LooksForNoEncryptionWithinBraces) {
+  const std::string text = Text("Server=s;PWD={x;SSLmode=disable}");
+  EXPECT_NE(text.find("PWD={x;SSLmode=disable};"), std::string::npos) << text;
+  EXPECT_NE(text.find(";SSLmode=prefer;"), std::string::npos) << text;
+}
+
+TEST(ServerAddress, AsksForACertificateOfTheRootThatIsGiven) {
+  ServerOptions options;
+  options.root_certificate = "/etc/root;1.crt";
+  const std::string text = Text("h", options);
+  EXPECT_NE(text.find(";SSLmode=verify-full;"), std::string::npos) << text;
+  EXPECT_NE(text.find(";pqopt={postgresql:///?sslrootcert=%2Fetc%2Froot%3B1%2Ecrt};"),
+            std::string::npos)
+      << text;
+  EXPECT_NE(Text("Server=s;SSLmode=require", options).find(";SSLmode=verify-full;"),
+            std::string::npos);
+  EXPECT_NE(Text("Server=s;SSLmode=verify-ca", options).find(";SSLmode=verify-ca;"),
+            std::string::npos);
+  options.kind = ServerKind::TransactSql;
+  EXPECT_THROW(Text("h", options), DataError);
+}
+
 TEST(ServerAddress, RequiresEncryptionWhereAsked) {
   ServerOptions options;
   options.require_tls = true;
@@ -88,26 +179,6 @@ TEST(ServerAddress, LetsNoWholeConnectionStringWeakenTheEncryptionThatIsRequired
   EXPECT_NE(Text("Server=s;Encrypt=no", options).find("Server=s;DATABASE"), std::string::npos);
   EXPECT_NE(Text("Server=s;Encrypt=no", options).find("Encrypt=yes;"), std::string::npos);
   EXPECT_NE(Text("Server=s;Encrypt=strict", options).find("Encrypt=strict;"), std::string::npos);
-}
-
-using Passwords = std::vector<std::string>;
-
-TEST(PasswordsIn, ReadsPlainAndBracedValues) {
-  EXPECT_EQ(PasswordsIn("DRIVER={a;b};Pwd=word;UID=u"), Passwords{"word"});
-  EXPECT_EQ(PasswordsIn("PWD={a;b}}c=};UID=u"), Passwords{"a;b}c="});
-  EXPECT_EQ(PasswordsIn("UID=u;PWD=last"), Passwords{"last"});
-  EXPECT_EQ(PasswordsIn("UID=u;PWD={open"), Passwords{"open"});
-  EXPECT_EQ(PasswordsIn("db.example:5432"), Passwords{});
-}
-
-TEST(PasswordsIn, ReadsEitherNameAsOftenAsItIsThere) {
-  EXPECT_EQ(PasswordsIn("Password=a;PWD=b;password={c;d}"), (Passwords{"b", "a", "c;d"}));
-}
-
-TEST(PasswordsIn, ReadsBackWhatAConnectionStringWasMadeOf) {
-  for (const std::string password : {"geheim;{1}", "}}", "plain", "a=b"}) {
-    EXPECT_EQ(PasswordsIn(ConnectionString({"host", "u", password, "d"}, {})), Passwords{password});
-  }
 }
 
 }  // namespace

@@ -271,6 +271,11 @@ TEST_F(QvdbOnPostgres, APasswordCanComeFromTheEnvironment) {
   unsetenv("QVDB_PASSWORD");
 }
 
+TEST_F(QvdbOnPostgres, ARootCertificateIsAskedForByAnOption) {
+  EXPECT_EQ(OnServer({"check", "--root-certificate", "/nowhere/root.crt"}), 2);
+  EXPECT_NE(err_.find("SSL was required"), std::string::npos) << err_;
+}
+
 TEST_F(QvdbOnPostgres, AWholeConnectionStringIsNotRepeated) {
   const std::string whole = store::ConnectionString(LoginTo(database_), {});
   EXPECT_EQ(Run({"init", "--server", whole}), 0) << err_;
