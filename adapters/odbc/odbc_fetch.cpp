@@ -160,7 +160,7 @@ class Fetcher {
     rows_ = long_unbound_ ? 1 : kBlockRows;
   }
 
-  data::Recordset Run() {
+  data::Recordset Run(const std::function<bool()>& cancelled) {
     if (!columns_.empty()) {
       SetAttribute(statement_, SQL_ATTR_ROW_ARRAY_SIZE,
                    reinterpret_cast<const void*>(static_cast<SQLULEN>(rows_)));
@@ -168,7 +168,10 @@ class Fetcher {
       for (BoundColumn& column : columns_) {
         if (!(long_unbound_ && column.MayBeLong())) column.Bind(statement_, rows_);
       }
-      while (FetchBlock()) TakeBlock();
+      while (FetchBlock()) {
+        if (cancelled()) throw OdbcError("HY008", 0, "The answer was not read to its end");
+        TakeBlock();
+      }
     }
     std::vector<std::string> names;
     std::vector<Column> values;
@@ -233,8 +236,9 @@ std::vector<OdbcColumn> DescribeColumns(const OdbcStatement& statement) {
   return columns;
 }
 
-data::Recordset FetchAll(const OdbcStatement& statement, bool long_values_in_blocks) {
-  return Fetcher(statement, long_values_in_blocks).Run();
+data::Recordset FetchAll(const OdbcStatement& statement, bool long_values_in_blocks,
+                         const std::function<bool()>& cancelled) {
+  return Fetcher(statement, long_values_in_blocks).Run(cancelled);
 }
 
 }  // namespace qvzj

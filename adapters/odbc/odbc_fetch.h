@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "adapters/dialect/schema.h"
@@ -22,7 +23,9 @@ std::vector<OdbcColumn> DescribeColumns(const OdbcStatement& statement);
 /// Reads all rows of an executed statement, a block of rows a call. Whole numbers, reals and dates
 /// are bound as such, everything else as wide text. `long_values_in_blocks`: the driver can read
 /// on in a value that was longer than its place in a block; otherwise an answer with such columns
-/// is read row by row.
-data::Recordset FetchAll(const OdbcStatement& statement, bool long_values_in_blocks);
+/// is read row by row. `cancelled` is asked between two blocks; when it says so the rest is not
+/// read, and OdbcError says that it was cancelled.
+data::Recordset FetchAll(const OdbcStatement& statement, bool long_values_in_blocks,
+                         const std::function<bool()>& cancelled);
 
 }  // namespace qvzj

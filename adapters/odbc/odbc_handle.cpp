@@ -104,6 +104,25 @@ void OdbcConnection::EndTransaction(SQLSMALLINT how) {
   connection_.Check(SQLEndTran(SQL_HANDLE_DBC, Get(), how));
 }
 
+void OdbcConnection::Cancel() {
+  const std::lock_guard lock(running_mutex_);
+  if (running_ == SQL_NULL_HANDLE) return;
+  cancelled_ = true;
+  SQLCancel(running_);
+}
+
+OdbcConnection::Running::Running(OdbcConnection& connection, const OdbcStatement& statement)
+    : connection_(connection) {
+  const std::lock_guard lock(connection_.running_mutex_);
+  connection_.running_ = statement.Get();
+  connection_.cancelled_ = false;
+}
+
+OdbcConnection::Running::~Running() {
+  const std::lock_guard lock(connection_.running_mutex_);
+  connection_.running_ = SQL_NULL_HANDLE;
+}
+
 bool OdbcConnection::Dead() const {
   SQLUINTEGER dead = SQL_CD_FALSE;
   SQLGetConnectAttr(Get(), SQL_ATTR_CONNECTION_DEAD, &dead, 0, nullptr);

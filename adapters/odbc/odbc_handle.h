@@ -3,6 +3,8 @@
 #include <sql.h>
 #include <sqlext.h>
 
+#include <atomic>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <utility>
@@ -21,6 +23,8 @@ class OdbcError : public DataError {
   const std::string& State() const { return state_; }
   /// True when the state alone says that the connection is gone.
   bool ConnectionLost() const;
+  /// True when the server ended the statement because it was asked to.
+  bool Cancelled() const { return state_ == "57014" || state_ == "HY008"; }
   /// The rule of a table that a row would have broken; nothing when that is not what failed.
   std::optional<data::Rule> BrokenRule() const;
 
@@ -52,7 +56,7 @@ class OdbcHandle {
 using OdbcEnvironment = OdbcHandle<SQL_HANDLE_ENV>;
 using OdbcStatement = OdbcHandle<SQL_HANDLE_STMT>;
 
-/// A connection of its own, closed with the object.
+/// A connection of its own, closed with the object. Used by one thread at a time, but for Cancel.
 class OdbcConnection {
  public:
   /// Opens by a connection string. Timeouts in seconds, 0 = none.
@@ -68,11 +72,31 @@ class OdbcConnection {
   void EndTransaction(SQLSMALLINT how);
   /// The driver reads long values of any row of a block.
   bool ReadsLongValuesInBlocks() const { return long_values_in_blocks_; }
+  /// Asks the server to end the statement that runs, from any thread; may take as long as the
+  /// network does. Nothing when none runs.
+  void Cancel();
+
+  /// Makes a statement the one that Cancel ends, for as long as the object lives.
+  class Running {
+   public:
+    Running(OdbcConnection& connection, const OdbcStatement& statement);
+    ~Running();
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+    /// True once Cancel was called for it; drivers forget that between two portions of an answer.
+    bool Cancelled() const { return connection_.cancelled_; }
+
+   private:
+    OdbcConnection& connection_;
+  };
 
  private:
   OdbcEnvironment environment_{SQL_NULL_HANDLE};
   OdbcHandle<SQL_HANDLE_DBC> connection_;
   bool long_values_in_blocks_ = false;
+  std::mutex running_mutex_;
+  SQLHANDLE running_ = SQL_NULL_HANDLE;
+  std::atomic<bool> cancelled_ = false;
 };
 
 }  // namespace qvzj

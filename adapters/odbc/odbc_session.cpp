@@ -1,23 +1,23 @@
 #include "adapters/odbc/odbc_session.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "adapters/icu/utf16.h"
+#include "adapters/odbc/call_thread.h"
 #include "adapters/odbc/odbc_fetch.h"
 #include "adapters/odbc/odbc_handle.h"
 #include "adapters/odbc/odbc_row_writer.h"
+#include "adapters/odbc/odbc_texts.h"
 #include "platform/basic/text.h"
 
 namespace qvzj {
 namespace {
 
-/// What the user reads when a change may or may not have been stored, by language.
-constexpr const char* kOutcomeUnknown[2] = {
-    "与数据库服务器的连接在存盘时中断，无法确定这次修改是否已经保存。请先刷新核对，再决定是否重做"
-    "。",
-    "與資料庫伺服器的連線在存檔時中斷，無法確定這次修改是否已經儲存。請先重新整理核對，"
-    "再決定是否重做。",
-};
+using std::chrono::milliseconds;
+
+/// How long a server may take to confirm that it ended a statement, at most.
+constexpr milliseconds kGrace{5000};
 
 bool IsRead(const std::string& sql) {
   return basic::EqualIgnoringCase(std::string_view(sql).substr(0, 6), "select");
@@ -47,16 +47,32 @@ void HideWord(std::string& text, const std::string& secret) {
   }
 }
 
-/// Runs it; ended by the server when it takes longer than `timeout` seconds, unless that is 0.
-void Start(const OdbcStatement& statement, const std::string& sql, int timeout) {
-  if (timeout > 0) {
-    SQLSetStmtAttr(statement.Get(), SQL_ATTR_QUERY_TIMEOUT,
-                   reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(timeout)), 0);
-  }
+void Start(const OdbcStatement& statement, const std::string& sql) {
+  // The module's texts hold braces and question marks that are nobody's parameters.
+  SQLSetStmtAttr(statement.Get(), SQL_ATTR_NOSCAN, reinterpret_cast<SQLPOINTER>(SQL_NOSCAN_ON), 0);
   std::u16string wide = ToUtf16(sql);
   const SQLRETURN result = SQLExecDirectW(statement.Get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
                                           static_cast<SQLINTEGER>(wide.size()));
   if (result != SQL_NO_DATA) statement.Check(result);
+}
+
+data::Recordset RowsOf(OdbcConnection& connection, const std::string& sql) {
+  const OdbcStatement statement(connection.Get());
+  const OdbcConnection::Running running(connection, statement);
+  Start(statement, sql);
+  return FetchAll(statement, connection.ReadsLongValuesInBlocks(),
+                  [&running] { return running.Cancelled(); });
+}
+
+OdbcSchema::Columns ColumnsOf(OdbcConnection& connection, const std::string& table) {
+  const OdbcStatement statement(connection.Get());
+  const OdbcConnection::Running running(connection, statement);
+  Start(statement, "select * from " + table + " where 1=0");
+  OdbcSchema::Columns columns;
+  for (OdbcColumn& column : DescribeColumns(statement)) {
+    columns.emplace(basic::Lower(column.name), column.type);
+  }
+  return columns;
 }
 
 }  // namespace
@@ -71,29 +87,78 @@ OdbcSession::~OdbcSession() = default;
 
 void OdbcSession::Connect() {
   try {
-    connection_ =
-        std::make_unique<OdbcConnection>(options_.connection_string, options_.login_timeout);
+    Open();
     Prepare();
   } catch (const OdbcError& error) {
     connection_.reset();
     Refuse(error);
+  } catch (const DataError&) {
+    connection_.reset();  // one that is not prepared is none
+    throw;
   }
 }
 
+void OdbcSession::Open() {
+  const auto opened = std::make_shared<std::shared_ptr<OdbcConnection>>();
+  Within(PatienceAtLogin(),
+         [opened, text = options_.connection_string, seconds = options_.login_timeout] {
+           *opened = std::make_shared<OdbcConnection>(text, seconds);
+         });
+  connection_ = *opened;
+}
+
+OdbcSession::Patience OdbcSession::PatienceAtLogin() const {
+  // The driver keeps the time of the login itself but for what it asks once it is in.
+  const std::chrono::seconds login(options_.login_timeout);
+  return {login.count() == 0 ? milliseconds(0) : login + kGrace, true};
+}
+
+OdbcSession::Patience OdbcSession::PatienceFor(const std::string& sql) const {
+  const bool reads = IsRead(sql);
+  if (in_transaction_) return {milliseconds(0), reads};
+  return {reads ? options_.read_limit : options_.write_limit, reads};
+}
+
+void OdbcSession::Within(Patience patience, std::function<void()> call) {
+  if (patience.limit.count() == 0) return call();
+  if (!calls_) calls_ = std::make_unique<CallThread>();
+  if (!calls_->Run(std::move(call), patience.limit)) End(patience);
+}
+
+void OdbcSession::End(Patience patience) {
+  const milliseconds grace = std::min(patience.limit, kGrace);
+  // To ask takes a connection of its own, which may hang as well.
+  CallThread asking;
+  const auto connection = connection_;
+  const bool asked = connection && asking.Run([connection] { connection->Cancel(); }, grace);
+  try {
+    if (asked && calls_->Wait(grace)) return;
+  } catch (const OdbcError& error) {
+    if (!error.Cancelled()) throw;
+    const auto text = patience.reads ? odbc_texts::ReadStopped : odbc_texts::WriteStopped;
+    throw DataError(text(Language(), patience.limit) + "\n" + WithoutSecrets(error.what()));
+  }
+  calls_.reset();
+  connection_.reset();
+  const auto text = patience.reads ? odbc_texts::ReadGivenUp : odbc_texts::WriteGivenUp;
+  throw DataError(text(Language(), patience.limit));
+}
+
 void OdbcSession::Prepare() {
-  const std::string patience = std::to_string(options_.lock_timeout.count());
+  const Patience patience = PatienceAtLogin();
+  const std::string lock_wait = std::to_string(options_.lock_timeout.count());
   if (options_.engine == ServerEngine::TransactSql) {
-    RunOnce("SET DATEFORMAT mdy");
-    RunOnce("SET LOCK_TIMEOUT " + (patience == "0" ? "-1" : patience));
+    RunOnce("SET DATEFORMAT mdy", patience);
+    RunOnce("SET LOCK_TIMEOUT " + (lock_wait == "0" ? "-1" : lock_wait), patience);
     return;
   }
-  RunOnce("SET standard_conforming_strings = on");
-  RunOnce("SET lock_timeout = " + patience);
+  RunOnce("SET standard_conforming_strings = on", patience);
+  RunOnce("SET lock_timeout = " + lock_wait, patience);
   // The suite's own orders let case decide nothing; a database without them has its engine's.
   text_orders_[0] = "\"zh-Hans-x-icu\"";
   text_orders_[1] = "\"zh-Hant-x-icu\"";
-  data::Recordset own =
-      RunOnce("select collname from pg_collation where collname in ('qv_pinyin','qv_stroke')");
+  data::Recordset own = RunOnce(
+      "select collname from pg_collation where collname in ('qv_pinyin','qv_stroke')", patience);
   for (; !own.Eof(); own.MoveNext()) {
     text_orders_[own.Text(0) == "qv_stroke" ? 1 : 0] = own.Text(0);
   }
@@ -117,26 +182,25 @@ data::Recordset OdbcSession::Query(std::string_view statement) {
     if (schema_.TypeOf(table, column) != dialect::ColumnType::Unknown) return {{}, {}};
     schema_.Forget();
   }
-  return Run(translation.text);
+  return Run(translation.text, PatienceFor(translation.text));
 }
 
-data::Recordset OdbcSession::Native(std::string_view sql) { return Run(std::string(sql)); }
+data::Recordset OdbcSession::Native(std::string_view sql) { return Run(std::string(sql), {}); }
 
-data::Recordset OdbcSession::Run(const std::string& sql) {
+data::Recordset OdbcSession::Run(const std::string& sql, Patience patience) {
   if (!connection_) Connect();
   try {
-    return RunOnce(sql);
+    return RunOnce(sql, patience);
   } catch (const OdbcError& error) {
     if (!MayReconnectAfter(error)) Refuse(error);
     connection_.reset();
     if (!IsRead(sql)) {
-      throw DataError(std::string(kOutcomeUnknown[Language()]) + "\n" +
-                      WithoutSecrets(error.what()));
+      throw DataError(odbc_texts::OutcomeUnknown(Language()) + "\n" + WithoutSecrets(error.what()));
     }
   }
   Connect();
   try {
-    return RunOnce(sql);
+    return RunOnce(sql, patience);
   } catch (const OdbcError& error) {
     Refuse(error);
   }
@@ -146,24 +210,21 @@ bool OdbcSession::MayReconnectAfter(const OdbcError& error) const {
   return !in_transaction_ && (error.ConnectionLost() || connection_->Dead());
 }
 
-data::Recordset OdbcSession::RunOnce(const std::string& sql) {
-  const OdbcStatement statement(connection_->Get());
-  // The module's texts hold braces and question marks that are nobody's parameters.
-  SQLSetStmtAttr(statement.Get(), SQL_ATTR_NOSCAN, reinterpret_cast<SQLPOINTER>(SQL_NOSCAN_ON), 0);
-  Start(statement, sql, options_.statement_timeout);
-  return FetchAll(statement, connection_->ReadsLongValuesInBlocks());
+data::Recordset OdbcSession::RunOnce(const std::string& sql, Patience patience) {
+  const auto rows = std::make_shared<std::optional<data::Recordset>>();
+  Within(patience,
+         [rows, connection = connection_, sql] { rows->emplace(RowsOf(*connection, sql)); });
+  return std::move(**rows);
 }
 
 OdbcSchema::Columns OdbcSession::DescribeTable(const std::string& table) {
   if (!IsPlainName(table)) return {};
   if (!connection_) Connect();
-  OdbcSchema::Columns columns;
+  const auto columns = std::make_shared<OdbcSchema::Columns>();
   try {
-    const OdbcStatement statement(connection_->Get());
-    Start(statement, "select * from " + table + " where 1=0", options_.statement_timeout);
-    for (OdbcColumn& column : DescribeColumns(statement)) {
-      columns.emplace(basic::Lower(column.name), column.type);
-    }
+    Within(PatienceFor("select"), [columns, connection = connection_, table] {
+      *columns = ColumnsOf(*connection, table);
+    });
   } catch (const OdbcError& error) {
     const bool no_such_table = error.State() == "42P01" || error.State() == "42S02";
     if (no_such_table) return {};
@@ -172,7 +233,7 @@ OdbcSchema::Columns OdbcSession::DescribeTable(const std::string& table) {
     Connect();
     return DescribeTable(table);
   }
-  return columns;
+  return *columns;
 }
 
 data::Engine OdbcSession::Speaks() const {
@@ -193,7 +254,7 @@ std::unique_ptr<data::RowWriter> OdbcSession::Writer(std::string_view table,
 
 void OdbcSession::Begin() {
   // A connection that the server has dropped in the meantime is noticed, and replaced, here.
-  Run("select 1");
+  Run("select 1", {});
   connection_->SetAutocommit(false);
   in_transaction_ = true;
 }
@@ -204,7 +265,7 @@ void OdbcSession::Commit() {
     connection_->SetAutocommit(true);
   } catch (const OdbcError& error) {
     if (!error.ConnectionLost() && !connection_->Dead()) Refuse(error);
-    throw DataError(std::string(kOutcomeUnknown[Language()]) + "\n" + WithoutSecrets(error.what()));
+    throw DataError(odbc_texts::OutcomeUnknown(Language()) + "\n" + WithoutSecrets(error.what()));
   }
   in_transaction_ = false;
 }

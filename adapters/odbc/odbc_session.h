@@ -14,6 +14,7 @@
 
 namespace qvzj {
 
+class CallThread;
 class OdbcConnection;
 class OdbcError;
 
@@ -31,8 +32,9 @@ struct OdbcOptions {
   std::vector<std::string> secrets;
   /// Seconds to wait for the server at the start; 0 = the driver's own.
   int login_timeout = 10;
-  /// Seconds a statement may take; 0 = no limit.
-  int statement_timeout = 0;
+  /// How long a statement of the module that reads, or that writes, may take; 0 = without end.
+  std::chrono::milliseconds read_limit{60000};
+  std::chrono::milliseconds write_limit{30000};
   /// How long a statement waits for a row or table that another session holds; 0 = without end.
   std::chrono::milliseconds lock_timeout{10000};
   /// Order of texts, asked at every statement: 0 by pinyin, 1 by strokes. Empty: by pinyin.
@@ -41,6 +43,10 @@ struct OdbcOptions {
 
 /// A session on a database server through ODBC. A read that finds the connection dropped is run
 /// once more on a new one; a write is not, because nobody knows whether it took effect.
+/// A statement of the module that takes longer than it may is ended by the server. One that the
+/// server does not end either is left behind together with its connection, and the next opens a new
+/// one; so a call comes back whatever the server does. Bulk work (Native, Writer, transactions) has
+/// no limit.
 /// Not to be used from two threads at once.
 class OdbcSession : public data::Store {
  public:
@@ -69,11 +75,26 @@ class OdbcSession : public data::Store {
   std::string CheckIntegrity() override { return {}; }
 
  private:
-  data::Recordset Run(const std::string& sql);
-  data::Recordset RunOnce(const std::string& sql);
+  /// How long something may take, 0 = without end, and what is lost when it takes longer.
+  struct Patience {
+    std::chrono::milliseconds limit{0};
+    bool reads = true;
+  };
+
+  data::Recordset Run(const std::string& sql, Patience patience);
+  data::Recordset RunOnce(const std::string& sql, Patience patience);
   OdbcSchema::Columns DescribeTable(const std::string& table);
   void Connect();
+  void Open();
   void Prepare();
+  /// How long a statement of the module may take.
+  Patience PatienceFor(const std::string& sql) const;
+  Patience PatienceAtLogin() const;
+  /// Runs a call which must own all that it touches. Throws what it throws, or DataError with what
+  /// is known when it took longer than it may.
+  void Within(Patience patience, std::function<void()> call);
+  /// Ends the statement that has taken too long; returns when it ended well after all.
+  void End(Patience patience);
   /// Name of the generator of a table's fID; "" when it has none.
   std::string IdGenerator(const std::string& table);
   /// True when a statement that failed so may be run once more on a new connection.
@@ -84,7 +105,8 @@ class OdbcSession : public data::Store {
   int Language() const { return options_.language && options_.language() == 1 ? 1 : 0; }
 
   OdbcOptions options_;
-  std::unique_ptr<OdbcConnection> connection_;  // null: lost, to be opened at the next statement
+  std::unique_ptr<CallThread> calls_;           // null: to be made at the next call with a limit
+  std::shared_ptr<OdbcConnection> connection_;  // null: lost, to be opened at the next statement
   bool in_transaction_ = false;
   OdbcSchema schema_;
   std::string text_orders_[2];  // collations by language

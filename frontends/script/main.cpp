@@ -66,8 +66,8 @@ void Preset(qvJxc_Zj& control, const Options& options) {
 
 int Play(const Options& options, std::istream& in) {
   Headless headless;
-  store::SuiteConnections connections(
-      {.language = [] { return static_cast<int>(Shared().Language); }});
+  store::SuiteConnections connections(store::WithLimitsOfEnvironment(
+      {.language = [] { return static_cast<int>(Shared().Language); }}));
   headless.Install(connections);
   users::BoxLogin dialogue;
   const users::SystemTryClock clock;

@@ -6,7 +6,8 @@ namespace qvzj {
 
 Component::Component(const QString& settings_file)
     : surroundings_(settings_file),
-      connections_({.language = [] { return int{Shared().Language}; }}),
+      connections_(
+          store::WithLimitsOfEnvironment({.language = [] { return int{Shared().Language}; }})),
       pages_([] { return Shared().Language == 1; }) {
   surroundings_.Install();
   Surroundings& around = Around();

@@ -1,5 +1,8 @@
 #include "suite/store/connections.h"
 
+#include <charconv>
+#include <cstdlib>
+
 #include "adapters/sqlite/sqlite_session.h"
 #include "platform/basic/errors.h"
 #include "suite/store/schema.h"
@@ -24,7 +27,24 @@ std::unique_ptr<SqliteSession> OpenFolder(const std::string& folder,
   return OpenSqlite(DataFileIn(folder), sqlite);
 }
 
+/// Takes the seconds that a variable holds over into `limit`.
+void TakeLimit(const char* variable, std::chrono::milliseconds& limit) {
+  const char* const set = std::getenv(variable);
+  if (!set) return;
+  const std::string_view text = set;
+  int seconds = 0;
+  const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), seconds);
+  const bool number = failure == std::errc() && end == text.data() + text.size() && seconds >= 0;
+  if (number) limit = std::chrono::seconds(seconds);
+}
+
 }  // namespace
+
+ConnectionOptions WithLimitsOfEnvironment(ConnectionOptions options) {
+  TakeLimit("QVZJ_READ_LIMIT", options.read_limit);
+  TakeLimit("QVZJ_WRITE_LIMIT", options.write_limit);
+  return options;
+}
 
 bool SuiteConnections::OpenConnection(uint8_t kind, data::Connection& connection,
                                       const std::string& path, const std::string& password,

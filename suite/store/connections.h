@@ -22,9 +22,15 @@ struct ConnectionOptions {
   ServerOptions server{};
   /// Seconds to wait for a server that does not answer.
   int login_timeout = 10;
-  /// Seconds a statement may take on a server; 0 = no limit.
-  int statement_timeout = 0;
+  /// How long a statement that reads, or that writes, may take on a server; 0 = without end.
+  std::chrono::milliseconds read_limit{60000};
+  std::chrono::milliseconds write_limit{30000};
 };
+
+/// The options with the limits that the user of the machine has set for statements on servers, in
+/// seconds, 0 for none: QVZJ_READ_LIMIT and QVZJ_WRITE_LIMIT. What is no such number is passed
+/// over.
+ConnectionOptions WithLimitsOfEnvironment(ConnectionOptions options);
 
 /// The suite's connection component: kind 0 is the data file in the folder `path`, which must be
 /// there and is never created here; any other kind is the database server that `path` names (see

@@ -22,7 +22,8 @@ std::unique_ptr<data::Store> OpenServer(const ServerLogin& login,
   odbc.secrets = data::PasswordsIn(login.address);
   odbc.secrets.push_back(login.password);
   odbc.login_timeout = options.login_timeout;
-  odbc.statement_timeout = options.statement_timeout;
+  odbc.read_limit = options.read_limit;
+  odbc.write_limit = options.write_limit;
   odbc.lock_timeout = options.busy_timeout;
   odbc.language = options.language;
   return std::make_unique<OdbcSession>(std::move(odbc));

@@ -136,5 +136,29 @@ TEST_F(ModuleOnAServer, ShowsNothingHalfWhenTheServerDiesUnderARefresh) {
   EXPECT_EQ(form.Grid2.RowCount(), 1);
 }
 
+/// The same with little patience.
+class ModuleOnASlowServer : public ModuleOnAServer {
+ protected:
+  ModuleOnASlowServer() { world_.connections.options.write_limit = std::chrono::seconds(2); }
+};
+
+TEST_F(ModuleOnASlowServer, SaysThatAnEntryWasNotStoredAndKeepsWhatWasKeyed) {
+  frmZj& form = world_.Form();
+  Server().RunAll(database_,
+                  {"create function slow() returns trigger language plpgsql as $$ begin perform "
+                   "pg_sleep(60); return new; end $$",
+                   "create trigger slow before insert on tAccountDetail for each row execute "
+                   "function slow()"});
+  KeyEntry();
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_NE(Errors().find("没有保存"), std::string::npos);
+  EXPECT_EQ(form.txtAcnt2(1).Text(), "A2");
+  EXPECT_EQ(Entries(), "1");
+  Server().Run(database_, "drop trigger slow on tAccountDetail");
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_EQ(Errors(), "");
+  EXPECT_EQ(Entries(), "2");
+}
+
 }  // namespace
 }  // namespace qvzj::test

@@ -147,16 +147,6 @@ TEST_F(OdbcSessions, ReportAServerThatStaysAwayAndWorkOnceItIsBack) {
   EXPECT_EQ(session->Query(kCount).Text(0), "0");
 }
 
-TEST_F(OdbcSessions, EndAStatementThatTakesTooLong) {
-  Open()->Execute(kInsert);
-  store::ConnectionOptions options;
-  options.statement_timeout = 1;
-  auto session = Open(options);
-  const TableHeld held(Open());
-  const std::string text = Failure(*session, "Delete from cards Where fID=5");
-  EXPECT_NE(text.find("statement timeout"), std::string::npos) << text;
-}
-
 TEST_F(OdbcSessions, WaitForAnotherSessionAndThenSaySoAndGoOn) {
   store::ConnectionOptions options;
   options.busy_timeout = std::chrono::milliseconds(100);

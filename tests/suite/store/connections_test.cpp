@@ -57,6 +57,22 @@ TEST(SuiteConnections, AnswersFalseForAFileThatIsNoDatabase) {
   EXPECT_NE(connections.LastError().find("not a database"), std::string::npos);
 }
 
+TEST(ConnectionOptions, TakeTheLimitsOfTheEnvironment) {
+  using std::chrono::seconds;
+  EXPECT_EQ(WithLimitsOfEnvironment({}).read_limit, seconds(60));
+  EXPECT_EQ(WithLimitsOfEnvironment({}).write_limit, seconds(30));
+  setenv("QVZJ_READ_LIMIT", "300", 1);
+  setenv("QVZJ_WRITE_LIMIT", "0", 1);
+  EXPECT_EQ(WithLimitsOfEnvironment({}).read_limit, seconds(300));
+  EXPECT_EQ(WithLimitsOfEnvironment({}).write_limit, seconds(0));
+  for (const char* text : {"", "-1", "5s", "99999999999"}) {
+    setenv("QVZJ_READ_LIMIT", text, 1);
+    EXPECT_EQ(WithLimitsOfEnvironment({}).read_limit, seconds(60)) << text;
+  }
+  unsetenv("QVZJ_READ_LIMIT");
+  unsetenv("QVZJ_WRITE_LIMIT");
+}
+
 TEST(SuiteConnections, OrdersTextsInTheLanguageAskedAtEveryStatement) {
   TemporaryDatabase file;
   file.Open()->NativeScript("insert into tRsBasic(fName) values('王'),('一')");
