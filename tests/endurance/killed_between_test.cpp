@@ -75,7 +75,7 @@ class KilledBetweenTwoStatements : public testing::Test {
   /// What qvdb's check says of the third entry.
   std::string FaultsOfTheEntry() {
     std::string all;
-    check::CheckData(*store_, [&all](const Fault& fault) {
+    check::CheckData(*store_, [&all](const check::Fault& fault) {
       const std::string line = std::string(check::NameOf(fault.kind)) + ": " + fault.text + "\n";
       if (line.find("202402PZ00001") != std::string::npos) all += line;
     });

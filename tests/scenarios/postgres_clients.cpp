@@ -84,8 +84,8 @@ int RunClients(const fs::path& program, const PrivatePostgres& server, const std
 }
 
 /// Prints what differs; the number of differences.
-int Expect(const qvzj::NativeStatements& run, const std::string& what, const std::string& query,
-           int wanted) {
+int Expect(const qvzj::store::NativeStatements& run, const std::string& what,
+           const std::string& query, int wanted) {
   const std::string found = run(query).Text(0);
   if (found == std::to_string(wanted)) return 0;
   std::printf("%s: %s instead of %d\n", what.c_str(), found.c_str(), wanted);
@@ -102,9 +102,9 @@ int Main(const fs::path& program) {
   const std::string database = server.MakeDatabase();
   Fill(server, database);
   int faults = RunClients(program, server, database, folder.Path());
-  const qvzj::ServerLogin login{server.Address(), PrivatePostgres::kUser,
-                                PrivatePostgres::kPassword, database};
-  const auto run = qvzj::OpenNative(1, login, {});
+  const qvzj::store::ServerLogin login{server.Address(), PrivatePostgres::kUser,
+                                       PrivatePostgres::kPassword, database};
+  const auto run = qvzj::store::OpenNative(1, login, {});
   faults += Expect(run, "customer entries", "select count(*) from tAccountDetail where fType1=0",
                    kClients * (kEntries - 1));
   faults +=
@@ -114,10 +114,11 @@ int Main(const fs::path& program) {
                    kClients);
   faults += Expect(run, "sum of the counter-entries",
                    "select sum(fMoneyB)::integer from tAccountDetail where fType1=1", 3 * kClients);
-  qvzj::CheckData(*qvzj::OpenServer(login, {}), [&faults](const qvzj::Fault& fault) {
-    ++faults;
-    std::printf("%s: %s\n", check::NameOf(fault.kind), fault.text.c_str());
-  });
+  qvzj::check::CheckData(
+      *qvzj::store::OpenServer(login, {}), [&faults](const qvzj::check::Fault& fault) {
+        ++faults;
+        std::printf("%s: %s\n", qvzj::check::NameOf(fault.kind), fault.text.c_str());
+      });
   return faults == 0 ? 0 : 1;
 }
 

@@ -31,8 +31,8 @@ void PrepareData(const fs::path& folder, const fs::path& scenario) {
   fs::create_directory(folder);
   qvzj::SqliteOptions options;
   options.create = true;
-  const auto session = qvzj::OpenSqlite((folder / qvzj::kDataFile).string(), options);
-  qvzj::CreateSchema(*session);
+  const auto session = qvzj::OpenSqlite((folder / qvzj::store::kDataFile).string(), options);
+  qvzj::store::CreateSchema(*session);
   session->NativeScript(Content(scenario.parent_path() / "fixture.sql"));
   const fs::path own = Beside(scenario, ".sql");
   if (fs::exists(own)) session->NativeScript(Content(own));
@@ -43,7 +43,7 @@ int Play(const fs::path& program, const fs::path& scenario, const fs::path& fold
          const fs::path& printed) {
   PrepareData(folder / "data", scenario);
   fs::create_directory(folder / "second");
-  std::ofstream(folder / "second" / qvzj::kDataFile).flush();
+  std::ofstream(folder / "second" / qvzj::store::kDataFile).flush();
   WritePropertyStore(folder / "first.json", {"data", "", "", ""});
   WritePropertyStore(folder / "second.json", {"second", "", "", ""});
   TellSecondPlace({"second", "", "", ""});

@@ -11,7 +11,7 @@ int Check(const Words& words, const Streams& streams) {
   RefuseWords(arguments);
   const auto store = store::OpenPlace(PlaceOf(arguments, streams));
   const int64_t faults = check::CheckData(*store, [&](const check::Fault& fault) {
-    streams.out << NameOf(fault.kind) << ": " << fault.text << "\n";
+    streams.out << check::NameOf(fault.kind) << ": " << fault.text << "\n";
   });
   streams.out << (faults == 0 ? "no faults" : std::to_string(faults) + " faults") << "\n";
   return faults > 0 ? 1 : 0;

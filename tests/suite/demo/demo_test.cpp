@@ -46,7 +46,9 @@ TEST(DemoData, ComesOutDifferentlyForAnotherSeed) {
 
 TEST(DemoData, IsWithoutFaults) {
   const auto session = DemoDatabase();
-  EXPECT_EQ(check::CheckData(*session, [](const Fault& fault) { ADD_FAILURE() << fault.text; }), 0);
+  EXPECT_EQ(
+      check::CheckData(*session, [](const check::Fault& fault) { ADD_FAILURE() << fault.text; }),
+      0);
 }
 
 TEST(DemoData, HasEveryKindOfEntry) {

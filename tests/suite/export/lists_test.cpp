@@ -53,7 +53,7 @@ class Lists : public testing::TestWithParam<Case> {
     request.title = grid.offers.title();
     if (grid.offers.totals) request.totals = grid.offers.totals();
     request.path = place.string();
-    const ExportResult result = SuiteExporter().Export(request, format);
+    const ExportResult result = exports::SuiteExporter().Export(request, format);
     EXPECT_EQ(result.rows, grid.RowCount());
     EXPECT_EQ(result.lost_characters, 0);
   }
