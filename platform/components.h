@@ -16,11 +16,11 @@ class Grid;
 
 /// Database access as every component of the suite receives it.
 struct DataAccess {
-  std::string user_path;
-  std::string password;
-  int16_t sql_data = 0;
-  std::string user_id;
-  std::string default_database;
+  std::string user_path;         ///< folder of the data file, or the server's details
+  std::string password;          ///< of the database; never to be shown
+  int16_t sql_data = 0;          ///< 0 data file, otherwise a server
+  std::string user_id;           ///< database user
+  std::string default_database;  ///< on the server
 };
 
 /// What the print component is given, in the order in which it is set (see ledger/print).
@@ -36,41 +36,46 @@ struct PrintJob {
   std::string value13;              ///< 13
   std::string title;                ///< 14
   std::string report;               ///< 15: "qvzj_0", "qvzj_1" or ""
-  int16_t value16 = 1;
-  int16_t value17 = 1;
-  int16_t value18 = 0;
-  int16_t value19 = 0;
-  std::string extra;  ///< 20
+  int16_t value16 = 1;              ///< 16
+  int16_t value17 = 1;              ///< 17
+  int16_t value18 = 0;              ///< 18
+  int16_t value19 = 0;              ///< 19
+  std::string extra;                ///< 20
 };
 
+/// Prints a grid as the suite prints its lists.
 class PrintComponent {
  public:
   virtual ~PrintComponent() = default;
+  /// Returns when the user is done with it. What goes wrong is an exception, whose text the module
+  /// shows.
   virtual void Print(const PrintJob& job) = 0;
 };
 
 /// One call of the user component (`qvUser`): what it is given and what it hands back.
 struct UserCall {
-  static constexpr int16_t kLogin = 4;
-  static constexpr int16_t kRecordAccess = 9;
-  int16_t action = 0;
-  int16_t language = 0;
-  DataAccess access;        ///< its user_path is handed back after a login
-  std::string my_model;     ///< login: the module-rights string
-  std::string rights_file;  ///< login: the rights database
-  std::string comp_name;    ///< in and out
-  std::string user_name;    ///< in and out; still empty after a login that failed
-  int16_t flag = 0;
-  std::string function;  ///< record access: what was opened
-  std::string my_power;  ///< login: in and out, as are the rest
+  static constexpr int16_t kLogin = 4;         ///< who works, and what they may do
+  static constexpr int16_t kRecordAccess = 9;  ///< a function was opened: note it
+  int16_t action = 0;                          ///< one of the two
+  int16_t language = 0;                        ///< 0 simplified, 1 traditional Chinese
+  DataAccess access;                           ///< its user_path is handed back after a login
+  std::string my_model;                        ///< login: the module-rights string
+  std::string rights_file;                     ///< login: the rights database
+  std::string comp_name;                       ///< in and out
+  std::string user_name;  ///< in and out; still empty after a login that failed
+  int16_t flag = 0;       ///< 1 at a login
+  std::string function;   ///< record access: what was opened
+  std::string my_power;   ///< login: in and out, as are the rest
   std::string zg_name;
   std::string login_model;
   std::string login_info;
 };
 
+/// Knows the suite's users and their rights.
 class UserComponent {
  public:
   virtual ~UserComponent() = default;
+  /// Does what `call.action` asks and writes into the call what it hands back.
   virtual void Run(UserCall& call) = 0;
 };
 
@@ -82,16 +87,18 @@ struct TaskCall {
   std::string user_name;
   std::string my_power;
   std::string zg_name;
-  basic::Date date;
-  std::string customer_name;
-  int32_t customer_id = 0;
-  int16_t mode1 = 9;
+  basic::Date date;           ///< today
+  std::string customer_name;  ///< whose records
+  int32_t customer_id = 0;    ///< `fID` of the customer
+  int16_t mode1 = 9;          ///< with mode2: which of its screens
   int16_t mode2 = 0;
 };
 
+/// Keeps the suite's visit records.
 class TaskComponent {
  public:
   virtual ~TaskComponent() = default;
+  /// Shows the records of one customer; returns when the user has closed them.
   virtual void Open(const TaskCall& call) = 0;
 };
 

@@ -18,8 +18,10 @@ class TextMetrics {
   virtual double Width(std::string_view text) const = 0;
 };
 
+/// Where a text stands in its room.
 enum class PrintAlign { Left, Center, Right };
 
+/// One line of text in the room that the layout gives it.
 struct PlacedText {
   double x = 0;      ///< left edge of the room
   double y = 0;      ///< top edge of the line
@@ -27,9 +29,10 @@ struct PlacedText {
   double size = 9;   ///< font size
   PrintAlign align = PrintAlign::Left;
   bool bold = false;
-  std::string text;
+  std::string text;  ///< UTF-8, without line breaks
 };
 
+/// A thin line from one point to another.
 struct PlacedLine {
   double x1, y1, x2, y2;
 };
@@ -40,6 +43,7 @@ struct PlacedFill {
   uint32_t color;
 };
 
+/// What is on one page; fills lie under lines, lines under texts.
 struct Page {
   std::vector<PlacedFill> fills;
   std::vector<PlacedLine> lines;
@@ -53,7 +57,9 @@ using Progress = std::function<bool(int64_t done, int64_t total)>;
 class PageSource {
  public:
   virtual ~PageSource() = default;
+  /// Number of pages.
   virtual int PageCount() const = 0;
+  /// Size of the paper as it is laid.
   virtual double PageWidth() const = 0;
   virtual double PageHeight() const = 0;
   /// Everything on a page, 0-based.
@@ -64,6 +70,7 @@ class PageSource {
 class PageOutput {
  public:
   virtual ~PageOutput() = default;
+  /// Measures with the font that the pages will be painted with.
   virtual const TextMetrics& Metrics() const = 0;
   /// Shows how far the layout is; false when the user cancelled.
   virtual bool ShowProgress(int64_t done, int64_t total) = 0;

@@ -14,22 +14,29 @@ namespace qvzj {
 class Settings {
  public:
   virtual ~Settings() = default;
+  /// The value; `preset` when there is none.
   virtual std::string Get(const std::string& application, const std::string& section,
                           const std::string& key, const std::string& preset) const = 0;
+  /// Puts a value in the place of the one before.
   virtual void Set(const std::string& application, const std::string& section,
                    const std::string& key, const std::string& value) = 0;
 };
 
+/// The text that users copy and paste.
 class Clipboard {
  public:
   virtual ~Clipboard() = default;
+  /// What lies there as UTF-8, line breaks as they came; "" when it is no text.
   virtual std::string Text() const = 0;
+  /// Puts a text there in place of what was.
   virtual void SetText(const std::string& text) = 0;
 };
 
+/// The day on which the module works.
 class Clock {
  public:
   virtual ~Clock() = default;
+  /// The day of the machine's own place.
   virtual basic::Date Today() const = 0;
 };
 
@@ -43,6 +50,7 @@ class AnsiCodec {
   virtual int BytesOf(char32_t character) const = 0;
 };
 
+/// What the module asks of the file system.
 class Files {
  public:
   virtual ~Files() = default;
@@ -56,6 +64,8 @@ class Files {
 class PropertyBag {
  public:
   virtual ~PropertyBag() = default;
+  /// The value kept under `key`, `preset` when there is none. A value that is no number, or leaves
+  /// 16 bits, is an error of ReadInteger.
   virtual std::string ReadText(const std::string& key, const std::string& preset) const = 0;
   virtual int16_t ReadInteger(const std::string& key, int16_t preset) const = 0;
   /// The store may omit a value that equals its preset.

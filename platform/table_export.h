@@ -13,8 +13,9 @@ namespace ui {
 class Grid;
 }
 
+/// What is to be written, and where.
 struct ExportRequest {
-  const ui::Grid* grid = nullptr;
+  const ui::Grid* grid = nullptr;   ///< must be there
   std::vector<int32_t> columns;     ///< the grid's, in their order; empty: all visible ones
   std::string title;                ///< name of the sheet
   std::vector<std::string> totals;  ///< caption, value, caption, value, …; may be empty
@@ -22,9 +23,10 @@ struct ExportRequest {
   Progress progress;                ///< by rows; may be empty
 };
 
+/// What became of it.
 struct ExportResult {
-  bool cancelled = false;  ///< no file was left, an older one stays as it was
-  int64_t rows = 0;
+  bool cancelled = false;       ///< no file was left, an older one stays as it was
+  int64_t rows = 0;             ///< written, headers not counted
   int sheets = 1;               ///< a sheet holds 1,048,575 rows; more go on to further ones
   int64_t lost_characters = 0;  ///< written as "?" because the file's encoding lacks them
 };
@@ -32,6 +34,7 @@ struct ExportResult {
 /// The request's columns, or all visible ones of the grid.
 std::vector<int32_t> ColumnsOf(const ExportRequest& request);
 
+/// Forms of the file: an Excel workbook, or values parted by commas in one of two encodings.
 enum class ExportFormat { Xlsx, CsvUtf8, CsvGb18030 };
 
 /// Writes columns under the headers that the grid shows, without the arrow of the sorted one, and

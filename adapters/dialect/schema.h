@@ -6,6 +6,7 @@
 
 namespace qvzj::dialect {
 
+/// What the values of a column are, as far as a translation depends on it.
 enum class ColumnType : uint8_t {
   Unknown,  ///< no such table or column
   Number,
@@ -17,6 +18,7 @@ enum class ColumnType : uint8_t {
 class Schema {
  public:
   virtual ~Schema() = default;
+  /// Unknown when there is no such table or column.
   virtual ColumnType TypeOf(std::string_view table, std::string_view column) const = 0;
 };
 

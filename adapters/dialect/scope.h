@@ -24,9 +24,11 @@ std::optional<ColumnRef> ColumnAt(const Tokens& tokens, size_t at);
 /// The tables a statement works on, with their aliases.
 class Scope {
  public:
+  /// Reads the tables from the statement's tokens; the schema must outlive it.
   Scope(const Tokens& tokens, const Schema& schema);
   /// Type of the column, looked up in the aliased table or, without an alias, in all of them.
   ColumnType TypeOf(const ColumnRef& ref) const;
+  /// Type of a table's column, whether the statement works on that table or not.
   ColumnType TypeOf(const std::string& table, const std::string& column) const {
     return schema_.TypeOf(table, column);
   }

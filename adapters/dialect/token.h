@@ -8,7 +8,9 @@
 /// ever searched or replaced inside a text literal.
 namespace qvzj::dialect {
 
+/// One piece of a statement.
 struct Token {
+  /// What a piece is.
   enum class Kind {
     Word,       ///< name or keyword, as written
     Bracketed,  ///< [name]

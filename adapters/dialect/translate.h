@@ -15,6 +15,7 @@ struct AddedColumn {
   std::string column;
 };
 
+/// What an engine gets for a statement.
 struct Translation {
   std::string text;                  ///< the statement for the engine
   std::optional<AddedColumn> added;  ///< when the statement adds a column: already there is done

@@ -15,6 +15,7 @@ class OdbcSchema : public dialect::Schema {
   /// Answers the columns of a table, none when there is no such table.
   using Reader = std::function<Columns(const std::string& table)>;
 
+  /// `read` is asked the first time a table is named.
   explicit OdbcSchema(Reader read) : read_(std::move(read)) {}
   dialect::ColumnType TypeOf(std::string_view table, std::string_view column) const override;
   /// Asks again from now on; to be called when a statement has changed the schema.

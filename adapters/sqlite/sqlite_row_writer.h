@@ -9,6 +9,7 @@ namespace qvzj {
 /// nothing is won by gathering them.
 class SqliteRowWriter : public data::RowWriter {
  public:
+  /// An insert statement with a parameter for each column, in their order.
   explicit SqliteRowWriter(SqliteStatement statement) : statement_(std::move(statement)) {}
   void AddRow(std::span<const data::Cell> cells) override;
   void Flush() override {}

@@ -12,6 +12,7 @@ namespace qvzj {
 /// Column types as the data file declares them, asked once a table.
 class SqliteSchema : public dialect::Schema {
  public:
+  /// The connection must outlive it.
   explicit SqliteSchema(sqlite3* database) : database_(database) {}
   dialect::ColumnType TypeOf(std::string_view table, std::string_view column) const override;
   /// Asks again from now on; to be called when a statement has changed the schema.

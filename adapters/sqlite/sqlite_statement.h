@@ -26,8 +26,12 @@ class SqliteStatement {
   /// when only blanks and comments were left.
   static SqliteStatement TakeFrom(sqlite3* database, std::string_view& sql);
 
+  /// True when there was nothing but blanks and comments to prepare; it must not be run then.
   bool Empty() const { return !statement_; }
+  /// Number of parameters.
   int ParameterCount() const;
+  /// Gives a parameter its value for the next run; dates are stored as yyyy-mm-dd. A text is
+  /// copied.
   void BindNull(int parameter);
   void Bind(int parameter, int64_t value);
   void Bind(int parameter, double value);
@@ -38,8 +42,10 @@ class SqliteStatement {
   bool Step();
   /// Runs to the end and makes ready for the next values.
   void Run();
+  /// Gives up the rows that were not read; bound values stay.
   void Reset();
 
+  /// Values of the current row, converted as the engine converts them: null reads 0 or "".
   int64_t Integer(int column) const;
   double Real(int column) const;
   std::string Text(int column) const;

@@ -32,13 +32,18 @@ class Buffer {
   Buffer& operator=(const Buffer&) = delete;
   ~Buffer() { std::free(data_); }
 
+  /// Number of values.
   size_t Size() const { return size_; }
   bool Empty() const { return size_ == 0; }
+  /// The values one after another; the pointer holds until the buffer grows or shrinks.
   T* Data() { return data_; }
   const T* Data() const { return data_; }
+  /// The value at a place below Size(), which is not checked.
   T& operator[](size_t i) { return data_[i]; }
   const T& operator[](size_t i) const { return data_[i]; }
 
+  /// Adds one value, or `count` of them, at the end. Like everything that makes room it throws
+  /// std::bad_alloc when there is none, and the values stay as they were.
   void Append(T value) {
     if (size_ == capacity_) Grow(size_ + 1);
     data_[size_++] = value;
@@ -54,6 +59,7 @@ class Buffer {
     for (size_t i = size_; i < size; ++i) data_[i] = fill;
     size_ = size;
   }
+  /// Makes room for that many values in all.
   void Reserve(size_t capacity) {
     if (capacity > capacity_) SetCapacity(capacity);
   }
@@ -61,6 +67,7 @@ class Buffer {
   void Fit() {
     if (capacity_ > size_) SetCapacity(size_);
   }
+  /// Bytes held, room beyond the size included.
   size_t MemoryBytes() const { return capacity_ * sizeof(T); }
 
  private:

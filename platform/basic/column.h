@@ -17,22 +17,34 @@ namespace qvzj::basic {
 /// showed before). A column of nothing but nulls has the kind Empty.
 class Column {
  public:
-  enum class Kind : uint8_t { Empty, Integer, Real, Date, Text };
+  enum class Kind : uint8_t {
+    Empty,    ///< nothing but nulls
+    Integer,  ///< 32 bits
+    Real,     ///< doubles
+    Date,     ///< days, as serials of 32 bits
+    Text      ///< UTF-8
+  };
 
+  /// What the values are kept as.
   Kind GetKind() const { return kind_; }
+  /// Number of values, nulls included.
   size_t Size() const { return size_; }
+  /// Makes room for that many values of the present kind; nothing while the kind is Empty.
   void Reserve(size_t rows);
   /// Sets the number of values; new ones are null.
   void Resize(size_t rows);
   /// Gives back spare capacity.
   void Fit();
+  /// Bytes held, spare capacity included.
   size_t MemoryBytes() const;
 
+  /// Adds a null, which a column of any kind can hold.
   void AppendNull();
   /// An integer; one outside 32 bits is kept as a real, one a real cannot hold exactly as text.
   void AppendInteger(int64_t value);
   /// A real; what is not a number is kept as null.
   void AppendReal(double value);
+  /// A day.
   void AppendDate(Date value);
   /// Throws OverflowError when the arena passes 4 GiB.
   void AppendText(std::string_view value);
@@ -45,6 +57,7 @@ class Column {
   /// Makes a Real column of whatever it holds, each value as Number() tells it; nulls stay null.
   void MakeReal();
 
+  /// True when the value at `row` (0-based) is null; "" and 0 are values.
   bool IsNull(size_t row) const;
   /// The value joined to the empty text: "" for null, dates as yyyy-mm-dd.
   std::string Text(size_t row) const;
@@ -62,6 +75,7 @@ class Column {
   double* Reals() { return reals_.Data(); }
   /// Raw values of an Integer column (nulls are kNullInteger).
   const int32_t* Integers() const { return integers_.Data(); }
+  /// What stands for null among the values of an Integer column.
   static constexpr int32_t kNullInteger = INT32_MIN;
 
  private:

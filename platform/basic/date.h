@@ -12,7 +12,9 @@ namespace qvzj::basic {
 struct Date {
   int32_t serial = 0;
 
+  /// The day of the Gregorian calendar; it must be a real one, which is not checked (see ParseIso).
   static Date FromYmd(int year, int month, int day);
+  /// Parts of the calendar day: year 100 to 9999, month and day from 1.
   int Year() const;
   int Month() const;
   int Day() const;

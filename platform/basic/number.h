@@ -43,7 +43,9 @@ std::string NumberText(double value);
 /// the cent.
 class Sum {
  public:
+  /// Adds one amount.
   void Add(double value);
+  /// The sum of all amounts added, rounded once.
   double Value() const { return sum_ + lost_; }
 
  private:

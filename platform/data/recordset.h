@@ -14,17 +14,21 @@ namespace qvzj::data {
 /// A forward cursor stands on the first row at the start.
 class Recordset {
  public:
+  /// Columns of one length, each under its name; the cursor stands on the first row.
   Recordset(std::vector<std::string> names, std::vector<basic::Column> columns);
 
   /// Exact number of rows.
   int32_t RecordCount() const { return count_; }
+  /// Fields of a row, 0-based everywhere.
   int FieldCount() const { return static_cast<int>(columns_.size()); }
   /// Name of a field as the statement gave it.
   const std::string& FieldName(int field) const { return names_[static_cast<size_t>(field)]; }
   /// Index of the field of that name, ASCII case ignored. Throws DataError when there is none.
   int FieldIndex(std::string_view name) const;
 
+  /// True behind the last row, and at once when there is none.
   bool Eof() const { return row_ >= count_; }
+  /// Goes to the next row.
   void MoveNext() { ++row_; }
 
   /// Field of the current row (0-based index). Each throws DataError past the last row.

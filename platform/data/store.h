@@ -37,6 +37,7 @@ class RowWriter {
   /// cannot stand in its column, and the row is not taken; DataError when the engine refuses this
   /// row or one taken before.
   virtual void AddRow(std::span<const Cell> cells) = 0;
+  /// The same for values that are written out.
   void Add(std::initializer_list<Cell> cells) { AddRow({cells.begin(), cells.size()}); }
   /// Stores every row taken so far. Throws DataError.
   virtual void Flush() = 0;
@@ -45,6 +46,7 @@ class RowWriter {
 /// A session with what bulk work needs. Every failure is a DataError with the engine's text.
 class Store : public Session {
  public:
+  /// The language of Native().
   virtual Engine Speaks() const = 0;
   /// Runs one statement in the engine's own language and reads its rows.
   virtual Recordset Native(std::string_view sql) = 0;
@@ -55,6 +57,8 @@ class Store : public Session {
                                             const std::vector<std::string_view>& columns) = 0;
   /// Statements from here on take effect together at Commit, or not at all; see Transaction.
   virtual void Begin() = 0;
+  /// Makes what was done since Begin take effect. Throws DataError; its text says when a server was
+  /// lost in the midst of it, so that nobody knows what became of it.
   virtual void Commit() = 0;
   /// Undoes what was done since Begin; also when the connection is lost.
   virtual void Rollback() noexcept = 0;
@@ -72,16 +76,20 @@ class Store : public Session {
 /// Groups statements and rows so that all of them or none take effect; undone unless committed.
 class Transaction {
  public:
+  /// Begins; the store must outlive it.
   explicit Transaction(Store& store);
   ~Transaction();
   Transaction(const Transaction&) = delete;
   Transaction& operator=(const Transaction&) = delete;
 
+  /// The store, for statements that belong to the transaction.
   Store& Within() { return store_; }
   /// Rows to be inserted into a table as part of the transaction; valid until its end.
   RowWriter& Into(std::string_view table, const std::vector<std::string_view>& columns);
   /// Stores the rows that the writers have gathered, so that statements see them.
   void Flush();
+  /// Stores what the writers have gathered and makes everything take effect; they are no longer
+  /// valid. Throws DataError.
   void Commit();
 
  private:
