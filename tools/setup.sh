@@ -33,6 +33,7 @@ test  xvfb                 an X server without a screen, for the test by real ke
 test  poppler-utils        reads PDF files back
 test  unzip                looks into workbooks
 test  xdotool              presses those keys
+test  python3              tools/mutate, and the test of what it changes
 test  postgresql-15        a private server for the tests of the server dialect
 test  odbc-postgresql      the driver through which it is reached
 test  openssl              certificates for connections to it that are encrypted
