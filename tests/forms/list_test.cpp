@@ -24,6 +24,12 @@ TEST_F(PickList, ListsTheStaffByCode) {
   EXPECT_EQ(list.List1.Items(), (Texts{"0001\t张三", "0002\t李四"}));
 }
 
+TEST_F(PickList, ReadsTheStaffByOneStatement) {
+  frmList list;
+  list.Load();
+  EXPECT_EQ(world.Statements(), Texts{"select * from employees order by employcode"});
+}
+
 TEST_F(PickList, SpeaksTheCurrentLanguage) {
   world.control.setLanguage(1);
   frmList list;
