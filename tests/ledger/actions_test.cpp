@@ -6,6 +6,11 @@
 namespace qvzj::test {
 namespace {
 
+/// What keeps an entry whose document CK1 is checked from being deleted.
+constexpr const char* kDocumentChecked =
+    "该相关单号（CK1）已经审核，不可删除。操作取消！\r\n\r\n请在【仓库管理】中，反审核<相关单号>，"
+    "系统自动删除本帐目凭证！";
+
 class EntryActions : public LedgerTest {
  protected:
   bool Act(frmZj& form, int action) {
@@ -92,9 +97,7 @@ TEST_F(EntryActions, LeavesAnEntryOfACheckedDocumentToTheWarehouse) {
                    "fInvSHR<>''"}));
   const auto boxes = world.headless.boxes.TakeShown();
   ASSERT_EQ(boxes.size(), 1u);
-  EXPECT_EQ(boxes[0].text,
-            "该相关单号（CK1）已经审核，不可删除。操作取消！\r\n\r\n请在【仓库管理】中，反审核<"
-            "相关单号>，系统自动删除本帐目凭证！");
+  EXPECT_EQ(boxes[0].text, kDocumentChecked);
   EXPECT_EQ(boxes[0].style, box::kExclamation);
   EXPECT_EQ(Count(), "1");
 }
@@ -105,8 +108,9 @@ TEST_F(EntryActions, FindsACheckedDocumentInTheArchiveToo) {
       "insert into tJXC_CkDj01 (fInvNo,fInvSHR) values ('CK1',null);"
       "insert into tJXC_CkDj_Bak01 (fInvNo,fInvSHR) values ('CK1','王');");
   frmZj& form = Open();
+  world.Answer("ok");  // were the delete to be asked for
   Act(form, 3);
-  EXPECT_EQ(world.Messages().size(), 1u);
+  EXPECT_EQ(world.Messages(), Texts{kDocumentChecked});
   EXPECT_EQ(Count(), "1");
 }
 
@@ -132,8 +136,9 @@ TEST_F(EntryActions, TestsEveryDocumentOfMoneyAccounts) {
   Add({.type1 = 1, .b = "1", .inv = "'CK1'"});
   world.Sql("insert into tJXC_CkDj01 (fInvNo,fInvSHR) values ('CK1','王');");
   frmZj& form = Open(kAccounts);
+  world.Answer("ok");  // were the delete to be asked for
   Act(form, 3);
-  EXPECT_EQ(world.Messages().size(), 1u);
+  EXPECT_EQ(world.Messages(), Texts{kDocumentChecked});
   EXPECT_EQ(Count(), "1");
 }
 

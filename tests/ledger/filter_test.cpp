@@ -116,13 +116,21 @@ TEST_F(LedgerFilter, LeadsFromATickedBoxToItsField) {
 
 TEST_F(LedgerFilter, WalksOnWithEnterAndEndsAtTheRefreshButton) {
   frmZj& form = Open();
-  form.UserFocus(form.txtID(0));
-  form.UserKey(ui::Key::Named(ui::Key::Name::Enter));
-  EXPECT_EQ(form.Focused(), &form.chkID(1));
-  form.UserFocus(form.dtpDate(0));
-  form.UserKey(ui::Key::Named(ui::Key::Name::Enter));
-  EXPECT_EQ(form.Focused(), &form.chkDate(1));
-  form.UserFocus(form.chkVerify(0));
+  ASSERT_TRUE(form.UserFocus(form.chkDate(0)));
+  Texts walked;
+  while (form.Focused() != &form.cmdAcntRefresh && walked.size() < 30) {
+    walked.push_back(form.Focused()->FullName());
+    form.UserKey(ui::Key::Named(ui::Key::Name::Enter));
+  }
+  EXPECT_EQ(walked, (Texts{"chkDate(0)", "dtpDate(0)", "chkDate(1)", "dtpDate(1)", "chkID(0)",
+                           "txtID(0)", "chkID(1)", "txtID(1)", "chkID(2)", "txtID(2)", "chkBrief",
+                           "txtBrief", "chkUser(0)", "txtUser(0)", "chkUser(1)", "txtUser(1)",
+                           "chkUser(2)", "txtUser(2)", "chkVerify(0)"}));
+}
+
+TEST_F(LedgerFilter, JumpsFromTheOtherStateBoxToTheRefreshButtonToo) {
+  frmZj& form = Open();
+  ASSERT_TRUE(form.UserFocus(form.chkVerify(1)));
   form.UserKey(ui::Key::Named(ui::Key::Name::Enter));
   EXPECT_EQ(form.Focused(), &form.cmdAcntRefresh);
 }

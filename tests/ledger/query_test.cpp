@@ -112,16 +112,6 @@ TEST_F(LedgerQuery, GreysCheckedEntriesAndOnlyThose) {
   EXPECT_FALSE(form.Grid2.RowColor(3).has_value());
 }
 
-TEST_F(LedgerQuery, WritesTotalsOf0ForAnEmptyLedgerAndLeavesTheEditor) {
-  frmZj& form = Open();
-  form.txtAcnt2(1).SetText("keep");
-  Load(form);
-  EXPECT_EQ(form.Grid2.RowCount(), 0);
-  for (int i = 0; i < 6; ++i) EXPECT_EQ(Total(form, i), "0.00");
-  EXPECT_EQ(form.txtAcnt2(1).Text(), "keep");
-  EXPECT_TRUE(form.Grid2.Visible());
-}
-
 TEST_F(LedgerQuery, ShowsThePayableSidePositiveOnTheThirdTab) {
   Add({.number = "N1", .a = "100", .b = "30"});
   Add({.type2 = "2", .number = "N2", .a = "50", .b = "20"});
