@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 #include "platform/basic/errors.h"
 
@@ -59,6 +60,16 @@ Scan ScanNumber(std::string_view text) {
   return scan;
 }
 
+// The value of a scanned number; nothing when no double is that large. What is too small is 0.
+std::optional<double> ValueOf(const Scan& scan) {
+  double value = 0;
+  const auto result =
+      std::from_chars(scan.number.data(), scan.number.data() + scan.number.size(), value);
+  const bool out_of_range = result.ec == std::errc::result_out_of_range;
+  if (out_of_range && scan.number.find("e-") == std::string::npos) return std::nullopt;
+  return value;
+}
+
 double RoundHalfEven(double value, double low, double high, const char* type) {
   const double rounded = std::nearbyint(value);  // the default mode rounds half to even
   if (!(rounded >= low && rounded <= high)) {
@@ -102,14 +113,9 @@ double Val(std::string_view text) {
   for (char c : text) {
     if (c != ' ' && c != '\t' && c != '\n' && c != '\r') packed += c;
   }
-  const Scan scan = ScanNumber(packed);
-  double value = 0;
-  const auto result =
-      std::from_chars(scan.number.data(), scan.number.data() + scan.number.size(), value);
-  if (result.ec == std::errc::result_out_of_range && scan.number.find("e-") == std::string::npos) {
-    throw OverflowError(std::string(text));
-  }
-  return value;
+  const std::optional<double> value = ValueOf(ScanNumber(packed));
+  if (!value) throw OverflowError(std::string(text));
+  return *value;
 }
 
 bool IsNumeric(std::string_view text) {
@@ -117,7 +123,7 @@ bool IsNumeric(std::string_view text) {
   if (first == std::string_view::npos) return false;
   text = text.substr(first, text.find_last_not_of(' ') - first + 1);
   const Scan scan = ScanNumber(text);
-  return scan.end > 0 && scan.end == text.size();
+  return scan.end > 0 && scan.end == text.size() && ValueOf(scan).has_value();
 }
 
 int16_t ToInt16(double value) {

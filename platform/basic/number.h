@@ -14,7 +14,7 @@ namespace qvzj::basic {
 double Val(std::string_view text);
 
 /// True when the whole of `text`, without surrounding blanks, is one number (sign, digits,
-/// point, exponent). An empty text is not a number.
+/// point, exponent) that a double can hold. An empty text is not a number.
 bool IsNumeric(std::string_view text);
 
 /// Rounds half to even and converts to 16 bits. Throws OverflowError outside -32768..32767.

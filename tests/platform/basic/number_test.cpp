@@ -49,6 +49,9 @@ TEST(IsNumeric, WantsTheWholeTextToBeOneNumber) {
   EXPECT_FALSE(IsNumeric("12.5 kg"));
   EXPECT_FALSE(IsNumeric("1 2"));
   EXPECT_FALSE(IsNumeric("-"));
+  EXPECT_FALSE(IsNumeric("1e400"));
+  EXPECT_FALSE(IsNumeric("-1e400"));
+  EXPECT_TRUE(IsNumeric("1e-400"));
 }
 
 TEST(Conversion, RoundsHalvesToEven) {
