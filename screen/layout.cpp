@@ -14,12 +14,19 @@ constexpr int32_t kExitWidth = 840;
 constexpr int32_t kCloseWidth = kButton;
 constexpr int32_t kButtonGap = 45;
 
+// Sizes that no window has, as a host's mistake may name them: what is computed from the most stays
+// far within 32 bits.
+constexpr int32_t kMost = 100'000'000;
+
+int32_t InnerWidth(const frmZj& form) { return std::clamp(form.Width(), 0, kMost); }
+int32_t InnerHeight(const frmZj& form) { return std::clamp(form.Height(), 0, kMost); }
+
 // The columns of the form: the register on the left, the ledger on the right of it. A maximised
 // window on a small screen is arranged as if it had the least width and is cut off there.
 struct Columns {
   explicit Columns(const frmZj& form)
-      : width(std::max<int32_t>(form.Width(), kLeastWidth)),
-        height(std::max<int32_t>(form.Height(), 0)),
+      : width(std::max<int32_t>(InnerWidth(form), kLeastWidth)),
+        height(InnerHeight(form)),
         register_width(std::clamp<int32_t>(width * 3 / 10, 4080, 6000)),
         ledger_left(kGap + register_width + kGap),
         ledger_width(width - ledger_left - kGap) {
@@ -53,7 +60,7 @@ void PlaceRegister(frmZj& form, const Columns& at) {
 // starts 5 twips right of that width, starts where the ledger does.
 void PlaceLedger(frmZj& form, const Columns& at) {
   form.SSTab2.SetBounds({at.ledger_left, 0, at.ledger_left - 5, 0});
-  form.Grid2.SetBounds({at.ledger_left, 0, std::max(form.Width() - at.ledger_left - 60, 0), 0});
+  form.Grid2.SetBounds({at.ledger_left, 0, std::max(InnerWidth(form) - at.ledger_left - 60, 0), 0});
   form.fraTotal.SetBounds({at.ledger_left, 0, at.ledger_width, kTotalHeight});
   form.fraFilter.SetBounds({at.ledger_left, 0, at.ledger_width, kFilterHeight});
   ArrangeTotals(form);
@@ -129,7 +136,7 @@ void LayoutEditor(frmZj& form) {
 }
 
 void LayoutLedgerSide(frmZj& form) {
-  const int32_t inner = form.Height();
+  const int32_t inner = InnerHeight(form);
   const int32_t gap = form.fraKhMemo.Visible() ? form.fraKhMemo.GetBounds().height - 60 : 0;
   SetHeight(form.SSTab2, inner - form.SSTab2.GetBounds().top - gap);
   MoveTop(form.fraFilter, inner - form.fraFilter.GetBounds().height - gap - 40);
