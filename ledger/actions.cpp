@@ -138,8 +138,9 @@ bool EntryTextsFit(const frmZj& form) {
 
 std::optional<Commit> PrepareDelete(frmZj& form) {
   const std::string& document = form.txtAcnt2(EntryBox::InvID).Text();
-  if (!NoQuote(document)) return std::nullopt;
-  if (HasDocument(form) && DocumentChecked(form)) {
+  const bool has_document = HasDocument(form);
+  if (has_document && !NoQuote(document)) return std::nullopt;
+  if (has_document && DocumentChecked(form)) {
     Message("该相关单号（" + document + "）已经审核，不可删除。操作取消！" + kTwoLines +
                 "请在【仓库管理】中，反审核<相关单号>，系统自动删除本帐目凭证！",
             box::kExclamation);

@@ -1,7 +1,10 @@
 #include "ledger/editor.h"
 
+#include <algorithm>
+
 #include "ledger/entry.h"
 #include "ledger/fields.h"
+#include "ledger/voucher.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "platform/surroundings.h"
@@ -11,7 +14,6 @@
 #include "screen/keys.h"
 #include "screen/layout.h"
 #include "services/context.h"
-#include "services/numbering.h"
 #include "services/query.h"
 
 namespace qvzj {
@@ -22,12 +24,9 @@ constexpr int32_t kIdStart = 41;
 
 double ItemId(const std::string& item) { return basic::Val(basic::Mid(item, kIdStart)); }
 
-void ProposeNumber(frmZj& form) {
-  form.txtAcnt2(EntryBox::Number)
-      .SetText(NextNumber(form.dtpAcntDate.Value(), form.numberTemplate, kLedgerNumber));
-}
-
+// A currency whose code would break the statement is refused, and the rate stays.
 void ShowRate(frmZj& form) {
+  if (!NoQuote(form.cboHb.Text())) return;
   const std::string rate =
       FirstValue("Select MoneyRate from Moneys where MoneyCode='" + form.cboHb.Text() + "'");
   form.txtHbRate.SetText(basic::FormatFixed(basic::Val(rate), 4));
@@ -55,14 +54,18 @@ void AccountChosen(frmZj& form) {
   form.chkAcntName.SetValue(chosen ? 1 : 0);
 }
 
+void ClearLink(frmZj& form) {
+  form.chkAcntName.SetValue(0);
+  SelectAccountById(form, 0);
+  form.cboAcntName.SetTag("0");
+}
+
 void LinkClicked(frmZj& form) {
-  if (form.chkAcntName.Ticked()) {
-    SelectAccountById(form, basic::ToInt32(basic::Val(LinkedAccountId(form))));
-    form.SetFocus(form.cboAcntName);
-  } else {
-    SelectAccountById(form, 0);
-    form.cboAcntName.SetTag("0");
-  }
+  if (!form.chkAcntName.Ticked()) return ClearLink(form);
+  SelectAccountById(form, basic::ToInt32(basic::Val(LinkedAccountId(form))));
+  form.SetFocus(form.cboAcntName);
+  // Choosing an account there ticks the box: until then nothing is linked.
+  if (form.cboAcntName.ListIndex() < 0) ClearLink(form);
 }
 
 void CheckAmount(ui::TextBox& box, bool& cancel) {
@@ -88,6 +91,8 @@ void ConnectTexts(frmZj& form) {
     ui::TextBox& amount = form.txtAcnt2(i);
     amount.onValidate = [&amount](bool& cancel) { CheckAmount(amount, cancel); };
   }
+  // Not while it is left, as with the date.
+  form.txtAcnt2(EntryBox::Number).onLostFocus = [&form] { ShowNumberUse(form); };
   ConnectKeys(form.txtHbRate, true);
   form.txtHbRate.onValidate = [&form](bool&) { CheckRate(form); };
   ConnectKeys(form.cboDoneMan);
@@ -105,6 +110,18 @@ void ConnectDate(frmZj& form) {
   };
 }
 
+// The first currency whose code may stand in a statement; without one the entry has none.
+void ChooseFirstCurrency(frmZj& form) {
+  const std::vector<std::string>& codes = form.cboHb.Items();
+  if (codes.empty()) return;
+  const auto usable = std::find_if(codes.begin(), codes.end(), [](const std::string& code) {
+    return code.find('\'') == std::string::npos;
+  });
+  if (usable == codes.end()) return form.cboHb.SetListIndex(-1);
+  form.cboHb.SetListIndex(static_cast<int32_t>(usable - codes.begin()));
+  ShowRate(form);
+}
+
 void ClearTexts(frmZj& form) {
   form.txtAcnt2(EntryBox::Number).SetText("");
   form.txtAcnt2(EntryBox::MoneyA).SetText("0.00");
@@ -112,12 +129,6 @@ void ClearTexts(frmZj& form) {
   for (int i = EntryBox::Balance; i <= EntryBox::OrderID; ++i) form.txtAcnt2(i).SetText("");
   form.txtAcnt2(EntryBox::User).SetText(Shared().UserName);
   form.cboDoneMan.SetText("");
-}
-
-void ClearLink(frmZj& form) {
-  form.chkAcntName.SetValue(0);
-  SelectAccountById(form, 0);
-  form.cboAcntName.SetTag("0");
 }
 
 // The register's current record becomes the new entry's.
@@ -208,12 +219,10 @@ bool KeyingNewEntry(const frmZj& form) {
 
 void ResetEntry(frmZj& form) {
   ForgetEntry(form);
+  ForgetNumber(form);
   form.dtpAcntDate.SetValue(Around().clock->Today());
   ClearTexts(form);
-  if (!form.cboHb.Items().empty()) {
-    form.cboHb.SetListIndex(0);
-    ShowRate(form);
-  }
+  ChooseFirstCurrency(form);
   ShowChecker(form, "");
   form.chkAcntInit.SetValue(0);
   if (form.mode != kCustomers) ShowOpeningAmount(form, false);

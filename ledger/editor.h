@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace qvzj {
@@ -20,9 +21,13 @@ void PressAction(frmZj& form, int action);
 bool KeyingNewEntry(const frmZj& form);
 /// Resets the panel for a new entry.
 void ResetEntry(frmZj& form);
-/// Makes `row` the ledger grid's active row and copies it into the panel. The signs that the grid
-/// shows are undone, so that saving unchanged writes back what was read.
+/// The currency of the entry of that id, which the ledger grid does not carry; empty for no value.
+std::optional<std::string> ReadCurrency(const std::string& id);
+/// Makes `row` the ledger grid's active row and copies it into the panel with its currency, which
+/// is read first where it is not given: an entry that cannot be read changes nothing. The signs
+/// that the grid shows are undone, so that saving unchanged writes back what was read.
 void ShowLedgerRow(frmZj& form, int32_t row);
+void ShowLedgerRow(frmZj& form, int32_t row, const std::optional<std::string>& currency);
 /// Offers the actions that fit the entry of a ledger grid row: a checked one can be neither
 /// changed nor deleted, and is unchecked instead of checked.
 void OfferActions(frmZj& form, int32_t row);

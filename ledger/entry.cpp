@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "ledger/columns.h"
+#include "ledger/unchanged.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "screen/current.h"
@@ -102,7 +103,7 @@ EntryTexts EntryToWrite(const frmZj& form) {
   return entry;
 }
 
-void RememberEntry(frmZj& form, int32_t row_number, const std::string* currency) {
+void RememberEntry(frmZj& form, int32_t row_number, const std::optional<std::string>& currency) {
   using enum EntryColumn;
   const EntryTexts shown = EntryInEditor(form);
   const Row row(form, row_number);
@@ -126,20 +127,22 @@ void RememberEntry(frmZj& form, int32_t row_number, const std::string* currency)
       row.Null(col::kRate) ? kNull : StoredNumber(row.Number(col::kRate), shown[MoneyRate]);
   form.entryShown.assign(shown.texts.begin(), shown.texts.end());
   form.entryStored.assign(stored.texts.begin(), stored.texts.end());
+  form.entryRow = EntryRow(form, row_number, currency);
 }
 
 void ForgetEntry(frmZj& form) {
   form.entryShown.clear();
   form.entryStored.clear();
+  form.entryRow.clear();
 }
 
 double UnsignedAmount(const frmZj& form, int32_t column, int32_t row) {
   const ui::Grid& grid = form.Grid2;
   const double shown = grid.Stored(column).Number(grid.StoredRow(row));
   if (shown == 0) return 0;
-  if (column == col::kMoneyA && form.mode != kCustomers) return form.ledgerNegated ? -shown : shown;
-  const bool in = grid.Stored(col::kType2).Number(grid.StoredRow(row)) == 1;
-  return in == (form.SSTab2.Tab() == LedgerTab::Out) ? -shown : shown;
+  const bool opening = column == col::kMoneyA && form.mode != kCustomers;
+  const bool positive = opening || grid.Stored(col::kType2).Number(grid.StoredRow(row)) == 1;
+  return positive == (form.SSTab2.Tab() == LedgerTab::Out) ? -shown : shown;
 }
 
 std::string InsertStatement(const EntryTexts& entry) {

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace qvzj {
@@ -49,9 +50,9 @@ EntryTexts EntryInEditor(const frmZj& form);
 /// What the editor's fields hold, but each field that still shows what it showed when the entry
 /// was loaded as the entry's row holds it.
 EntryTexts EntryToWrite(const frmZj& form);
-/// Remembers the entry of a ledger grid row, just copied into the editor, and its currency (null:
-/// no value) for EntryToWrite.
-void RememberEntry(frmZj& form, int32_t row, const std::string* currency);
+/// Remembers the entry of a ledger grid row, just copied into the editor, and its currency (empty:
+/// no value) for EntryToWrite and EntryUnchanged.
+void RememberEntry(frmZj& form, int32_t row, const std::optional<std::string>& currency);
 /// Forgets the remembered entry: what follows is a new one.
 void ForgetEntry(frmZj& form);
 /// The amount as it is, with the grid's sign (mode, direction, tab in front) undone. `column` is

@@ -31,10 +31,7 @@ void TabClicked(frmZj& form, int previous) {
   WriteAmountHeaders(form);
   // The payable tab shows its side positive; leaving it undoes that.
   if (form.SSTab2.Tab() != LedgerTab::Out && previous != LedgerTab::Out) return;
-  for (int32_t column : {col::kMoneyA, col::kMoneyB, col::kBalance}) {
-    form.Grid2.NegateColumn(column);
-  }
-  form.ledgerNegated = !form.ledgerNegated;
+  NegateAmounts(form.Grid2);
   ui::TextBox& balance = form.txtAcnt2(EntryBox::Balance);
   if (!balance.Text().empty()) {
     balance.SetText(basic::FormatFixed(-basic::Val(balance.Text()), 2));
@@ -64,6 +61,10 @@ void ConnectLedgerGrid(frmZj& form) {
     form.Grid2.SetRowHeight(height);
   };
   form.SSTab2.onClick = [&form](int previous) { TabClicked(form, previous); };
+}
+
+void NegateAmounts(ui::Grid& ledger) {
+  for (int32_t column : {col::kMoneyA, col::kMoneyB, col::kBalance}) ledger.NegateColumn(column);
 }
 
 void WriteAmountHeaders(frmZj& form) {

@@ -12,6 +12,9 @@ struct frmZj;
 void ConnectLedgerGrid(frmZj& form);
 /// Writes the headers of the three amount columns for the mode and the ledger tab in front.
 void WriteAmountHeaders(frmZj& form);
+/// Turns the amounts and balances of the ledger grid into their negations, as coming to the payable
+/// tab and leaving it does.
+void NegateAmounts(ui::Grid& ledger);
 
 /// What a click on a column header does to either grid: orders the rows by the column. A second
 /// click on the same header turns the order; a new column keeps an ascending order, and starts

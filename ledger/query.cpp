@@ -1,10 +1,10 @@
 #include "ledger/query.h"
 
-#include <cmath>
 #include <utility>
 
 #include "ledger/columns.h"
 #include "ledger/editor.h"
+#include "ledger/grid.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/number.h"
 #include "screen/current.h"
@@ -12,6 +12,10 @@
 #include "screen/indexes.h"
 #include "screen/loading.h"
 #include "services/connect.h"
+#include "services/form_texts.h"
+#include "services/messages.h"
+#include "services/strings.h"
+#include "services/text_ids.h"
 
 namespace qvzj {
 namespace {
@@ -23,125 +27,26 @@ constexpr uint32_t kCheckedColor = 0xE0E0E0;
 
 // The selection option as a condition. Selected records without a register search drop every
 // filter on purpose: the whole ledger is listed then.
-std::string WhereText(const frmZj& form, const std::string& condition) {
-  if (form.OptSelect(Selection::Single).Selected())
-    return condition + " And a.fID=" + CurrentRecordId(form);
+std::string WhereText(const frmZj& form, const std::string& condition, const std::string& record) {
+  if (form.OptSelect(Selection::Single).Selected()) return condition + " And a.fID=" + record;
   if (!form.OptSelect(Selection::Searched).Selected()) return condition;
   if (form.registerCondition.empty()) return {};
   return condition + " And " + form.registerCondition;
 }
 
-std::string LedgerStatement(const frmZj& form, const std::string& condition) {
+std::string LedgerStatement(const frmZj& form, const std::string& condition,
+                            const std::string& record) {
   std::string statement =
       "Select b.fDate,b.fAcntNo,a.CompName,b.fMoneyA,b.fMoneyB,0 as hh,b.fBrief,b.fInvID,"
       "b.fOrderID,b.fUser,b.fDoneman,b.fChecker,b.fMoneyRate,b.fType2,b.fInit,b.fCompID,b.fID,"
       "b.fID2 From ";
   statement += form.mode == kCustomers ? "cards a" : "tAccounts a";
   statement += " Right Join tAccountDetail b On b.fCompID=a.fID";
-  const std::string where = WhereText(form, condition);
+  const std::string where = WhereText(form, condition, record);
   if (!where.empty()) statement += " Where " + where;
   statement +=
       form.cboKhOrder.ListIndex() == 0 ? " Order By a.CompCode,a.CompName" : " Order By a.CompName";
   return statement + ",b.fDate,b.fAcntNo";
-}
-
-// Everything one load computes before the grid is touched.
-struct Ledger {
-  std::vector<Column> columns;  // column c of the grid at c - 1
-  basic::Sum a_in, b_in, a_out, b_out;
-
-  Column& At(int32_t column) { return columns[static_cast<size_t>(column - 1)]; }
-  size_t Rows() const { return columns.front().Size(); }
-};
-
-Ledger TakeRows(data::Recordset&& rows) {
-  Ledger ledger;
-  for (int field = 0; field < rows.FieldCount(); ++field) {
-    ledger.columns.push_back(rows.TakeColumn(field));
-    ledger.columns.back().Fit();
-  }
-  return ledger;
-}
-
-bool EmptyText(const Column& column, size_t row) {
-  if (column.IsNull(row)) return true;
-  return column.GetKind() == Column::Kind::Text && column.TextView(row).empty();
-}
-
-// Which direction each row goes, read without a conversion where the engine answered integers.
-class Directions {
- public:
-  explicit Directions(const Column& type2)
-      : type2_(type2),
-        integers_(type2.GetKind() == Column::Kind::Integer ? type2.Integers() : nullptr) {}
-  bool In(size_t row) const { return integers_ ? integers_[row] == 1 : type2_.Number(row) == 1; }
-
- private:
-  const Column& type2_;
-  const int32_t* integers_;
-};
-
-double Amount(const double* amounts, size_t row, const char* name) {
-  if (std::isnan(amounts[row]))
-    throw TypeMismatchError(std::string("Invalid use of Null: ") + name);
-  return amounts[row];
-}
-
-// Amounts that cancel out leave a trace of their binary fractions; it is no balance, and as a
-// negative one it would show in red.
-double Settled(double balance) {
-  constexpr double kTrace = 1e-6;
-  return std::fabs(balance) < kTrace ? 0 : balance;
-}
-
-// Signs the amounts, empties those of 0, runs the balance of each name and sums the totals.
-// Receivables and money in are positive and the other side negative, the other way round on the
-// payable tab; the opening amounts of money accounts keep their sign.
-void SignAndBalance(Ledger& ledger, bool customers, bool payable_tab) {
-  Column& column_a = ledger.At(col::kMoneyA);
-  Column& column_b = ledger.At(col::kMoneyB);
-  Column& column_balance = ledger.At(col::kBalance);
-  column_a.MakeReal();
-  column_b.MakeReal();
-  column_balance = Column();
-  column_balance.MakeReal();
-  column_balance.Resize(ledger.Rows());
-  double* const amounts_a = column_a.Reals();
-  double* const amounts_b = column_b.Reals();
-  double* const balances = column_balance.Reals();
-  const Column& names = ledger.At(col::kName);
-  const Directions directions(ledger.At(col::kType2));
-  const double null = std::nan("");
-
-  basic::Sum balance;
-  for (size_t row = 0; row < ledger.Rows(); ++row) {
-    const bool in = directions.In(row);
-    double a = Amount(amounts_a, row, "fMoneyA");
-    double b = Amount(amounts_b, row, "fMoneyB");
-    (in ? ledger.a_in : ledger.a_out).Add(a);
-    (in ? ledger.b_in : ledger.b_out).Add(b);
-    if (in == payable_tab) {
-      if (customers) a = -a;
-      b = -b;
-    }
-    amounts_a[row] = a != 0 ? a : null;
-    amounts_b[row] = b != 0 ? b : null;
-    const bool same_name = row > 0 && (names.SameValue(row, row - 1) ||
-                                       (EmptyText(names, row) && EmptyText(names, row - 1)));
-    if (!same_name) balance = {};
-    balance.Add(a);
-    balance.Add(customers ? -b : b);
-    balances[row] = Settled(balance.Value());
-  }
-}
-
-// Entries whose register record is gone are listed under the record's id.
-void NameOrphans(Ledger& ledger) {
-  Column& names = ledger.At(col::kName);
-  const Column& ids = ledger.At(col::kCompID);
-  for (size_t row = 0; row < ledger.Rows(); ++row) {
-    if (EmptyText(names, row)) names.SetText(row, "(" + ids.Text(row) + ") - Error");
-  }
 }
 
 // True when a register record is current. Throws TypeMismatchError when the tag is no number.
@@ -152,8 +57,8 @@ bool HasCurrentRecord(const std::string& tag) {
 }
 
 // The row (1-based) of the entry last shown; 1 when it is not there or no record is current.
-int32_t RowToSelect(const frmZj& form, const Column& ids) {
-  if (!HasCurrentRecord(CurrentRecordId(form))) return 1;
+int32_t RowToSelect(const frmZj& form, const Column& ids, const std::string& record) {
+  if (!HasCurrentRecord(record)) return 1;
   const std::string& shown = ShownEntryId(form);
   const bool integers = ids.GetKind() == Column::Kind::Integer;
   const double wanted = basic::Val(shown);
@@ -164,8 +69,9 @@ int32_t RowToSelect(const frmZj& form, const Column& ids) {
   return 1;
 }
 
-void FillGrid(ui::Grid& grid, Ledger& ledger) {
-  const auto rows = static_cast<int32_t>(ledger.Rows());
+void FillGrid(ui::Grid& grid, LedgerRows& ledger, bool negated) {
+  const auto rows = static_cast<int32_t>(ledger.Count());
+  if (rows == 0) return;
   grid.SetRowCount(rows);
   const Column& checkers = ledger.At(col::kChecker);
   for (int32_t row = 1; row <= rows; ++row) {
@@ -174,13 +80,15 @@ void FillGrid(ui::Grid& grid, Ledger& ledger) {
   for (int32_t column = 1; column <= grid.ColumnCount(); ++column) {
     grid.TakeColumn(column, std::move(ledger.At(column)));
   }
+  // What the tab does to a ledger that is there, it does to one that comes in.
+  if (negated) NegateAmounts(grid);
 }
 
 void WriteTotal(frmZj& form, int index, double value) {
   form.txtTotal(index).SetText(basic::FormatFixed(value, 2));
 }
 
-void WriteTotals(frmZj& form, const Ledger& ledger) {
+void WriteTotals(frmZj& form, const LedgerRows& ledger) {
   const double a_in = ledger.a_in.Value();
   const double b_in = ledger.b_in.Value();
   const double a_out = ledger.a_out.Value();
@@ -198,29 +106,69 @@ void WriteTotals(frmZj& form, const Ledger& ledger) {
   }
 }
 
+void ReportMissing(const MissingAmounts& missing) {
+  if (missing.count == 0) return;
+  Message(LoadText(form_text::kMissingAmounts) + std::to_string(missing.count) + "\r\n\r\n" +
+              LoadText(form_text::kFirstOfThem) + LoadText(text_id::kVoucher) + " " +
+              missing.number + "，" + LoadText(text_id::kDate) + " " + missing.date,
+          box::kExclamation);
+}
+
+void ShowSelected(frmZj& form, const ReadyLedger& ledger) {
+  form.Grid2.SetActive(1, ledger.selected);
+  if (KeyingNewEntry(form)) {
+    OfferActions(form, ledger.selected);
+  } else {
+    ShowLedgerRow(form, ledger.selected, ledger.currency);
+  }
+}
+
+void ShowRows(frmZj& form, ReadyLedger& ledger, GridFilling& filling) {
+  WriteTotals(form, ledger.rows);
+  FillGrid(form.Grid2, ledger.rows, form.SSTab2.Tab() == LedgerTab::Out);
+  if (ledger.selected > 0) ShowSelected(form, ledger);
+  filling.Show();
+}
+
 }  // namespace
 
-void LoadLedger(frmZj& form, const std::string& condition) {
-  const bool payable_tab = form.SSTab2.Tab() == LedgerTab::Out;
-  const Hourglass hourglass(form);
-  const GridFilling filling(form.Grid2);
-  WriteTotals(form, {});  // what an error leaves behind goes with the empty grid
-  // Everything that can fail comes before the first cell is filled.
-  Ledger ledger = TakeRows(Data().Open(LedgerStatement(form, condition)));
-  SignAndBalance(ledger, form.mode == kCustomers, payable_tab);
-  NameOrphans(ledger);
-  const int32_t selected = ledger.Rows() > 0 ? RowToSelect(form, ledger.At(col::kID)) : 0;
-  FillGrid(form.Grid2, ledger);
-  form.ledgerNegated = false;
-  WriteTotals(form, ledger);
-  if (selected > 0) {
-    form.Grid2.SetActive(1, selected);
-    if (KeyingNewEntry(form)) {
-      OfferActions(form, selected);
-    } else {
-      ShowLedgerRow(form, selected);
-    }
+ReadyLedger ReadLedger(const frmZj& form, const std::string& condition, const std::string& record) {
+  ReadyLedger ledger;
+  ledger.rows = TakeRows(Data().Open(LedgerStatement(form, condition, record)));
+  if (ledger.rows.Count() == 0) return ledger;
+  ledger.missing = FindMissingAmounts(ledger.rows);
+  if (ledger.missing.count > 0) {
+    ledger.rows = {};
+    return ledger;
   }
+  SignAndBalance(ledger.rows, form.mode == kCustomers);
+  NameOrphans(ledger.rows);
+  const Column& ids = ledger.rows.At(col::kID);
+  ledger.selected = RowToSelect(form, ids, record);
+  if (!KeyingNewEntry(form)) {
+    ledger.currency = ReadCurrency(ids.Text(static_cast<size_t>(ledger.selected - 1)));
+  }
+  return ledger;
+}
+
+void ShowLedger(frmZj& form, ReadyLedger&& ledger) {
+  {
+    GridFilling filling(form.Grid2);
+    ShowRows(form, ledger, filling);
+  }
+  ReportMissing(ledger.missing);
+}
+
+void LoadLedger(frmZj& form, const std::string& condition) {
+  ReadyLedger ledger;
+  {
+    const Hourglass hourglass(form);
+    GridFilling filling(form.Grid2);
+    WriteTotals(form, {});  // what an error leaves behind goes with the empty grid
+    ledger = ReadLedger(form, condition, CurrentRecordId(form));
+    ShowRows(form, ledger, filling);
+  }
+  ReportMissing(ledger.missing);
 }
 
 }  // namespace qvzj

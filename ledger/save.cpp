@@ -5,6 +5,8 @@
 #include "ledger/entry.h"
 #include "ledger/filter.h"
 #include "ledger/query.h"
+#include "ledger/unchanged.h"
+#include "ledger/voucher.h"
 #include "platform/basic/number.h"
 #include "screen/current.h"
 #include "screen/frmZj.h"
@@ -41,6 +43,28 @@ bool CheckEntryThere(const frmZj& form) {
   return false;
 }
 
+void CancelEntry(frmZj& form) {
+  form.picAcnt.SetVisible(false);
+  LayoutEditor(form);
+  form.currentAction = kActionView;
+  form.cmdAcntSave.SetTag(std::to_string(kActionView));
+  LockEntry(form, kActionView);
+  form.SetFocus(form.Grid2);
+  // What was keyed and not saved must not come back with the next look at the entry.
+  ShowLedgerRow(form, form.Grid2.ActiveRow());
+}
+
+// An entry that somebody else has changed since it was shown is listed and shown as it is now. What
+// the ledger does not list any more cannot be acted on.
+bool CheckEntryAsShown(frmZj& form) {
+  if (EntryUnchanged(form)) return true;
+  const std::string id = ShownEntryId(form);
+  LoadLedger(form, LedgerCondition(form));
+  if (form.Grid2.RowCount() == 0 || ShownEntryId(form) != id) CancelEntry(form);
+  ReportChangedMeanwhile();
+  return false;
+}
+
 // A required field is missing: says which and takes the user to it.
 bool Refuse(frmZj& form, const std::string& request, const std::string& what, ui::Control& field) {
   Message(request + " [" + what + "] !", box::kExclamation);
@@ -70,6 +94,7 @@ bool CheckFields(frmZj& form) {
 
 std::optional<Commit> PrepareNew(frmZj& form) {
   if (!CheckFields(form)) return std::nullopt;
+  TakeFreeNumber(form);
   return Commit{{InsertStatement(EntryInEditor(form))}, ":"};
 }
 
@@ -79,7 +104,9 @@ std::optional<Commit> PrepareChange(frmZj& form) {
 }
 
 std::optional<Commit> Prepare(frmZj& form, int action) {
-  if (action != kActionNew && !CheckEntryThere(form)) return std::nullopt;
+  if (action != kActionNew && !(CheckEntryThere(form) && CheckEntryAsShown(form))) {
+    return std::nullopt;
+  }
   switch (action) {
     case kActionNew:
       return PrepareNew(form);
@@ -100,17 +127,6 @@ void Report(const frmZj& form, const Commit& commit) {
   }
   Message(text, box::kInformation,
           form.lblAcntTitle.Caption() + " " + LoadText(text_id::kDone) + "！");
-}
-
-void CancelEntry(frmZj& form) {
-  form.picAcnt.SetVisible(false);
-  LayoutEditor(form);
-  form.currentAction = kActionView;
-  form.cmdAcntSave.SetTag(std::to_string(kActionView));
-  LockEntry(form, kActionView);
-  form.SetFocus(form.Grid2);
-  // What was keyed and not saved must not come back with the next look at the entry.
-  ShowLedgerRow(form, form.Grid2.ActiveRow());
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "ledger/columns.h"
 #include "ledger/editor.h"
 #include "ledger/entry.h"
+#include "ledger/voucher.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "platform/surroundings.h"
@@ -59,16 +60,10 @@ void ShowLink(frmZj& form, int32_t row) {
   SelectAccountById(form, basic::ToInt32(id));
 }
 
-// The entry's own currency and rate, not the currency's present rate. The grid does not carry the
-// currency, so it is read for this one entry.
-void ShowCurrency(frmZj& form, int32_t row) {
-  const data::Recordset entry = Data().Open("Select fMoneyCode from tAccountDetail where fID=" +
-                                            CellText(form, col::kID, row));
-  const bool known = !entry.Eof() && !entry.IsNull(0);
-  const std::string code = known ? entry.Text(0) : "";
-  form.cboHb.SetText(code);
+// The entry's own currency and rate, not the currency's present rate.
+void ShowCurrency(frmZj& form, int32_t row, const std::optional<std::string>& currency) {
+  form.cboHb.SetText(currency.value_or(""));
   form.txtHbRate.SetText(basic::FormatFixed(CellNumber(form, col::kRate, row), 4));
-  RememberEntry(form, row, known ? &code : nullptr);
 }
 
 void ShowTitle(frmZj& form) {
@@ -77,9 +72,20 @@ void ShowTitle(frmZj& form) {
 
 }  // namespace
 
+std::optional<std::string> ReadCurrency(const std::string& id) {
+  const data::Recordset entry =
+      Data().Open("Select fMoneyCode from tAccountDetail where fID=" + id);
+  if (entry.Eof() || entry.IsNull(0)) return std::nullopt;
+  return entry.Text(0);
+}
+
 void ShowLedgerRow(frmZj& form, int32_t row) {
   if (row < 1 || row > form.Grid2.RowCount()) return;
-  ForgetEntry(form);
+  ShowLedgerRow(form, row, ReadCurrency(CellText(form, col::kID, row)));
+}
+
+void ShowLedgerRow(frmZj& form, int32_t row, const std::optional<std::string>& currency) {
+  ForgetNumber(form);
   form.Grid2.SetActive(form.Grid2.ActiveColumn(), row);
   ShowDate(form, row);
   const bool in = CellNumber(form, col::kType2, row) == 1;
@@ -98,7 +104,8 @@ void ShowLedgerRow(frmZj& form, int32_t row) {
   ShowChecker(form, CellText(form, col::kChecker, row));
   form.chkAcntInit.SetTag(CellText(form, col::kID, row));
   form.cmdAcntCancel.SetTag(CellText(form, col::kNumber, row));
-  ShowCurrency(form, row);
+  ShowCurrency(form, row, currency);
+  RememberEntry(form, row, currency);
   OfferActions(form, row);
   ShowTitle(form);
   const int armed = ArmedAction(form);

@@ -1,5 +1,8 @@
 #include "register/detail.h"
 
+#include <utility>
+
+#include "ledger/unchanged.h"
 #include "platform/basic/number.h"
 #include "platform/surroundings.h"
 #include "register/table.h"
@@ -55,21 +58,33 @@ void OpenContact(const frmZj& form) {
 
 }  // namespace
 
+data::RowTexts ReadRegisterDetail(const frmZj& form, const std::string& id) {
+  if (!basic::IsNumeric(id) || basic::Val(id) == 0) return {};
+  return data::TextsOfRow(
+      Data().Open("select a.detail from " + RegisterTable(form) + " a Where a.fID=" + id));
+}
+
+void ShowRegisterDetail(frmZj& form, data::RowTexts&& detail) {
+  form.txtKhMemo.SetText(detail.empty() ? "" : detail.front().value_or(""));
+  form.detailRow = std::move(detail);
+}
+
 void LoadRegisterDetail(frmZj& form, const std::string& id) {
-  if (!basic::IsNumeric(id) || basic::Val(id) == 0) {
-    form.txtKhMemo.SetText("");
-    return;
-  }
-  data::Recordset rows =
-      Data().Open("select a.detail from " + RegisterTable(form) + " a Where a.fID=" + id);
-  form.txtKhMemo.SetText(rows.Eof() ? "" : rows.Text(0));
+  ShowRegisterDetail(form, ReadRegisterDetail(form, id));
 }
 
 void SaveRegisterDetail(frmZj& form) {
-  const std::string& id = CurrentRecordId(form);
+  const std::string id = CurrentRecordId(form);
   if (basic::Val(id) == 0) return;
+  data::RowTexts stored = ReadRegisterDetail(form, id);
+  if (stored != form.detailRow) {
+    ShowRegisterDetail(form, std::move(stored));
+    ReportChangedMeanwhile();
+    return;
+  }
   Data().Execute("Update " + RegisterTable(form) + " set detail='" + form.txtKhMemo.Text() +
                  "' Where fID=" + id);
+  form.detailRow = {form.txtKhMemo.Text()};
   Message(form.lblKhMemo.Caption() + " [" + form.lblKhName.Caption() + "] 修改完毕 ！",
           box::kPlain);
 }

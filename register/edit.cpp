@@ -5,6 +5,7 @@
 
 #include "ledger/captions.h"
 #include "ledger/fields.h"
+#include "ledger/unchanged.h"
 #include "register/grid.h"
 #include "register/list.h"
 #include "register/table.h"
@@ -27,6 +28,34 @@ struct Commit {
   std::string statement;
   std::string name;
 };
+
+void EmptyRecord(frmZj& form) {
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetText("");
+}
+
+void LockRecord(frmZj& form, bool locked) {
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetLocked(locked);
+}
+
+void ShowRecordButtons(frmZj& form, bool visible) {
+  form.cmdKhSave.SetVisible(visible);
+  form.cmdKhCancel.SetVisible(visible);
+}
+
+// The boxes show the register's row again, or nothing where there is none.
+void ShowRecord(frmZj& form) {
+  if (form.Grid1.ActiveRow() > 0) {
+    ShowRegisterRow(form, form.Grid1.ActiveRow());
+  } else {
+    EmptyRecord(form);
+  }
+}
+
+// Nothing is armed: a second press cannot repeat what was done.
+void DisarmRecord(frmZj& form) {
+  ShowRecordButtons(form, false);
+  LockRecord(form, true);
+}
 
 std::string TypeCode(const frmZj& form) {
   for (int type = 1; type <= 3; ++type) {
@@ -82,15 +111,42 @@ std::string UpdateStatement(const frmZj& form) {
   return "Update " + RegisterTable(form) + " Set " + sets + " Where fID=" + CurrentRecordId(form);
 }
 
+// A quote would break the statement that the box's text is put into.
+bool TextsFit(const frmZj& form) {
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) {
+    if (!NoQuote(form.txtAcnt(i).Text())) return false;
+  }
+  return true;
+}
+
+bool RecordUnchanged(const frmZj& form) {
+  std::string columns;
+  for (int i = 0; i < form.lblAcnt.Count(); ++i) columns += "a." + form.lblAcnt(i).Tag() + ",";
+  const std::string statement = "select " + columns + "a.fType0 from " + RegisterTable(form) +
+                                " a Where a.fID=" + CurrentRecordId(form);
+  return data::TextsOfRow(Data().Open(statement)) == form.recordRow;
+}
+
+// A record that somebody else has changed since it was shown is listed and shown as it is now, and
+// the action is given up.
+bool RecordIsAsShown(frmZj& form) {
+  if (RecordUnchanged(form)) return true;
+  DisarmRecord(form);
+  LoadRegister(form, form.registerCondition);
+  ReportChangedMeanwhile();
+  return false;
+}
+
 std::optional<Commit> Add(const frmZj& form) {
   const std::string name = form.txtAcnt(RecordBox::Name).Text();
-  if (!RequiredAreFilled(form) || !Confirmed("新增", name)) return {};
+  if (!RequiredAreFilled(form) || !TextsFit(form) || !Confirmed("新增", name)) return {};
   return Commit{InsertStatement(form), name};
 }
 
-std::optional<Commit> Change(const frmZj& form) {
+std::optional<Commit> Change(frmZj& form) {
   const std::string name = form.lblKhName.Caption();
-  if (!RequiredAreFilled(form) || !RecordIsChosen(form) || !Confirmed("修改", name)) return {};
+  if (!RequiredAreFilled(form) || !TextsFit(form) || !RecordIsChosen(form)) return {};
+  if (!RecordIsAsShown(form) || !Confirmed("修改", name)) return {};
   return Commit{UpdateStatement(form), name};
 }
 
@@ -117,8 +173,8 @@ std::string WhatRefersTo(const frmZj& form, const std::string& id) {
   return "";
 }
 
-std::optional<Commit> Delete(const frmZj& form) {
-  if (!RecordIsChosen(form)) return {};
+std::optional<Commit> Delete(frmZj& form) {
+  if (!RecordIsChosen(form) || !RecordIsAsShown(form)) return {};
   const std::string id = CurrentRecordId(form);
   const std::string name = form.lblKhName.Caption();
   const std::string refusal = WhatRefersTo(form, id);
@@ -130,7 +186,7 @@ std::optional<Commit> Delete(const frmZj& form) {
   return Commit{"Delete from " + RegisterTable(form) + " Where fID=" + id, name};
 }
 
-std::optional<Commit> Prepare(const frmZj& form) {
+std::optional<Commit> Prepare(frmZj& form) {
   switch (ArmedRecordAction(form)) {
     case RecordAction::Add:
       return Add(form);
@@ -142,34 +198,6 @@ std::optional<Commit> Prepare(const frmZj& form) {
       // The empty statement is refused by the connection and reported as an error.
       return Commit{};
   }
-}
-
-void EmptyRecord(frmZj& form) {
-  for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetText("");
-}
-
-void LockRecord(frmZj& form, bool locked) {
-  for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetLocked(locked);
-}
-
-void ShowRecordButtons(frmZj& form, bool visible) {
-  form.cmdKhSave.SetVisible(visible);
-  form.cmdKhCancel.SetVisible(visible);
-}
-
-// The boxes show the register's row again, or nothing where there is none.
-void ShowRecord(frmZj& form) {
-  if (form.Grid1.ActiveRow() > 0) {
-    ShowRegisterRow(form, form.Grid1.ActiveRow());
-  } else {
-    EmptyRecord(form);
-  }
-}
-
-// Nothing is armed: a second press cannot repeat what was done.
-void DisarmRecord(frmZj& form) {
-  ShowRecordButtons(form, false);
-  LockRecord(form, true);
 }
 
 // Arms `action` (RecordAction) on the record page.

@@ -1,6 +1,8 @@
 #include "register/grid.h"
 
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "ledger/editor.h"
 #include "ledger/filter.h"
@@ -11,13 +13,51 @@
 #include "screen/current.h"
 #include "screen/frmZj.h"
 #include "screen/indexes.h"
+#include "screen/loading.h"
 
 namespace qvzj {
 namespace {
 
-void SelectType(frmZj& form, double type) {
-  const uint8_t code = basic::ToByte(type);
-  form.optKhType(code < form.optKhType.Count() ? code : 0).Select();
+// The option of the type code in a row; the first one for codes that none stands for, and in money
+// accounts. Throws OverflowError for what is no byte.
+int TypeInRow(const frmZj& form, int32_t row) {
+  if (form.mode != kCustomers) return CustomerType::Both;
+  const uint8_t code = basic::ToByte(form.Grid1.CellNumber(form.Grid1.ColumnCount() - 1, row));
+  return code < form.optKhType.Count() ? int{code} : int{CustomerType::Both};
+}
+
+std::string IdInRow(const frmZj& form, int32_t row) {
+  return basic::NumberText(form.Grid1.CellNumber(form.Grid1.ColumnCount(), row));
+}
+
+// The row as the database answered it, the id left out.
+data::RowTexts RecordInRow(const frmZj& form, int32_t row) {
+  const ui::Grid& grid = form.Grid1;
+  const size_t stored = grid.StoredRow(row);
+  data::RowTexts texts;
+  for (int32_t column = 1; column < grid.ColumnCount(); ++column) {
+    const basic::Column& values = grid.Stored(column);
+    texts.push_back(values.IsNull(stored) ? std::nullopt : std::optional(values.Text(stored)));
+  }
+  return texts;
+}
+
+// The detail of a record that is about to become the current one; nothing while the frame is shut.
+std::optional<data::RowTexts> DetailToShow(const frmZj& form, const std::string& id) {
+  if (!form.fraKhMemo.Visible()) return std::nullopt;
+  return ReadRegisterDetail(form, id);
+}
+
+void ShowRecord(frmZj& form, int32_t row, std::optional<data::RowTexts>&& detail) {
+  const int type = TypeInRow(form, row);
+  for (int i = 0; i < form.txtAcnt.Count(); ++i) {
+    form.txtAcnt(i).SetText(form.Grid1.CellText(i + 1, row));
+  }
+  if (form.mode == kCustomers) form.optKhType(type).Select();
+  form.lblKhName.SetCaption(form.txtAcnt(RecordBox::Name).Text());
+  form.lblKhName.SetTag(IdInRow(form, row));
+  form.recordRow = RecordInRow(form, row);
+  if (detail) ShowRegisterDetail(form, std::move(*detail));
 }
 
 // The header that was clicked bears an arrow, every other one its plain caption.
@@ -48,25 +88,29 @@ void CarryIntoEntry(frmZj& form) {
     form.optType2(Direction::In).Select();
 }
 
+// Whatever can fail comes first: a record whose detail or ledger cannot be read does not become the
+// current one, and everything on the screen goes on naming the one before.
 void EnterRow(frmZj& form, int32_t row, int32_t new_row) {
   if (new_row == row || new_row < 1) return;
-  ShowRegisterRow(form, new_row);
+  const std::string id = IdInRow(form, new_row);
+  std::optional<data::RowTexts> detail;
+  std::optional<ReadyLedger> ledger;
+  {
+    const Hourglass hourglass(form);
+    detail = DetailToShow(form, id);
+    if (form.OptSelect(Selection::Single).Selected()) {
+      ledger = ReadLedger(form, LedgerCondition(form), id);
+    }
+  }
+  ShowRecord(form, new_row, std::move(detail));
   if (EntryIsKeyed(form)) CarryIntoEntry(form);
-  if (form.OptSelect(Selection::Single).Selected()) LoadLedger(form, LedgerCondition(form));
+  if (ledger) ShowLedger(form, std::move(*ledger));
 }
 
 }  // namespace
 
 void ShowRegisterRow(frmZj& form, int32_t row) {
-  const ui::Grid& grid = form.Grid1;
-  for (int i = 0; i < form.txtAcnt.Count(); ++i) {
-    form.txtAcnt(i).SetText(grid.CellText(i + 1, row));
-  }
-  const int32_t id_column = grid.ColumnCount();
-  if (form.mode == kCustomers) SelectType(form, grid.CellNumber(id_column - 1, row));
-  form.lblKhName.SetCaption(form.txtAcnt(RecordBox::Name).Text());
-  form.lblKhName.SetTag(basic::NumberText(grid.CellNumber(id_column, row)));
-  if (form.fraKhMemo.Visible()) LoadRegisterDetail(form, CurrentRecordId(form));
+  ShowRecord(form, row, DetailToShow(form, IdInRow(form, row)));
 }
 
 void ConnectRegisterGrid(frmZj& form) {

@@ -16,6 +16,7 @@
 #include "screen/keys.h"
 #include "screen/loading.h"
 #include "services/connect.h"
+#include "services/query.h"
 
 namespace qvzj {
 namespace {
@@ -146,6 +147,8 @@ void ReorderLists(frmZj& form) {
 void ConnectRegisterList(frmZj& form) {
   form.cmdAcntRefresh.onClick = [&form] { LoadRegister(form, form.registerCondition); };
   form.cboHb2.onClick = [&form] {
+    // A code that would break the statement is no filter.
+    if (!NoQuote(form.cboHb2.Text())) form.cboHb2.SetListIndex(-1);
     if (form.cboHb2.Enabled()) LoadRegister(form, form.registerCondition);
   };
   form.cboKhOrder.onClick = [&form] { ReorderLists(form); };

@@ -26,6 +26,14 @@ std::string SearchPattern(const std::string& text) {
   return pattern.empty() ? "%" : pattern;
 }
 
+// A quote in a row that is asked for would break every statement that the condition goes into.
+bool SearchTextsFit(const frmZj& form) {
+  for (int i = 0; i < form.chkSeek.Count(); ++i) {
+    if (form.chkSeek(i).Ticked() && !NoQuote(form.txtSeek(i).Text())) return false;
+  }
+  return true;
+}
+
 void ConnectSearchRow(frmZj& form, int i) {
   ui::CheckBox& check = form.chkSeek(i);
   ui::TextBox& text = form.txtSeek(i);
@@ -51,9 +59,11 @@ std::string BuildRegisterCondition(const frmZj& form) {
   return condition;
 }
 
-void SearchRegister(frmZj& form) {
+bool SearchRegister(frmZj& form) {
+  if (!SearchTextsFit(form)) return false;
   form.registerCondition = BuildRegisterCondition(form);
   LoadRegister(form, form.registerCondition);
+  return true;
 }
 
 void ConnectRegisterSearch(frmZj& form) {

@@ -11,6 +11,7 @@ void ConnectRegisterSearch(frmZj& form);
 /// The search frame as a condition on the register table (alias `a`); never empty.
 std::string BuildRegisterCondition(const frmZj& form);
 /// Stores the search frame's condition as the form's register condition and reloads the register.
-void SearchRegister(frmZj& form);
+/// False, after a warning and with nothing changed, when a text of a ticked row holds a quote.
+bool SearchRegister(frmZj& form);
 
 }  // namespace qvzj

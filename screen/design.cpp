@@ -192,6 +192,10 @@ void ResetLedger(frmZj& form) {
   form.lblAcntTitle.SetCaption("");
   form.entryShown.clear();
   form.entryStored.clear();
+  form.entryRow.clear();
+  form.proposedNumber.clear();
+  form.lblNumberUse.SetVisible(false);
+  form.lblAcnt2(EntryBox::Checker).SetVisible(true);
   form.chkAcntInit.SetTag("0");
   form.cboAcntName.SetTag("0");
   form.cmdAcntSave.SetTag("0");
@@ -243,6 +247,8 @@ void ForgetRecord(frmZj& form) {
   form.lblKhName.SetTag("0");
   for (int i = 0; i < form.txtAcnt.Count(); ++i) form.txtAcnt(i).SetText("");
   form.txtKhMemo.SetText("");
+  form.recordRow.clear();
+  form.detailRow.clear();
 }
 
 void ResetForm(frmZj& form) {

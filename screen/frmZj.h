@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/data/row_texts.h"
 #include "platform/ui/array.h"
 #include "platform/ui/form.h"
 #include "platform/ui/grid.h"
@@ -51,14 +52,18 @@ struct frmZj : ui::Form {
   std::string registerCondition;    ///< set by the register search, "" until then
   int currentAction = kActionView;  ///< index of the action button pressed last
   int16_t printKind = 0;            ///< 1 ledger, 0 register
-  /// True while the ledger's amounts stand negated since they were loaded (the payable tab came to
-  /// the front, or left it).
-  bool ledgerNegated = false;
   /// The entry that was loaded into the editor, column by column as the texts of a statement: what
   /// the editor showed of it, and what the row really holds. A field that still shows what it
   /// showed is written back as the row holds it. Empty for a new entry.
   std::vector<std::string> entryShown;
   std::vector<std::string> entryStored;
+  /// What the rows in the database held when they were shown, field by field: the entry's in the
+  /// editor (empty for a new entry), the current record's, and that record's detail. A save reads
+  /// them again and writes nothing over what somebody else has changed meanwhile.
+  data::RowTexts entryRow;
+  data::RowTexts recordRow;
+  data::RowTexts detailRow;
+  std::string proposedNumber;  ///< voucher number last proposed for a new entry, "" for none
 
   // Left: order, register, record page, search.
   ui::Frame fraOrder{*this, "fraOrder"};
@@ -95,6 +100,7 @@ struct frmZj : ui::Form {
   ui::Frame picAcnt{*this, "picAcnt"};
   ui::Label lblAcntTitle{*this, "lblAcntTitle", -1, &picAcnt};
   ui::Array<ui::Label> lblAcnt2{*this, "lblAcnt2", 0, 11, &picAcnt};  ///< tag 6..9: column name
+  ui::Label lblNumberUse{*this, "lblNumberUse", -1, &picAcnt};  ///< who else bears a typed number
   ui::DatePicker dtpAcntDate{*this, "dtpAcntDate", -1, &picAcnt};
   ui::Array<ui::TextBox> txtAcnt2{*this, "txtAcnt2", 1, 9, &picAcnt};
   ui::Frame fraType2{*this, "fraType2", -1, &picAcnt};

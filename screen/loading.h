@@ -21,23 +21,30 @@ class Hourglass {
   const ui::MousePointer before_;
 };
 
-/// A grid is emptied and out of sight while this lives, for whoever fills it; a work that fails
-/// half-way leaves it in sight again.
+/// A grid is emptied and out of sight until it is whole, for whoever fills it; a work that fails
+/// half-way leaves it empty and in sight.
 class GridFilling {
  public:
   explicit GridFilling(ui::Grid& grid) : grid_(grid) {
     grid_.SetRowCount(0);
     grid_.SetVisible(false);
   }
-  ~GridFilling() { Show(); }
+  ~GridFilling() {
+    if (!whole_) grid_.SetRowCount(0);
+    grid_.SetVisible(true);
+  }
   GridFilling(const GridFilling&) = delete;
   GridFilling& operator=(const GridFilling&) = delete;
 
-  /// The grid is whole: shows it before the end of the scope.
-  void Show() { grid_.SetVisible(true); }
+  /// The grid is whole.
+  void Show() {
+    whole_ = true;
+    grid_.SetVisible(true);
+  }
 
  private:
   ui::Grid& grid_;
+  bool whole_ = false;
 };
 
 }  // namespace qvzj

@@ -123,6 +123,8 @@ void ArrangeEntryHead(frmZj& form, const EntryColumns& column) {
   const int32_t checker = column.width[1] - kName - 100;
   Place(form.lblSHR, column.left[1] + kName + 50, kTop + 45, checker, 300);
   Place(form.fraSHR, column.left[1] + kName, kTop, checker + 100, kButton);
+  // Who is keyed or changed has no checker yet: the place is free then.
+  Place(form.lblNumberUse, column.left[1], kTop, column.width[1], kButton);
   constexpr int32_t kWide = 1125;
   Place(form.cmdAcntSave, column.Right() - 2 * kWide - kGap, kTop, kWide, kButton);
   Place(form.cmdAcntCancel, column.Right() - kWide, kTop, kWide, kButton);

@@ -28,6 +28,17 @@ inline constexpr BothTexts kTypeRule = {"<供销商>可任意归入\n\n----<供�
                                         "<供銷商>可任意歸入\n\n----<供應商> <銷售商> <代銷商>"};
 inline constexpr BothTexts kCurrency = {"币种", "幣種"};
 inline constexpr BothTexts kRate = {"汇率", "匯率"};
+/// Around the number of entries that bear a typed voucher number.
+inline constexpr BothTexts kNumberUse = {"已有 ", "已有 "};
+inline constexpr BothTexts kNumberUseEnd = {" 笔用此票号", " 筆用此票號"};
+inline constexpr BothTexts kChangedMeanwhile = {
+    "该帐目已被他人修改或审核，现已重新显示，请核对后再操作！",
+    "該帳目已被他人修改或審核，現已重新顯示，請核對後再操作！"};
+/// Before the number of entries without an amount, and before the voucher of the first one.
+inline constexpr BothTexts kMissingAmounts = {
+    "帐目金额为空，无法列出帐目，请先更正数据！空金额帐目笔数: ",
+    "帳目金額為空，無法列出帳目，請先更正數據！空金額帳目筆數: "};
+inline constexpr BothTexts kFirstOfThem = {"第一笔: ", "第一筆: "};
 inline constexpr BothTexts kNoTaskComponent = {"联系记录组件 [qvTask] 未安装 !",
                                                "聯系記錄組件 [qvTask] 未安裝 !"};
 

@@ -9,6 +9,7 @@
 #include "platform/basic/text.h"
 #include "services/connect.h"
 #include "services/context.h"
+#include "services/query.h"
 
 namespace qvzj {
 namespace {
@@ -87,6 +88,7 @@ std::string NextNumber(basic::Date date, std::string& templ, int16_t kind) {
   if (width == 0) return "";
 
   const std::string stem = StemOf(std::string_view(templ).substr(0, fixed), date);
+  if (!NoQuote(stem)) return "";
   std::string first = stem + std::string(width - 1, '0') + "1";
   if (kind == kFirstNumber) return first;
   const auto greatest = GreatestCounter(CounterStatement(stem, width, kind));

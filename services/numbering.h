@@ -15,7 +15,8 @@ inline constexpr int16_t kFirstNumber = -1;
 inline constexpr int16_t kLedgerNumber = 51;
 
 /// The next free document number of `templ` (upper-cased in place) on `date`: the highest counter
-/// in use under the same stem plus one. "" when the template does not end in "X". The number is
+/// in use under the same stem plus one. "" when the template does not end in "X", and, after a
+/// warning, when it holds a single quote. The number is
 /// proposed, not reserved.
 std::string NextNumber(basic::Date date, std::string& templ, int16_t kind);
 

@@ -233,6 +233,11 @@ TEST_F(EntryEditor, CannotLinkACheckedEntry) {
 TEST_F(EntryEditor, FormatsAmountsWhenTheyAreLeft) {
   frmZj& form = Open();
   form.UserClick(form.cmdAction(1));
+  for (const char* no_number : {"1e400", "-1e999"}) {
+    world.Type(form.txtAcnt2(4), no_number);
+    form.UserKey(Key::Named(Key::Name::Enter));
+    EXPECT_EQ(form.txtAcnt2(4).Text(), "0.00") << no_number;
+  }
   world.Type(form.txtAcnt2(3), "abc");
   form.SendTab();
   EXPECT_EQ(form.txtAcnt2(3).Text(), "0.00");
@@ -440,6 +445,28 @@ TEST_F(EntryEditor, LinksTheAccountThatTheUserChooses) {
   EXPECT_EQ(form.cboAcntName.ListIndex(), -1);
   form.UserClick(form.chkAcntName);
   EXPECT_EQ(form.Focused(), &form.cboAcntName);
+}
+
+TEST_F(EntryEditor, LinksNothingWhileNoAccountIsChosen) {
+  frmZj& form = Open();
+  form.UserClick(form.cmdAction(1));
+  form.UserClick(form.chkAcntName);
+  EXPECT_EQ(form.Focused(), &form.cboAcntName);
+  EXPECT_EQ(form.chkAcntName.Value(), 0);
+  EXPECT_EQ(form.cboAcntName.Tag(), "0");
+  form.UserChoose(form.cboAcntName, 0);
+  EXPECT_EQ(form.chkAcntName.Value(), 1);
+}
+
+TEST_F(EntryEditor, UnlinksAnAccountThatIsGoneWhenItsMarkIsTakenOffAndPutBack) {
+  Add({.a = "1", .id2 = "9"});
+  frmZj& form = Open();
+  form.UserClick(form.cmdAction(2));
+  EXPECT_EQ(form.chkAcntName.Value(), 1);
+  form.UserClick(form.chkAcntName);
+  form.UserClick(form.chkAcntName);
+  EXPECT_EQ(form.chkAcntName.Value(), 0);
+  EXPECT_EQ(form.cboAcntName.Tag(), "0");
 }
 
 TEST_F(EntryEditor, ChoosesAnAccountByItsIdOnly) {

@@ -1,5 +1,7 @@
 #include "ledger/query.h"
 
+#include <array>
+
 #include "tests/ledger/ledger_world.h"
 
 namespace qvzj::test {
@@ -125,15 +127,15 @@ TEST_F(LedgerQuery, ShowsThePayableSidePositiveOnTheThirdTab) {
   EXPECT_EQ(Total(form, 3), "50.00");
 }
 
-TEST_F(LedgerQuery, KeepsTheSignOfOpeningAmountsOnTheThirdTab) {
+TEST_F(LedgerQuery, TurnsOpeningAmountsAndBalancesRoundOnTheThirdTabAsComingToItDoes) {
   Add({.type1 = 1, .number = "N1", .init = "1", .a = "500"});
   Add({.type1 = 1, .number = "N2", .b = "30"});
   frmZj& form = Open(kAccounts);
   form.UserTab(form.SSTab2, 2);
   Load(form);
-  EXPECT_EQ(Column(form, col::kMoneyA), (Texts{"500.00", ""}));
+  EXPECT_EQ(Column(form, col::kMoneyA), (Texts{"-500.00", ""}));
   EXPECT_EQ(Column(form, col::kMoneyB), (Texts{"", "-30.00"}));
-  EXPECT_EQ(Column(form, col::kBalance), (Texts{"500.00", "470.00"}));
+  EXPECT_EQ(Column(form, col::kBalance), (Texts{"-500.00", "-530.00"}));
 }
 
 TEST_F(LedgerQuery, SumsManySmallAmountsToTheCent) {
@@ -261,19 +263,71 @@ TEST_F(LedgerQuery, FailsOnACurrentRecordThatIsNoNumberAndShowsTheGridAgain) {
   EXPECT_TRUE(form.Grid2.Visible());
 }
 
-TEST_F(LedgerQuery, FailsOnANullAmountAndLeavesNoHalfFilledGrid) {
+TEST_F(LedgerQuery, SaysWhichAmountsAreMissingAndLeavesTheLedgerEmpty) {
   Add({.number = "N1", .a = "1"});
-  Add({.number = "N2", .b = "null"});
-  frmZj& form = Open(kAccounts);
-  world.Sql("update tAccountDetail set fType1=1;");
-  form.UserClick(form.OptSelect(0));
-  EXPECT_EQ(world.headless.boxes.TakeErrors(),
-            Texts{"Type mismatch: Invalid use of Null: fMoneyB"});
+  Add({.date = "2024-03-02", .number = "N2", .b = "null"});
+  Add({.date = "2024-03-03", .number = "N3", .a = "null", .b = "null"});
+  frmZj& form = Open();
+  EXPECT_EQ(world.Messages(),
+            Texts{"帐目金额为空，无法列出帐目，请先更正数据！空金额帐目笔数: 2\r\n\r\n"
+                  "第一笔: 票号 N2，日期 2024-03-02"});
+  EXPECT_TRUE(world.headless.boxes.TakeErrors().empty());
   EXPECT_EQ(form.Grid2.RowCount(), 0);
   EXPECT_TRUE(form.Grid2.Visible());
-  world.Sql("update tAccountDetail set fMoneyB=2 where fMoneyB is null;");
+  EXPECT_EQ(Total(form, 0), "0.00");
+  world.Sql("update tAccountDetail set fMoneyA=2,fMoneyB=2 where fMoneyB is null;");
   form.UserClick(form.OptSelect(0));
-  EXPECT_EQ(form.Grid2.RowCount(), 2);
+  EXPECT_EQ(form.Grid2.RowCount(), 3);
+  EXPECT_TRUE(world.Messages().empty());
+}
+
+TEST_F(LedgerQuery, SaysInTraditionalChineseWhichAmountsAreMissing) {
+  Shared().Language = 1;
+  Add({.number = "N2", .b = "null"});
+  Open();
+  EXPECT_EQ(world.Messages(),
+            Texts{"帳目金額為空，無法列出帳目，請先更正數據！空金額帳目筆數: 1\r\n\r\n"
+                  "第一筆: 票號 N2，日期 2024-03-01"});
+}
+
+TEST_F(LedgerQuery, LetsTheUserWalkPastARecordWithAMissingAmount) {
+  Add({.comp = 1, .number = "N1", .a = "null"});
+  Add({.comp = 2, .number = "N2", .a = "5"});
+  frmZj& form = Open();
+  world.Messages();
+  form.UserCell(form.Grid1, 2, 2);
+  EXPECT_EQ(Column(form, col::kNumber), Texts{"N2"});
+  form.UserCell(form.Grid1, 2, 1);
+  EXPECT_EQ(form.lblKhName.Caption(), "甲公司");
+  EXPECT_EQ(form.Grid2.RowCount(), 0);
+  EXPECT_EQ(Total(form, 0), "0.00");
+  EXPECT_EQ(world.Messages().size(), 1u);
+}
+
+TEST_F(LedgerQuery, ComesBackToTheSameAmountsFromThePayableTabWhereverItWasLoaded) {
+  for (const int16_t mode : {kCustomers, kAccounts}) {
+    world.Sql("delete from tAccountDetail;");
+    Add({.type1 = mode, .number = "N1", .init = "1", .a = "10000"});
+    Add({.type1 = mode, .number = "N2", .b = "300"});
+    Add({.type1 = mode, .type2 = "2", .number = "N3", .b = "1500"});
+    frmZj& form = Open(mode);
+    const auto amounts = [&] {
+      return std::array{Column(form, col::kMoneyA), Column(form, col::kMoneyB),
+                        Column(form, col::kBalance)};
+    };
+    const auto shown = amounts();
+    form.UserTab(form.SSTab2, 2);
+    const auto negated = amounts();
+    Load(form);
+    EXPECT_EQ(amounts(), negated) << mode;
+    form.UserTab(form.SSTab2, 0);
+    EXPECT_EQ(amounts(), shown) << mode;
+    form.UserTab(form.SSTab2, 2);
+    form.UserTab(form.SSTab2, 1);
+    Load(form);
+    EXPECT_EQ(amounts(), shown) << mode;
+    form.UserClose();
+  }
 }
 
 TEST_F(LedgerQuery, ShowsTheEnginesErrorForAStatementItRefusesAndNoOldTotals) {

@@ -160,5 +160,74 @@ TEST_F(ModuleOnASlowServer, SaysThatAnEntryWasNotStoredAndKeepsWhatWasKeyed) {
   EXPECT_EQ(Entries(), "2");
 }
 
+TEST_F(ModuleOnAServer, WritesNothingOverWhatSomebodyElseHasCheckedMeanwhile) {
+  frmZj& form = world_.Form();
+  form.UserClick(form.cmdAction(2));
+  world_.Type(form.txtAcnt2(3), "7");
+  Server().Run(database_, "update tAccountDetail set fChecker='乙'");
+  world_.Messages();
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_EQ(Errors(), "");
+  EXPECT_EQ(world_.Messages(),
+            std::vector<std::string>{"该帐目已被他人修改或审核，现已重新显示，请核对后再操作！"});
+  EXPECT_EQ(form.txtAcnt2(3).Text(), "10.00");
+  EXPECT_EQ(form.lblSHR.Caption(), "乙");
+}
+
+TEST_F(ModuleOnAServer, SavesAnEntryThatNobodyElseHasTouchedWhateverItsRowHolds) {
+  frmZj& form = world_.Form();
+  for (const char* row :
+       {"fMoneyA=0.1::float8+0.2::float8,fMoneyB=1e15::float8/3,fMoneyRate=1::float8/3",
+        "fBrief=null,fInvID=null,fUser=null,fDoneman=null,fChecker=null,fMoneyCode=null,"
+        "fMoneyRate=null,fID2=null,fInit=null",
+        "fDate='2024-02-29',fBrief='两 行 ',fType2=2,fMoneyA=-5,fID2=3"}) {
+    Server().Run(database_, std::string("update tAccountDetail set ") + row);
+    form.UserClick(form.cmdAcntRefresh);
+    form.UserClick(form.cmdAction(2));
+    world_.Messages();
+    form.UserClick(form.cmdAcntSave);
+    EXPECT_EQ(Errors(), "") << row;
+    EXPECT_EQ(world_.Messages(), std::vector<std::string>{"[票号:A1]"}) << row;
+  }
+}
+
+TEST_F(ModuleOnAServer, WritesNoRecordAndNoDetailOverSomebodyElses) {
+  frmZj& form = world_.Form();
+  form.UserClick(form.mnuKhManage(2));
+  world_.Type(form.txtAcnt(6), "江苏");
+  Server().Run(database_, "update cards set telphone='999'");
+  world_.Messages();
+  form.UserClick(form.cmdKhSave);
+  EXPECT_EQ(world_.Messages().size(), 1u);
+  EXPECT_EQ(form.txtAcnt(9).Text(), "999");
+  form.UserClick(form.cmdKhMemo);
+  world_.Type(form.txtKhMemo, "月结");
+  Server().Run(database_, "update cards set detail='现款'");
+  form.UserClick(form.cmdSave);
+  EXPECT_EQ(world_.Messages().size(), 1u);
+  EXPECT_EQ(form.txtKhMemo.Text(), "现款");
+  world_.Type(form.txtKhMemo, "月结");
+  form.UserClick(form.cmdSave);
+  EXPECT_EQ(Errors(), "");
+  form.UserClick(form.mnuKhManage(2));
+  world_.Answer("ok");
+  form.UserClick(form.cmdKhSave);
+  EXPECT_EQ(Errors(), "");
+  EXPECT_EQ(world_.Messages().back(), "甲公司:客户修改执行完毕！");
+}
+
+TEST_F(ModuleOnAServer, TakesTheNextNumberWhenTheProposedOneIsTakenMeanwhile) {
+  frmZj& form = world_.Form();
+  form.UserClick(form.cmdAction(1));
+  form.UserKey(ui::Key::Named(ui::Key::Name::Enter));
+  ASSERT_EQ(form.txtAcnt2(1).Text(), "202403PZ00001");
+  Server().Run(database_, "insert into tAccountDetail (fAcntNo,fType1) values ('202403pz00001',5)");
+  world_.Type(form.txtAcnt2(3), "5");
+  world_.Messages();
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_EQ(Errors(), "");
+  EXPECT_EQ(world_.Messages(), std::vector<std::string>{"[票号:202403PZ00002]"});
+}
+
 }  // namespace
 }  // namespace qvzj::test

@@ -111,6 +111,20 @@ TEST_F(Plans, FindTheCounterEntriesOfAnEntryThroughTheIndex) {
   ExpectServedBy("Delete from tAccountDetail Where fType1=1 and fID2=7", step);
 }
 
+TEST_F(Plans, CountTheEntriesOfAVoucherNumberThroughTheIndex) {
+  const char* step = "iLedgerNumber (fAcntNo=?)";
+  ExpectServedBy("select count(*) from tAccountDetail Where fAcntNo='200303PZ00001'", step);
+  ExpectServedBy("select count(*) from tAccountDetail Where fAcntNo='200303PZ00001' And fID<>7",
+                 step);
+}
+
+TEST_F(Plans, ReadAnEntryAgainByItsId) {
+  ExpectServedBy(
+      "Select fDate,fCompID,fType2,fAcntNo,fInit,fMoneyA,fMoneyB,fBrief,fInvID,fOrderID,fUser,"
+      "fDoneman,fChecker,fID2,fMoneyCode,fMoneyRate from tAccountDetail where fID=7",
+      "SEARCH tAccountDetail USING INTEGER PRIMARY KEY (rowid=?)");
+}
+
 TEST_F(Plans, CountWhatHangsOnARecordThroughIndexes) {
   ExpectServedBy("select count(*) from tAccountDetail Where fCompID=5 And fType1=0",
                  "iLedgerRecord (fCompID=? AND fType1=?)");
