@@ -41,13 +41,9 @@ void SettleField(frmZj& form) {
 void OpenNamedCustomer(frmZj& form) {
   LoadForm(form);
   SettleField(form);
-  form.lblKhName.SetTag(std::to_string(Shared().myTaskID));
   form.txtSeek(1).SetText(Shared().myName);
   form.chkSeek2.SetValue(0);
-  // A name that cannot be asked for leaves the search as it was; the record is found by its id.
-  form.Guard([&form] {
-    if (!SearchRegister(form)) LoadRegister(form, form.registerCondition);
-  });
+  form.Guard([&form] { SearchRecord(form, std::to_string(Shared().myTaskID)); });
 }
 
 // The host turns an open form to the other register: it starts up anew for that one, and closes

@@ -81,11 +81,11 @@ int32_t RowOfRecord(const basic::Column& ids, const std::string& tag) {
 }
 
 // Moves the records into the grid, whole columns at a time. Answers the row to select.
-int32_t FillRegister(frmZj& form, data::Recordset rows) {
+int32_t FillRegister(frmZj& form, data::Recordset rows, const std::string& record) {
   ui::Grid& grid = form.Grid1;
   grid.SetRowCount(rows.RecordCount());
   const int id_field = rows.FieldCount() - 1;
-  const int32_t selected = RowOfRecord(rows.ColumnAt(id_field), CurrentRecordId(form));
+  const int32_t selected = RowOfRecord(rows.ColumnAt(id_field), record);
   for (int32_t column = 1; column <= grid.ColumnCount(); ++column) {
     grid.TakeColumn(column, rows.TakeColumn(column - 1));
   }
@@ -102,11 +102,15 @@ void ClearSortArrows(frmZj& form) {
 }  // namespace
 
 void LoadRegister(frmZj& form, const std::string& condition) {
+  LoadRegister(form, condition, CurrentRecordId(form));
+}
+
+void LoadRegister(frmZj& form, const std::string& condition, const std::string& record) {
   const Hourglass hourglass(form);
   ui::Grid& grid = form.Grid1;
   GridFilling filling(grid);
   ClearSortArrows(form);
-  const int32_t selected = FillRegister(form, OpenRegister(form, condition));
+  const int32_t selected = FillRegister(form, OpenRegister(form, condition), record);
   if (grid.RowCount() > 0) {
     grid.SetActive(2, selected);
     ShowRegisterRow(form, selected);

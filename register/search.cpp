@@ -59,11 +59,15 @@ std::string BuildRegisterCondition(const frmZj& form) {
   return condition;
 }
 
-bool SearchRegister(frmZj& form) {
-  if (!SearchTextsFit(form)) return false;
+void SearchRegister(frmZj& form) {
+  if (!SearchTextsFit(form)) return;
   form.registerCondition = BuildRegisterCondition(form);
   LoadRegister(form, form.registerCondition);
-  return true;
+}
+
+void SearchRecord(frmZj& form, const std::string& record) {
+  if (SearchTextsFit(form)) form.registerCondition = BuildRegisterCondition(form);
+  LoadRegister(form, form.registerCondition, record);
 }
 
 void ConnectRegisterSearch(frmZj& form) {

@@ -11,7 +11,10 @@ void ConnectRegisterSearch(frmZj& form);
 /// The search frame as a condition on the register table (alias `a`); never empty.
 std::string BuildRegisterCondition(const frmZj& form);
 /// Stores the search frame's condition as the form's register condition and reloads the register.
-/// False, after a warning and with nothing changed, when a text of a ticked row holds a quote.
-bool SearchRegister(frmZj& form);
+/// Nothing but a warning when a text of a ticked row holds a quote.
+void SearchRegister(frmZj& form);
+/// The same on the record of id `record`, which is looked for under the former condition when a
+/// text may not be asked for.
+void SearchRecord(frmZj& form, const std::string& record);
 
 }  // namespace qvzj

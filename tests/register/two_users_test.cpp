@@ -181,6 +181,17 @@ TEST_F(FailedRowChange, GoesOnOnceTheCauseIsGone) {
   EXPECT_EQ(form.Grid2.RowCount(), 0);
 }
 
+TEST_F(FailedRowChange, KeepsTheRecordWhenTheOneThatTheHostNamesCannotBeSearched) {
+  frmZj& form = OpenWithDetail();
+  world.Sql("Alter Table cards Rename Column fax To gone;");
+  world.control.setMyTaskID(3);
+  world.control.refresh(9, 0);
+  EXPECT_EQ(world.headless.boxes.TakeErrors().size(), 1u);
+  EXPECT_EQ(form.lblKhName.Caption(), "北方贸易");
+  EXPECT_EQ(CurrentRecordId(form), "1");
+  EXPECT_EQ(form.txtKhMemo.Text(), "老客户");
+}
+
 TEST_F(FailedRowChange, LeavesAnEmptyListWhenAReloadFails) {
   frmZj& form = OpenWithDetail();
   world.Sql("Alter Table cards Rename Column detail To gone;");
