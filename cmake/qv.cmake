@@ -15,21 +15,25 @@ if(QV_CCACHE)
 endif()
 
 add_library(qv_flags INTERFACE)
-target_include_directories(qv_flags INTERFACE ${PROJECT_SOURCE_DIR})
-target_compile_options(qv_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+# A host that links an installed copy needs the headers and the language, not our warnings.
+target_include_directories(qv_flags INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+                                              $<INSTALL_INTERFACE:include/qvzj>)
+target_compile_features(qv_flags INTERFACE cxx_std_20)
+target_compile_options(qv_flags INTERFACE
+  "$<BUILD_INTERFACE:-Wall;-Wextra;-Wpedantic;-Wconversion>")
 if(QV_WERROR)
-  target_compile_options(qv_flags INTERFACE -Werror)
+  target_compile_options(qv_flags INTERFACE $<BUILD_INTERFACE:-Werror>)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # Up to version 12, joining a literal and a text warns falsely when it is optimised (GCC 105651).
-  target_compile_options(qv_flags INTERFACE -Wno-restrict)
+  target_compile_options(qv_flags INTERFACE $<BUILD_INTERFACE:-Wno-restrict>)
 endif()
 if(QV_SANITIZE)
-  target_compile_options(qv_flags INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
-                                            -fno-sanitize-recover=all)
+  target_compile_options(qv_flags INTERFACE
+    "$<BUILD_INTERFACE:-fsanitize=address,undefined;-fno-omit-frame-pointer;-fno-sanitize-recover=all>")
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # What the sanitizers insert makes it doubt initialised members of <regex> (GCC 105562).
-    target_compile_options(qv_flags INTERFACE -Wno-maybe-uninitialized)
+    target_compile_options(qv_flags INTERFACE $<BUILD_INTERFACE:-Wno-maybe-uninitialized>)
   endif()
   target_link_options(qv_flags INTERFACE -fsanitize=address,undefined)
 endif()
@@ -43,7 +47,7 @@ function(qv_library name dir)
     add_library(${name} STATIC ${sources} ${headers})
     target_link_libraries(${name} PUBLIC qv_flags ${ARG_LINKS})
   else()
-    add_library(${name} INTERFACE)
+    add_library(${name} INTERFACE ${headers})
     target_link_libraries(${name} INTERFACE qv_flags ${ARG_LINKS})
   endif()
 endfunction()
