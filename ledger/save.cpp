@@ -8,6 +8,7 @@
 #include "ledger/unchanged.h"
 #include "ledger/voucher.h"
 #include "platform/basic/number.h"
+#include "platform/data/errors.h"
 #include "screen/current.h"
 #include "screen/frmZj.h"
 #include "screen/indexes.h"
@@ -129,6 +130,21 @@ void Report(const frmZj& form, const Commit& commit) {
           form.lblAcntTitle.Caption() + " " + LoadText(text_id::kDone) + "！");
 }
 
+// Runs the statements. False, after saying so, when another program has brought the counter-entry
+// since the ledger was looked at: the table takes no second one, for money would be booked twice.
+bool Run(const frmZj& form, const Commit& commit) {
+  try {
+    for (const std::string& statement : commit.statements) Data().Execute(statement);
+    return true;
+  } catch (const data::ConstraintError& error) {
+    if (!commit.counter_entry || error.Broken() != data::Rule::Unique) throw;
+    Message("[" + form.chkAcntName.Caption() +
+                "凭证] 已经存在，可能他人刚刚审核了本帐目！\r\n\r\n没有重复产生，请核对！",
+            box::kExclamation);
+    return false;
+  }
+}
+
 }  // namespace
 
 void ConnectSave(frmZj& form) {
@@ -141,8 +157,7 @@ void SaveEntry(frmZj& form) {
   if (action == kActionView) return;
   const std::optional<Commit> commit = Prepare(form, action);
   if (!commit) return;
-  for (const std::string& statement : commit->statements) Data().Execute(statement);
-  Report(form, *commit);
+  if (Run(form, *commit)) Report(form, *commit);
   LoadLedger(form, LedgerCondition(form));
   if (action == kActionNew) {
     ResetEntry(form);

@@ -9,6 +9,7 @@
 #include "platform/data/store.h"
 #include "suite/copy/compare.h"
 #include "suite/copy/lots.h"
+#include "suite/store/counter_index.h"
 #include "suite/store/tables.h"
 
 namespace qvzj::copy {
@@ -67,8 +68,8 @@ class Copy {
 
  private:
   void CompareColumns(const store::Table& table) {
-    std::vector<std::string> columns = store::ColumnsOf(source_, table);
-    const std::vector<std::string> there = store::ColumnsOf(target_, table);
+    std::vector<std::string> columns = store::ColumnsOf(source_, table.name);
+    const std::vector<std::string> there = store::ColumnsOf(target_, table.name);
     for (const std::string& column : columns) {
       const bool found = std::any_of(there.begin(), there.end(), [&](const std::string& name) {
         return basic::EqualIgnoringCase(name, column);
@@ -85,6 +86,9 @@ class Copy {
   void Begin() {
     if (!data::HasTable(target_, kNote)) {
       RefuseRows();
+      // Rows that are wrong in the source arrive as they are; mending them is not a copy's
+      // business.
+      if (!store::DoubledCounterEntries(source_).empty()) store::UnguardCounterEntries(target_);
       data::Transaction transaction(target_);
       target_.Native(std::string("create table ") + kNote +
                      " (fSource text, fTable text, fLast bigint, fRows bigint)");

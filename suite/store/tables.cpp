@@ -21,9 +21,8 @@ std::span<const Table> Tables() {
   return tables;
 }
 
-std::vector<std::string> ColumnsOf(data::Store& store, const Table& table) {
-  const data::Recordset none =
-      store.Native("select * from " + std::string(table.name) + " where 1=0");
+std::vector<std::string> ColumnsOf(data::Store& store, const std::string& table) {
+  const data::Recordset none = store.Native("select * from " + table + " where 1=0");
   std::vector<std::string> names;
   for (int field = 0; field < none.FieldCount(); ++field) names.push_back(none.FieldName(field));
   return names;

@@ -25,7 +25,7 @@ struct Table {
 std::span<const Table> Tables();
 
 /// Names of a table's columns as the engine writes them. Throws DataError when there is none.
-std::vector<std::string> ColumnsOf(data::Store& store, const Table& table);
+std::vector<std::string> ColumnsOf(data::Store& store, const std::string& table);
 
 /// "a,b,c".
 std::string Joined(const std::vector<std::string>& names);

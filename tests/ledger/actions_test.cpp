@@ -266,6 +266,22 @@ TEST_F(EntryActions, LetsTheCheckStandWhenTheCounterEntryFails) {
 
 // Uncheck.
 
+TEST_F(EntryActions, BringsNoSecondCounterEntryWhoeverBroughtTheFirst) {
+  const std::string id = Add({.b = "8", .id2 = "2"});
+  frmZj& form = Open();
+  // Another program books the counter-entry between the look at the ledger and the insert.
+  world.Sql(
+      "create trigger other after update of fChecker on tAccountDetail when new.fChecker<>'' begin"
+      " insert into tAccountDetail (fCompID,fType1,fID2,fMoneyB) values (2,1,new.fID,8); end;");
+  EXPECT_TRUE(Act(form, 4));
+  EXPECT_EQ(world.One("select count(*) from tAccountDetail where fType1=1 and fID2=" + id), "1");
+  EXPECT_EQ(
+      world.Messages(),
+      (Texts{"[资金帐户凭证] 已经存在，可能他人刚刚审核了本帐目！\r\n\r\n没有重复产生，请核对！"}));
+  EXPECT_TRUE(world.headless.boxes.TakeErrors().empty());
+  EXPECT_EQ(form.lblSHR.Caption(), "admin") << "the ledger is shown as it is now";
+}
+
 TEST_F(EntryActions, UnchecksAnEntryAfterAQuestion) {
   const std::string id = Add({.number = "N1", .a = "1", .checker = "'王'"});
   frmZj& form = Open();

@@ -37,9 +37,10 @@ constexpr const char* kUsage = R"(qvdb - makes, fills, checks and copies the dat
       --add-currencies        adds currencies that the table lacks instead of refusing the row
       --dry-run               tries everything and keeps nothing
 
-  qvdb check
+  qvdb check [--mend]
       Looks for orphans, missing amounts, counter-entries out of step with their customer
-      entries, and voucher numbers borne twice.
+      entries, and voucher numbers borne twice. --mend adds what an older database lacks so
+      that it refuses a second counter-entry of an entry, or says which rows stand against it.
 
   qvdb copy SOURCE TARGET [--anew]
       Copies all tables with their record ids and compares both sides value by value. SOURCE and

@@ -122,6 +122,7 @@ TEST_F(CheckDataTest, AskForNoCounterEntryWhereNothingWasPaid) {
 }
 
 TEST_F(CheckDataTest, FindsTwoCounterEntriesOfOneEntry) {
+  Run("drop index iLedgerCounter");
   Insert("3,'2024-03-01',1,1,1,'202403PZ00001',0,0,100,'',1,'RMB',1");
   EXPECT_EQ(Faults(), "counter-entry: entry 1 has 2 counter-entries: 2, 3\n");
 }

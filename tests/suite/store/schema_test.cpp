@@ -6,6 +6,9 @@
 #include <fstream>
 #include <iterator>
 
+#include "platform/data/errors.h"
+#include "tests/suite/store/database.h"
+
 namespace qvzj::store {
 namespace {
 
@@ -37,6 +40,19 @@ TEST(Schema, ForTransactSqlServersIsTheOneInTheDocuments) {
   }
   std::ifstream in(file);
   EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), TransactSqlFile());
+}
+
+TEST(Schema, GivesACustomerEntryOneCounterEntryAndLinksToAccountsAsOftenAsWanted) {
+  const auto session = test::EmptyDatabase();
+  session->NativeScript(
+      "insert into tAccountDetail (fType1,fID2) values (0,5),(0,5),(9,5),(1,0),(1,0),(1,null),"
+      "(1,null),(1,5)");
+  try {
+    session->NativeScript("insert into tAccountDetail (fType1,fID2) values (1,5)");
+    FAIL() << "a second counter-entry";
+  } catch (const data::ConstraintError& error) {
+    EXPECT_EQ(error.Broken(), data::Rule::Unique);
+  }
 }
 
 TEST(Schema, HasTheSameStatementsForEveryServer) {

@@ -137,6 +137,35 @@ TEST_F(QvdbTest, CheckExitsWithOneWhereItFindsFaults) {
   EXPECT_EQ(out_, "orphan: entry 999 (N): there is no customer 77\n1 faults\n");
 }
 
+TEST_F(QvdbTest, CheckMendsADatabaseThatTakesASecondCounterEntry) {
+  Run({"demo", "--entries", "200", "--customers", "5"});
+  const auto open = [this] { return OpenSqlite(Data() + "/" + store::kDataFile, {}); };
+  const char* const second =
+      "insert into tAccountDetail (fType1,fID2) select fType1,fID2 from "
+      "tAccountDetail where fType1=1 and fID2>0 limit 1";
+  open()->NativeScript("drop index iLedgerCounter");
+  EXPECT_EQ(Run({"check"}), 0);
+  EXPECT_NO_THROW(open()->NativeScript(std::string("begin; ") + second + "; rollback"));
+  EXPECT_EQ(Run({"check", "--mend"}), 0) << err_;
+  EXPECT_EQ(out_, "no entry can get a second counter-entry\nno faults\n");
+  EXPECT_THROW(open()->NativeScript(second), DataError);
+}
+
+TEST_F(QvdbTest, CheckSaysWhichRowsStandAgainstItsMending) {
+  Run({"init"});
+  const std::string file = Data() + "/" + store::kDataFile;
+  OpenSqlite(file, {})->NativeScript(
+      "drop index iLedgerCounter;"
+      "insert into tAccountDetail (fID,fType1,fID2) values (7,1,5),(9,1,5),(10,1,6)");
+  EXPECT_EQ(Run({"check", "--mend"}), 1);
+  EXPECT_NE(out_.find("second counter-entries cannot be refused yet: entry 5 has 2 "
+                      "counter-entries: 7, 9\n"),
+            std::string::npos)
+      << out_;
+  EXPECT_EQ(Run({"init"}), 0) << "what is there stays as it is";
+  EXPECT_EQ(One("select count(*) from sqlite_master where name='iLedgerCounter'"), "0");
+}
+
 TEST_F(QvdbTest, CheckMakesNoDataFile) {
   EXPECT_EQ(Run({"check"}), 2);
   EXPECT_FALSE(fs::exists(Data()));

@@ -158,7 +158,7 @@ TEST_F(QvdbOnPostgres, ADryRunTriesEverythingAndKeepsNothing) {
 
 TEST_F(QvdbOnPostgres, CheckFindsTheFaultsThatItFindsInADataFile) {
   const Words rows{
-      "insert into cards (fID,CompCode,compname) values (1,'K1','a')",
+      "drop index iLedgerCounter", "insert into cards (fID,CompCode,compname) values (1,'K1','a')",
       "insert into tAccounts (fID,CompCode,compname) values (1,'0001','b')",
       "insert into tAccountDetail (fID,fDate,fCompID,fType1,fType2,fAcntNo,fMoneyA,fMoneyB,"
       "fChecker,fID2,fMoneyCode,fMoneyRate) values "
@@ -180,6 +180,12 @@ TEST_F(QvdbOnPostgres, CheckFindsTheFaultsThatItFindsInADataFile) {
   EXPECT_EQ(OnServer({"check"}), 1) << err_;
   EXPECT_EQ(out_, in_file);
   EXPECT_NE(out_.find("12 faults\n"), std::string::npos) << out_;
+  EXPECT_EQ(OnServer({"check", "--mend"}), 1);
+  EXPECT_NE(out_.find("entry 1 has 2 counter-entries: 2, 8\n"), std::string::npos) << out_;
+  Server().Run(database_, "delete from tAccountDetail where fID=8");
+  OnServer({"check", "--mend"});
+  EXPECT_NE(out_.find("no entry can get a second counter-entry\n"), std::string::npos) << out_;
+  EXPECT_EQ(One("select count(*) from pg_indexes where indexname='iledgercounter'"), "1");
 }
 
 TEST_F(QvdbOnPostgres, CopyBringsADataFileToTheServerAndBackUnchanged) {
