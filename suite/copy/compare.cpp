@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "platform/basic/errors.h"
+#include "platform/basic/number.h"
 #include "suite/copy/lots.h"
 
 namespace qvzj::copy {
@@ -28,18 +29,16 @@ std::string Shown(const Column& column, size_t row) {
   return column.IsNull(row) ? "null" : "\"" + column.Text(row) + "\"";
 }
 
-/// "123.45" of a number of cents.
-std::string Decimal(int64_t cents) {
-  std::string digits = std::to_string(std::abs(cents));
-  if (digits.size() < 3) digits.insert(0, 3 - digits.size(), '0');
-  digits.insert(digits.size() - 2, ".");
-  return (cents < 0 ? "-" : "") + digits;
+/// A total with two decimals. One that no number can hold is told as such: the rows agree all the
+/// same.
+std::string Shown(double total) {
+  return std::isfinite(total) ? basic::FormatFixed(total, 2) : basic::NumberText(total);
 }
 
 class Comparison {
  public:
   Comparison(const store::Table& table, const std::vector<std::string>& columns)
-      : table_(table), columns_(columns), cents_(table.amounts.size()) {}
+      : table_(table), columns_(columns), sums_(table.amounts.size()) {}
 
   void Take(const data::Recordset& left, const data::Recordset& right) {
     const auto rows = static_cast<size_t>(std::min(left.RecordCount(), right.RecordCount()));
@@ -56,13 +55,13 @@ class Comparison {
                   " in the target");
     }
     rows_ += left.RecordCount();
-    for (size_t i = 0; i < cents_.size(); ++i) AddUp(left, i);
+    for (size_t i = 0; i < sums_.size(); ++i) AddUp(left, i);
   }
 
   CopiedTable Result() const {
     CopiedTable copied{table_.name, rows_, {}};
-    for (size_t i = 0; i < cents_.size(); ++i) {
-      copied.sums.emplace_back(table_.amounts[i], Decimal(cents_[i]));
+    for (size_t i = 0; i < sums_.size(); ++i) {
+      copied.sums.emplace_back(table_.amounts[i], Shown(sums_[i].Value()));
     }
     return copied;
   }
@@ -84,13 +83,13 @@ class Comparison {
   void AddUp(const data::Recordset& rows, size_t amount) {
     const Column& column = rows.ColumnAt(rows.FieldIndex(table_.amounts[amount]));
     for (size_t row = 0; row < column.Size(); ++row) {
-      cents_[amount] += std::llround(column.Number(row) * 100);
+      if (!column.IsNull(row)) sums_[amount].Add(column.Number(row));
     }
   }
 
   const store::Table& table_;
   const std::vector<std::string>& columns_;
-  std::vector<int64_t> cents_;
+  std::vector<basic::Sum> sums_;
   int64_t rows_ = 0;
 };
 

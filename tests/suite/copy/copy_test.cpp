@@ -86,6 +86,23 @@ TEST_F(CopyTest, ReportsTheSumsOfTheAmounts) {
             One(*source_, "select printf('%.2f',sum(fMoneyA)) from tAccountDetail"));
 }
 
+TEST_F(CopyTest, AddsUpAmountsThatAreTooGreatForCents) {
+  source_->NativeScript(
+      "update tAccountDetail set fMoneyA=0,fMoneyB=0;"
+      "update tAccountDetail set fMoneyA=9e18,fMoneyB=1.7e308 where fID<=2");
+  const CopiedTable ledger = Copy().tables.back();
+  EXPECT_EQ(ledger.sums[0].second, "18000000000000000000.00");
+  EXPECT_EQ(ledger.sums[1].second.substr(0, 3), "1.#") << "a total that no number can hold";
+}
+
+TEST_F(CopyTest, BringsCounterEntriesThatTheTablesWouldRefuseToday) {
+  source_->NativeScript(
+      "drop index iLedgerCounter;"
+      "insert into tAccountDetail (fCompID,fType1,fID2) values (1,1,1),(1,1,1)");
+  Copy();
+  ExpectSameRows();
+}
+
 TEST_F(CopyTest, GivesIdsBehindThoseThatTheSourceEverGave) {
   source_->NativeScript(
       "insert into tAccountDetail (fID) values (5000); delete from tAccountDetail where fID=5000");
