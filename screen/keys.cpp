@@ -17,7 +17,12 @@ void EnterJumpsTo(ui::Control& control, ui::Control& target) {
   control.onKeyPress = [&target](int& key) {
     if (key != ui::kKeyEnter) return;
     key = 0;
-    target.GetForm().SetFocus(target);
+    ui::Form& form = target.GetForm();
+    if (target.CanFocus()) {
+      form.SetFocus(target);
+    } else {
+      form.SendTab();
+    }
   };
 }
 

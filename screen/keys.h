@@ -10,7 +10,8 @@ namespace qvzj {
 bool EnterToTab(ui::Form& form, int& key);
 /// Makes Enter walk on from `control` to the next one in tab order; its only key-press rule.
 void EnterWalksOn(ui::Control& control);
-/// Makes Enter in `control` jump to `target` instead of the next control.
+/// Makes Enter in `control` jump to `target`; on to the next control where `target` cannot take the
+/// focus, as one on a page that is not in front.
 void EnterJumpsTo(ui::Control& control, ui::Control& target);
 
 }  // namespace qvzj

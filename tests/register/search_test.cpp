@@ -119,6 +119,19 @@ TEST_F(RegisterSearch, JumpsFromTheSelectionToTheSearchButtonWithEnter) {
   EXPECT_EQ(form.Focused(), &form.cmdKhSeek);
 }
 
+TEST_F(RegisterSearch, WalksOnFromTheSelectionWhileTheSearchPageIsBehindAnother) {
+  frmZj& form = Customers();
+  ASSERT_FALSE(form.cmdKhSeek.CanFocus());
+  form.UserFocus(form.OptSelect(2));
+  form.UserKey(ui::Key::Named(ui::Key::Name::Enter));
+  ASSERT_NE(form.Focused(), nullptr);
+  ui::Control* const by_enter = form.Focused();
+  EXPECT_NE(by_enter, &form.OptSelect(2));
+  form.UserFocus(form.OptSelect(2));
+  form.UserKey(ui::Key::Named(ui::Key::Name::Tab));
+  EXPECT_EQ(by_enter, form.Focused()) << "where Tab goes";
+}
+
 TEST_F(RegisterSearch, KeepsTheFocusInATextWithAQuote) {
   frmZj& form = OpenSearch();
   ASSERT_TRUE(form.UserClick(form.chkSeek(1)));
