@@ -18,6 +18,11 @@ std::optional<Translation> TranslateAddedColumn(const Tokens& tokens, const Targ
 /// an engine walks and the other is looked up through its key.
 void SwapRightJoin(Tokens& tokens);
 
+/// A ledger of old has no column `fID2` before its first opening in the customer mode adds it:
+/// until then it is read as null, and a statement that writes no link (0 or null) leaves it out.
+/// Conditions on it fail as they do without the column, which is how that opening notices.
+void RewriteMissingLink(Tokens& tokens, const Schema& schema);
+
 /// Dates between "#", and texts compared with or stored into a date column.
 void RewriteDates(Tokens& tokens, const Scope& scope, const Target& target);
 

@@ -7,6 +7,7 @@ namespace qvzj::dialect {
 Translation Translate(std::string_view statement, const Target& target, const Schema& schema) {
   Tokens tokens = Tokenize(statement);
   if (auto added = TranslateAddedColumn(tokens, target)) return *added;
+  RewriteMissingLink(tokens, schema);
   if (!target.translates) return {Render(tokens), std::nullopt};
 
   SwapRightJoin(tokens);

@@ -34,6 +34,12 @@ class StartUp : public ::testing::Test {
           std::to_string(number++) + ",'" + name + "','" + name + "-s','" + name + "-t',0,'',0);");
     }
   }
+  /// The ledger as it was before entries and money accounts were linked.
+  void DropLink() {
+    world.Sql(
+        "Drop Index iLedgerLink; Drop Index iLedgerCounter;"
+        "Alter Table tAccountDetail Drop Column fID2;");
+  }
   bool Ran(const std::string& statement) {
     const Texts ran = world.Statements();
     return std::find(ran.begin(), ran.end(), statement) != ran.end();
@@ -102,14 +108,14 @@ TEST_F(StartUp, TakesTheBuiltInTemplateWhereEveryRowIsSwitchedOff) {
 }
 
 TEST_F(StartUp, AddsTheLinkToAnOlderLedgerOnceAndOnlyForCustomers) {
-  world.Sql("Drop Index iLedgerLink; Alter Table tAccountDetail Drop Column fID2;");
+  DropLink();
   const std::string upgrade = "AlTER TABLE tAccountDetail add Column [fID2] long";
   EXPECT_EQ(world.One("Select count(*) From pragma_table_info('tAccountDetail') Where "
                       "name='fID2'"),
             "0");
-  world.control.refresh(1, 0);
+  world.Open(1);
   EXPECT_FALSE(Ran(upgrade));
-  if (world.control.Form()) world.Form().UserClose();
+  world.Form().UserClose();
   world.Open(0);
   EXPECT_TRUE(Ran(upgrade));
   EXPECT_EQ(world.One("Select count(*) From pragma_table_info('tAccountDetail') Where "
@@ -118,6 +124,28 @@ TEST_F(StartUp, AddsTheLinkToAnOlderLedgerOnceAndOnlyForCustomers) {
   world.Form().UserClose();
   world.Open(0);
   EXPECT_FALSE(Ran(upgrade));
+}
+
+TEST_F(StartUp, KeysInTheMoneyAccountsOfAnOlderLedgerWithoutTouchingItsTable) {
+  DropLink();
+  world.Sql(
+      "Insert Into tAccountDetail (fDate,fCompID,fType1,fType2,fAcntNo,fInit,fMoneyA,fMoneyB,"
+      "fBrief,fChecker,fMoneyCode,fMoneyRate) Values "
+      "('2024-03-01',1,1,1,'Z1',0,0,5,'','','RMB',1);");
+  frmZj& form = world.Open(1);
+  EXPECT_EQ(world.ColumnTexts(form.Grid2, 2), std::vector<std::string>{"Z1"});
+  form.UserClick(form.cmdAction(2));
+  world.Type(form.txtAcnt2(6), "改");
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_EQ(world.One("Select fBrief From tAccountDetail Where fID=1"), "改");
+  form.UserClick(form.cmdAction(1));
+  world.Type(form.txtAcnt2(4), "7");
+  form.UserClick(form.cmdAcntSave);
+  EXPECT_EQ(world.One("Select count(*) || ' ' || sum(fMoneyB) From tAccountDetail"), "2 12.0");
+  EXPECT_TRUE(world.headless.boxes.TakeErrors().empty());
+  EXPECT_EQ(world.One("Select count(*) From pragma_table_info('tAccountDetail') Where "
+                      "name='fID2'"),
+            "0");
 }
 
 TEST_F(StartUp, OpensALedgerWithMoreLinksThanACountCanSay) {

@@ -28,6 +28,46 @@ TEST(Translation, NeverLooksIntoATextLiteral) {
   EXPECT_EQ(Sqlite(statement), statement);
 }
 
+/// A ledger of old: the link is not there yet.
+struct OldLedger : test::SuiteSchema {
+  ColumnType TypeOf(std::string_view table, std::string_view column) const override {
+    if (column == "fID2") return ColumnType::Unknown;
+    return test::SuiteSchema::TypeOf(table, column);
+  }
+};
+
+std::string OnOldLedger(std::string_view statement) {
+  return Translate(statement, SqliteTarget(""), OldLedger()).text;
+}
+
+TEST(Translation, ReadsALinkThatIsNotThereYetAsNull) {
+  EXPECT_EQ(OnOldLedger("Select b.fID,b.fID2 From tAccountDetail b"),
+            "Select b.fID,cast(null as integer) as fID2 From tAccountDetail b");
+  EXPECT_EQ(OnOldLedger("Select fID2,fID From tAccountDetail where fID=5"),
+            "Select cast(null as integer) as fID2,fID From tAccountDetail where fID=5");
+}
+
+TEST(Translation, LeavesOutALinkThatIsNotThereYetWhereNoneIsWritten) {
+  EXPECT_EQ(
+      OnOldLedger("Insert Into tAccountDetail (fBrief,fID2,fMoneyA) Values (mid('a,b',1,3),0,-5)"),
+      "Insert Into tAccountDetail (fBrief,fMoneyA) Values (substr('a,b',1,3),-5)");
+  EXPECT_EQ(OnOldLedger("Insert Into tAccountDetail (fID2,fMoneyA) Values (Null,5)"),
+            "Insert Into tAccountDetail (fMoneyA) Values (5)");
+  EXPECT_EQ(
+      OnOldLedger("Update tAccountDetail Set fBrief='fID2=0',fID2=0,fMoneyRate=1 Where fID=5"),
+      "Update tAccountDetail Set fBrief='fID2=0',fMoneyRate=1 Where fID=5");
+}
+
+TEST(Translation, KeepsWhatALedgerWithoutTheLinkMustRefuse) {
+  for (const char* statement : {"select count(*) from tAccountDetail Where fID2>0",
+                                "Update tAccountDetail Set fID2=3 Where fID=5",
+                                "Insert Into tAccountDetail (fID2,fMoneyA) Values (3,5)",
+                                "Delete from tAccountDetail Where fType1=1 and fID2=5"}) {
+    EXPECT_EQ(OnOldLedger(statement), statement);
+  }
+  EXPECT_EQ(Sqlite("Select b.fID2 From tAccountDetail b"), "Select b.fID2 From tAccountDetail b");
+}
+
 TEST(Translation, KeepsATextColumnThatHoldsADateAsTyped) {
   EXPECT_EQ(Sqlite("Update tAccountDetail Set fBrief='03/15/2003',fDate='03/15/2003' Where fID=1"),
             "Update tAccountDetail Set fBrief='03/15/2003',fDate='2003-03-15' Where fID=1");
