@@ -6,15 +6,23 @@
 #include "adapters/sqlite/sqlite_functions.h"
 #include "adapters/sqlite/sqlite_row_writer.h"
 #include "adapters/sqlite/sqlite_schema.h"
+#include "adapters/system/private_files.h"
 #include "platform/basic/errors.h"
 
 namespace qvzj {
 namespace {
 
+/// Names no file to the engine.
+constexpr std::string_view kInMemory = ":memory:";
+
 /// Opens the handle; the caller closes it also after a failure.
 int OpenHandle(const std::string& file, const SqliteOptions& options, sqlite3** database) {
   int flags = options.read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
-  if (options.create && !options.read_only) flags |= SQLITE_OPEN_CREATE;
+  if (options.create && !options.read_only) {
+    flags |= SQLITE_OPEN_CREATE;
+    // The engine gives what it makes beside the file, its log, the same rights.
+    if (file != kInMemory) MakePrivateFile(file);
+  }
   // A session belongs to one thread, so the engine need not lock itself at every value read.
   flags |= SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
   return sqlite3_open_v2(file.c_str(), database, flags, nullptr);

@@ -18,7 +18,7 @@ class SqliteSchema;
 struct SqliteOptions {
   /// How long a statement waits for another process that holds the file.
   std::chrono::milliseconds busy_timeout{10000};
-  /// Makes the file when it is missing; otherwise a missing file is an error.
+  /// Makes the file, for its owner alone, when it is missing; otherwise a missing file is an error.
   bool create = false;
   bool read_only = false;
   /// Order of texts, asked at every statement: 0 by pinyin, 1 by strokes. Empty: by pinyin.

@@ -1,7 +1,11 @@
 #include "frontends/qt/surroundings.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <filesystem>
 
+#include "adapters/system/private_files.h"
 #include "services/context.h"
 
 namespace qvzj::qt {
@@ -10,9 +14,22 @@ namespace {
 
 int Language() { return Shared().Language; }
 
+/// The data path of the settings may be the details of a server, its password among them.
+void KeepPrivate(const QString& file) {
+  const QFileInfo place(file);
+  try {
+    MakePrivateFolder(QFile::encodeName(place.absolutePath()).toStdString());
+    MakePrivateFile(QFile::encodeName(place.absoluteFilePath()).toStdString());
+  } catch (const std::filesystem::filesystem_error&) {
+    // Where nothing can be written nothing is kept, and the control works without.
+  }
+}
+
 std::unique_ptr<QSettings> OpenStore(const QString& file) {
-  if (file.isEmpty()) return std::make_unique<QSettings>("qvzj", "qvzj");
-  return std::make_unique<QSettings>(file, QSettings::IniFormat);
+  auto store = file.isEmpty() ? std::make_unique<QSettings>("qvzj", "qvzj")
+                              : std::make_unique<QSettings>(file, QSettings::IniFormat);
+  KeepPrivate(store->fileName());
+  return store;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <memory>
 
+#include "adapters/system/ask_password.h"
 #include "frontends/script/options.h"
 #include "frontends/script/script.h"
 #include "frontends/script/script_error.h"
@@ -104,11 +105,12 @@ int Play(const Options& options, std::istream& in) {
 
 int Main(const std::vector<std::string>& arguments) {
   try {
-    const Options options = ParseOptions(arguments);
+    Options options = ParseOptions(arguments);
     if (options.help) {
       std::fputs(Usage(kDraws).c_str(), stdout);
       return 0;
     }
+    options.password = PasswordOf(options, AskPassword);
     if (options.script.empty()) return Play(options, std::cin);
     std::ifstream file(options.script, std::ios::binary);
     if (!file || std::filesystem::is_directory(options.script)) {

@@ -1,5 +1,7 @@
 #include "frontends/script/options.h"
 
+#include <cstdlib>
+
 #include "frontends/script/command.h"
 #include "frontends/script/script_error.h"
 
@@ -66,6 +68,14 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
   return options;
 }
 
+std::string PasswordOf(const Options& options,
+                       const std::function<std::string(const std::string&)>& ask) {
+  if (options.password == "-") return ask("Password: ");
+  if (!options.password.empty() || options.server.empty()) return options.password;
+  const char* const set = std::getenv("QVDB_PASSWORD");
+  return set ? set : "";
+}
+
 std::string Usage(bool draws) {
   std::string text =
       "usage: qvzj-script [OPTION...] [SCRIPT]\n"
@@ -77,7 +87,9 @@ std::string Usage(bool draws) {
       "  --data DIR           folder of the desktop database (UserPath, SQLData 0)\n"
       "  --server TEXT        details of a database server (UserPath, SQLData 1)\n"
       "  --user USER          database user (UserID)\n"
-      "  --password PASSWORD  database password (Password)\n"
+      "  --password PASSWORD  database password (Password); \"-\" asks for it (default, with\n"
+      "                       --server: the variable QVDB_PASSWORD, which other users of the\n"
+      "                       machine cannot read)\n"
       "  --database NAME      default database on the server (Default)\n"
       "  --settings FILE      per-user settings, a JSON file; without it there are none\n"
       "  --today YYYY-MM-DD   sets the clock\n"

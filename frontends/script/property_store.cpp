@@ -3,6 +3,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
+#include "adapters/system/private_files.h"
 #include "frontends/script/script_error.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
@@ -40,6 +41,7 @@ void PropertyStore::Store(const std::string& file) const {
       json[key] = nullptr;
     }
   }
+  MakePrivateFile(file);  // it may hold passwords
   std::ofstream out(file, std::ios::binary);
   out << json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
   if (!out.flush()) throw ScriptError("cannot write " + file);

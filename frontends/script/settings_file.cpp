@@ -4,6 +4,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
+#include "adapters/system/private_files.h"
 #include "frontends/script/script_error.h"
 #include "platform/basic/text.h"
 
@@ -48,6 +49,7 @@ void StoreSetting(const std::string& file, const std::string& application,
                   const std::string& section, const std::string& key, const std::string& value) {
   Json json = ReadObject(file);
   Member(Member(Member(json, application), section), key) = value;
+  MakePrivateFile(file);  // it may hold passwords
   std::ofstream out(file, std::ios::binary);
   out << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
   if (!out.flush()) throw ScriptError("cannot write " + file);

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "adapters/sqlite/sqlite_session.h"
+#include "adapters/system/private_files.h"
 #include "platform/data/details.h"
 #include "suite/store/connections.h"
 #include "suite/store/schema.h"
@@ -19,10 +20,10 @@ std::unique_ptr<data::Store> OpenPlaceOnServer(const DataPlace& place) {
 }
 
 std::unique_ptr<data::Store> OpenOrMakeFile(const DataPlace& place) {
-  std::error_code failure;
-  fs::create_directories(place.folder, failure);
-  if (failure) {
-    throw Error("The folder " + place.folder + " cannot be made: " + failure.message());
+  try {
+    MakePrivateFolder(place.folder);
+  } catch (const fs::filesystem_error& error) {
+    throw Error("The folder " + place.folder + " cannot be made: " + error.code().message());
   }
   SqliteOptions options;
   options.create = true;

@@ -1,33 +1,9 @@
-#include <termios.h>
-#include <unistd.h>
-
 #include <iostream>
 
+#include "adapters/system/ask_password.h"
 #include "tools/qvdb/qvdb.h"
 
-namespace {
-
-/// Asks on the terminal, which does not show what is typed; input from elsewhere is read as it is.
-std::string AskPassword(const std::string& prompt) {
-  termios shown{};
-  const bool terminal = tcgetattr(STDIN_FILENO, &shown) == 0;
-  if (terminal) {
-    termios hidden = shown;
-    hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-    tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
-    std::cerr << prompt << std::flush;
-  }
-  std::string password;
-  std::getline(std::cin, password);
-  if (terminal) {
-    tcsetattr(STDIN_FILENO, TCSAFLUSH, &shown);
-    std::cerr << "\n";
-  }
-  return password;
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
-  return qvzj::qvdb::Run({argv + 1, argv + argc}, {std::cin, std::cout, std::cerr, AskPassword});
+  return qvzj::qvdb::Run({argv + 1, argv + argc},
+                         {std::cin, std::cout, std::cerr, qvzj::AskPassword});
 }

@@ -41,6 +41,16 @@ TEST(SqliteSession, KeepsAWriteAheadLogAndWaitsForTheDisk) {
   EXPECT_EQ(session->Native("pragma synchronous").Text(0), "2");
 }
 
+TEST(SqliteSession, MakesAFileAndItsLogForTheirOwnerAlone) {
+  TemporaryDatabase file;
+  auto session = file.Open();
+  session->Execute(kInsert);
+  const std::string log = file.File() + "-wal";
+  ASSERT_TRUE(std::filesystem::exists(log));
+  EXPECT_EQ(std::filesystem::status(file.File()).permissions(), std::filesystem::perms{0600});
+  EXPECT_EQ(std::filesystem::status(log).permissions(), std::filesystem::perms{0600});
+}
+
 TEST(SqliteSession, SaysWhichFileIsMissing) {
   TemporaryFolder folder;
   const std::string file = (folder.Path() / "qvjxc.db").string();

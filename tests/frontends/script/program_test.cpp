@@ -2,6 +2,7 @@
 #include <stdio.h>
 #include <sys/wait.h>
 
+#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -59,6 +60,25 @@ TEST(ScriptProgram, EndsWithZeroWhenEveryCommandWentWell) {
   const Ended ended = RunProgram("-", "expect property myName => myName=\"\"\n");
   EXPECT_EQ(ended.status, 0);
   EXPECT_EQ(ended.printed, "");
+}
+
+TEST(ScriptProgram, TakesThePasswordOfAServerFromAVariableOrAsksForIt) {
+  const std::string show = "property Password\n";
+  setenv("QVDB_PASSWORD", "p w", 1);
+  EXPECT_EQ(RunProgram("--server s", show).printed, "Password=\"p w\"\n");
+  EXPECT_EQ(RunProgram("--server s --password own", show).printed, "Password=\"own\"\n");
+  EXPECT_EQ(RunProgram("--data d", show).printed, "Password=\"\"\n");
+  unsetenv("QVDB_PASSWORD");
+  EXPECT_EQ(RunProgram("--server s", show).printed, "Password=\"\"\n");
+  EXPECT_EQ(RunProgram("--server s --password -", "as'ked\n" + show).printed,
+            "Password=\"as'ked\"\n");
+}
+
+TEST(ScriptProgram, KeepsSettingsForTheirOwnerAlone) {
+  const test::TemporaryFolder folder;
+  const std::string file = (folder.Path() / "settings.json").string();
+  RunProgram("--settings " + file, "setting tessary qvTask DataPath UID=u;PWD=p");
+  EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms{0600});
 }
 
 TEST(ScriptProgram, KeepsSettingsInTheFileItIsGiven) {

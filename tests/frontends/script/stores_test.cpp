@@ -36,6 +36,14 @@ class ScriptFiles : public ::testing::Test {
   std::filesystem::path folder_;
 };
 
+TEST_F(ScriptFiles, APropertyStoreIsForItsOwnerAlone) {
+  PropertyStore store;
+  store.WriteText("Password", "secret", "");
+  store.Store(File("store.json"));
+  EXPECT_EQ(std::filesystem::status(File("store.json")).permissions(),
+            std::filesystem::perms{0600});
+}
+
 TEST_F(ScriptFiles, APropertyStoreKeepsTheOrderWritten) {
   PropertyStore store;
   store.WriteText("myName", "张三", "");
