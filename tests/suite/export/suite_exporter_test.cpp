@@ -1,6 +1,7 @@
 #include "suite/export/suite_exporter.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <fstream>
@@ -60,6 +61,13 @@ TEST_F(SuiteExporterTest, WritesTheVisibleColumnsAsCommaSeparatedUtf8WithAMark) 
             "2024-03-01,\"货款, \"\"首付\"\"\",-1234.50\r\n"
             "2024-03-02,'=1+1,\r\n"
             "应收金额:,100.00\r\n");
+}
+
+TEST_F(SuiteExporterTest, GivesAListTheRightsOfEveryDocument) {
+  const mode_t before = umask(0022);
+  ExportCsv(request, false);
+  umask(before);
+  EXPECT_EQ(fs::status(request.path).permissions(), fs::perms{0644});
 }
 
 TEST_F(SuiteExporterTest, WritesTheChineseCodePageOnRequest) {
