@@ -31,7 +31,7 @@ void DrawChevron(QPainter& painter, const QRect& rect, const QColor& color, bool
 }
 
 void DrawButton(const QStyleOption& option, QPainter& painter) {
-  const Colors& colors = ColorsFor(option.palette);
+  const view::Colors& colors = ColorsFor(option.palette);
   const bool enabled = Has(option, QStyle::State_Enabled);
   QColor fill = colors.base;
   if (!enabled) {
@@ -62,7 +62,7 @@ void DrawTick(QPainter& painter, const QRectF& box, const QColor& color) {
 }
 
 void DrawCheckBox(const QStyleOption& option, QPainter& painter) {
-  const Colors& colors = ColorsFor(option.palette);
+  const view::Colors& colors = ColorsFor(option.palette);
   const bool enabled = Has(option, QStyle::State_Enabled);
   const bool on = Has(option, QStyle::State_On) || Has(option, QStyle::State_NoChange);
   const QColor chosen = enabled ? colors.accent : colors.muted;
@@ -86,15 +86,15 @@ void DrawCheckBox(const QStyleOption& option, QPainter& painter) {
 }
 
 void DrawOption(const QStyleOption& option, QPainter& painter) {
-  const Colors& colors = ColorsFor(option.palette);
+  const view::Colors& colors = ColorsFor(option.palette);
   const bool enabled = Has(option, QStyle::State_Enabled);
   const bool on = Has(option, QStyle::State_On);
   const QColor chosen = enabled ? colors.accent : colors.muted;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF circle = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
-  painter.setPen(QPen(on ? chosen : enabled ? colors.muted : colors.border, 1));
-  painter.setBrush(enabled ? colors.base : colors.read_only);
+  painter.setPen(QPen(QColor(on ? chosen : enabled ? colors.muted : colors.border), 1));
+  painter.setBrush(QColor(enabled ? colors.base : colors.read_only));
   painter.drawEllipse(circle);
   if (on) {
     painter.setPen(Qt::NoPen);
@@ -105,7 +105,7 @@ void DrawOption(const QStyleOption& option, QPainter& painter) {
 }
 
 void DrawField(const QStyleOption& option, QPainter& painter, bool read_only) {
-  const Colors& colors = ColorsFor(option.palette);
+  const view::Colors& colors = ColorsFor(option.palette);
   const bool enabled = Has(option, QStyle::State_Enabled);
   const bool focused = Has(option, QStyle::State_HasFocus) && enabled;
   DrawRounded(painter, option.rect, enabled && !read_only ? colors.base : colors.read_only,
@@ -116,14 +116,14 @@ void DrawField(const QStyleOption& option, QPainter& painter, bool read_only) {
 
 void DrawDropDown(const QStyleOptionComplex& option, QPainter& painter, const QRect& arrow,
                   bool read_only) {
-  const Colors& colors = ColorsFor(option.palette);
+  const view::Colors& colors = ColorsFor(option.palette);
   DrawField(option, painter, read_only);
   DrawChevron(painter, arrow,
               Has(option, QStyle::State_Enabled) && !read_only ? colors.text : colors.border);
 }
 
 void DrawTab(const QStyleOptionTab& option, QPainter& painter) {
-  const Colors& colors = ColorsFor(option.palette);
+  const view::Colors& colors = ColorsFor(option.palette);
   const QRect rect = option.rect;
   if (Has(option, QStyle::State_Selected)) {
     painter.fillRect(QRect(rect.left() + 8, rect.bottom() - 1, rect.width() - 16, 2),
@@ -137,7 +137,7 @@ void DrawTab(const QStyleOptionTab& option, QPainter& painter) {
 }
 
 void DrawHeaderSection(const QStyleOptionHeader& option, QPainter& painter) {
-  const Colors& colors = ColorsFor(option.palette);
+  const view::Colors& colors = ColorsFor(option.palette);
   painter.fillRect(option.rect, Has(option, QStyle::State_MouseOver) ? colors.hover : colors.card);
   painter.setPen(colors.border);
   painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
@@ -182,7 +182,7 @@ QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
 }
 
 void DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter) {
-  const Colors& colors = ColorsFor(bar.palette);
+  const view::Colors& colors = ColorsFor(bar.palette);
   painter.fillRect(bar.rect, colors.card);
   if (bar.maximum <= bar.minimum) return;
   const bool held = Has(bar, QStyle::State_Sunken);
@@ -374,7 +374,8 @@ int CalmStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
     case SH_UnderlineShortcut:
       return 1;
     case SH_Table_GridLineColor:
-      return option == nullptr ? 0 : static_cast<int>(ColorsFor(option->palette).border.rgb());
+      return option == nullptr ? 0
+                               : static_cast<int>(QColor(ColorsFor(option->palette).border).rgb());
     case SH_TabBar_Alignment:
       return Qt::AlignLeft;
     default:

@@ -247,7 +247,7 @@ class DateEdit : public QDateEdit {
   /// The application may have gone from light to dark since.
   void ColourCalendar() {
     QTextCharFormat format;
-    format.setForeground(ColorsFor(palette()).negative);
+    format.setForeground(QColor(ColorsFor(palette()).negative));
     for (Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
       calendar_->setWeekdayTextFormat(day, format);
     }

@@ -3,24 +3,17 @@
 #include <QEvent>
 #include <QInputMethodEvent>
 
+#include "frontends/view/composition.h"
+
 namespace qvzj::qt {
 
-/// Follows what an input method composes in a field. While something stands there that has not
-/// been handed over, every key belongs to it: Enter chooses a word, it does not walk on.
-class Composition {
- public:
-  /// To be shown every event of the field.
-  void See(const QEvent& event) {
-    if (event.type() == QEvent::InputMethod) {
-      under_way_ = !static_cast<const QInputMethodEvent&>(event).preeditString().isEmpty();
-    } else if (event.type() == QEvent::FocusOut) {
-      under_way_ = false;
-    }
+/// To be shown every event of a field that takes input methods.
+inline void Follow(view::Composition& composition, const QEvent& event) {
+  if (event.type() == QEvent::InputMethod) {
+    composition.Preedit(static_cast<const QInputMethodEvent&>(event).preeditString().size());
+  } else if (event.type() == QEvent::FocusOut) {
+    composition.FocusLost();
   }
-  bool UnderWay() const { return under_way_; }
-
- private:
-  bool under_way_ = false;
-};
+}
 
 }  // namespace qvzj::qt

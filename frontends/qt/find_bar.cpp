@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include "frontends/qt/calm_style.h"
+#include "frontends/qt/composition.h"
 #include "frontends/qt/native_texts.h"
 #include "frontends/qt/theme.h"
 
@@ -69,7 +70,7 @@ bool FindBar::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize) Place();
     return false;
   }
-  composition_.See(*event);
+  Follow(composition_, *event);
   if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) return false;
   const auto* key = static_cast<QKeyEvent*>(event);
   const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
@@ -91,7 +92,7 @@ bool FindBar::eventFilter(QObject* watched, QEvent* event) {
 
 void FindBar::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const Colors& colors = ColorsFor(palette());
+  const view::Colors& colors = ColorsFor(palette());
   DrawRounded(painter, rect(), colors.card, colors.strong_border);
 }
 

@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "frontends/qt/composition.h"
+#include "frontends/view/composition.h"
 
 class QLabel;
 class QLineEdit;
@@ -38,7 +38,7 @@ class FindBar : public QWidget {
   QString not_found_;
   std::function<bool(const QString&, bool)> find_;
   std::function<void()> closed_;
-  Composition composition_;
+  view::Composition composition_;
 };
 
 }  // namespace qvzj::qt

@@ -10,9 +10,9 @@
 #include <algorithm>
 
 #include "frontends/qt/keys.h"
-#include "frontends/qt/scale.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
+#include "frontends/view/measure.h"
 
 namespace qvzj::qt {
 
@@ -51,8 +51,8 @@ void FormWindow::ApplyTheme() {
 }
 
 void FormWindow::TakeInitialSize() {
-  const QSize wanted(ToPixels(form_->Width(), logicalDpiX()),
-                     ToPixels(form_->Height(), logicalDpiY()));
+  const QSize wanted(view::ToPixels(form_->Width(), logicalDpiX()),
+                     view::ToPixels(form_->Height(), logicalDpiY()));
   if (!Resizable()) {
     setFixedSize(wanted);
     return;
@@ -214,7 +214,8 @@ void FormWindow::PopUpMenu(ui::Form&, ui::MenuItem& menu, int32_t left, int32_t 
   native->setFont(font());
   native->setStyle(ThemeStyle());
   FillMenu(*native, menu);
-  native->popup(mapToGlobal(QPoint(ToPixels(left, logicalDpiX()), ToPixels(top, logicalDpiY()))));
+  native->popup(
+      mapToGlobal(QPoint(view::ToPixels(left, logicalDpiX()), view::ToPixels(top, logicalDpiY()))));
 }
 
 void FormWindow::FillMenu(QMenu& native, ui::MenuItem& menu) {
@@ -250,8 +251,8 @@ void FormWindow::ReportSize() {
                                 : isMaximized() ? ui::WindowState::Maximised
                                                 : ui::WindowState::Normal;
   Act([&] {
-    return form_->UserResize(ToTwips(width(), logicalDpiX()), ToTwips(height(), logicalDpiY()),
-                             state);
+    return form_->UserResize(view::ToTwips(width(), logicalDpiX()),
+                             view::ToTwips(height(), logicalDpiY()), state);
   });
 }
 

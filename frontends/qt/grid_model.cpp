@@ -108,7 +108,9 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
       if (ShowsNegative(row, column)) return QBrush(negative_);
       return {};
     case Qt::BackgroundRole:
-      if (const auto color = grid_->RowColor(row + 1)) return QBrush(RowTint(*color, palette_));
+      if (const auto color = grid_->RowColor(row + 1)) {
+        return QBrush(QColor(view::RowTint(*color, IsDark(palette_))));
+      }
       return {};
     default:
       return {};

@@ -14,9 +14,9 @@
 #include "frontends/qt/grid_model.h"
 #include "frontends/qt/grid_tools.h"
 #include "frontends/qt/keys.h"
-#include "frontends/qt/scale.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
+#include "frontends/view/measure.h"
 
 namespace qvzj::qt {
 
@@ -46,7 +46,7 @@ class CellDelegate : public QStyledItemDelegate {
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
-    const Colors& colors = ColorsFor(option->palette);
+    const view::Colors& colors = ColorsFor(option->palette);
     const bool focused = option->widget != nullptr && option->widget->hasFocus();
     const QColor text = index.data(Qt::ForegroundRole).isValid()
                             ? index.data(Qt::ForegroundRole).value<QBrush>().color()
@@ -138,7 +138,7 @@ void GridView::ConnectTable() {
   connect(table_->verticalHeader(), &QHeaderView::sectionResized, this,
           [this](int section, int, int pixels) {
             if (showing_ || !Live()) return;
-            const int32_t height = ToTwips(pixels, table_->logicalDpiY());
+            const int32_t height = view::ToTwips(pixels, table_->logicalDpiY());
             Act([&] { return GetForm().UserRowHeight(grid_, section + 1, section + 1, height); });
           });
 }
@@ -192,14 +192,14 @@ void GridView::ShowColumns() {
   std::vector<int> widths;
   for (int column = 0; column < grid_.ColumnCount(); ++column) {
     table_->setColumnHidden(column, grid_.ColumnHidden(column + 1));
-    widths.push_back(ToPixels(grid_.ColumnWidth(column + 1), table_->logicalDpiX()));
+    widths.push_back(view::ToPixels(grid_.ColumnWidth(column + 1), table_->logicalDpiX()));
   }
   columns_->Design(widths);
 }
 
 void GridView::ShowRowHeight() {
   // The header tells of every row that it resizes, so it had better do that before there are any.
-  const int height = ToPixels(grid_.RowHeight(), table_->logicalDpiY());
+  const int height = view::ToPixels(grid_.RowHeight(), table_->logicalDpiY());
   QHeaderView* header = table_->verticalHeader();
   if (header->defaultSectionSize() != height) header->setDefaultSectionSize(height);
   CountPageRows();

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "frontends/qt/text.h"
+#include "frontends/view/utf16.h"
 
 namespace qvzj::qt {
 
@@ -25,8 +26,8 @@ Selection NativeSelection(const QLineEdit& line) {
 }
 
 Selection WantedSelection(const QString& text, const ui::EditBox& box) {
-  const int start = Utf16Position(text, box.SelStart());
-  return {start, Utf16Position(text, box.SelStart() + box.SelLength()) - start};
+  const int start = view::Utf16Position(Units(text), box.SelStart());
+  return {start, view::Utf16Position(Units(text), box.SelStart() + box.SelLength()) - start};
 }
 
 }  // namespace
@@ -108,7 +109,8 @@ void LineLink::Edited() {
   if (!live_() || edit_ != Edit::None) return;
   edit_ = Edit::ByEditor;
   const QString text = line_.text();
-  const int32_t caret = CharactersBefore(text, line_.cursorPosition());
+  const int32_t caret =
+      view::CharactersBefore(Units(text), static_cast<size_t>(line_.cursorPosition()));
   const std::string utf8 = ToUtf8(text);
   act_([&] { return box_.GetForm().UserEdited(box_, utf8, caret); });
   if (live_()) {
@@ -127,8 +129,10 @@ void LineLink::TellCut() const {
 void LineLink::Selected() {
   if (!live_() || edit_ != Edit::None || line_.text() != FromUtf8(box_.Text())) return;
   const Selection native = NativeSelection(line_);
-  const int32_t start = CharactersBefore(line_.text(), native.start);
-  const int32_t end = CharactersBefore(line_.text(), native.start + native.length);
+  const int32_t start =
+      view::CharactersBefore(Units(line_.text()), static_cast<size_t>(native.start));
+  const int32_t end = view::CharactersBefore(Units(line_.text()),
+                                             static_cast<size_t>(native.start + native.length));
   if (start == box_.SelStart() && end - start == box_.SelLength()) return;
   box_.GetForm().UserSelect(box_, start, end - start);
 }

@@ -12,9 +12,9 @@
 #include "frontends/qt/calm_style.h"
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/keys.h"
-#include "frontends/qt/scale.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
+#include "frontends/view/measure.h"
 
 namespace qvzj::qt {
 
@@ -84,7 +84,7 @@ LabelView::LabelView(FormWindow& window, ui::Label& label, QWidget* parent)
   label_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   if (label.Heading()) {
     QFont font = ThemeFont(window.Traditional());
-    font.setPointSizeF(font.pointSizeF() + 2);
+    font.setPointSizeF(font.pointSizeF() + view::kHeadingMore);
     font.setBold(true);
     label_->setFont(font);
   }
@@ -117,8 +117,8 @@ ButtonView::ButtonView(FormWindow& window, ui::Button& button, QWidget* parent)
 }
 
 void ButtonView::Pressed() {
-  const int32_t x = ToTwips(pressed_at_.x(), native_->logicalDpiX());
-  const int32_t y = ToTwips(pressed_at_.y(), native_->logicalDpiY());
+  const int32_t x = view::ToTwips(pressed_at_.x(), native_->logicalDpiX());
+  const int32_t y = view::ToTwips(pressed_at_.y(), native_->logicalDpiY());
   if (Act([&] { return GetForm().UserPress(button_, x, y); })) native_->setDown(false);
 }
 
@@ -229,7 +229,7 @@ void Panel::resizeEvent(QResizeEvent* event) {
 void Panel::paintEvent(QPaintEvent*) {
   if (!outlined_) return;
   QPainter painter(this);
-  const Colors& colors = ColorsFor(palette());
+  const view::Colors& colors = ColorsFor(palette());
   DrawRounded(painter, rect().adjusted(0, LineTop(), 0, 0), colors.card, colors.border);
   if (title_.isEmpty()) return;
   const int width = fontMetrics().horizontalAdvance(title_);

@@ -22,7 +22,7 @@ class TabArea : public QWidget {
   void paintEvent(QPaintEvent*) override {
     if (!HasPages()) return;
     QPainter painter(this);
-    const Colors& colors = ColorsFor(palette());
+    const view::Colors& colors = ColorsFor(palette());
     DrawRounded(painter, rect(), colors.card, colors.border);
   }
 

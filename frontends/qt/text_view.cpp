@@ -10,6 +10,7 @@
 #include "frontends/qt/native_texts.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
+#include "frontends/view/utf16.h"
 
 namespace qvzj::qt {
 
@@ -121,8 +122,8 @@ void MemoView::ShowText() {
 
 void MemoView::ShowSelection() {
   const QString text = page_->toPlainText();
-  const int start = Utf16Position(text, box_.SelStart());
-  const int end = Utf16Position(text, box_.SelStart() + box_.SelLength());
+  const int start = view::Utf16Position(Units(text), box_.SelStart());
+  const int end = view::Utf16Position(Units(text), box_.SelStart() + box_.SelLength());
   QTextCursor cursor = page_->textCursor();
   if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
   const QSignalBlocker quiet(page_);
@@ -137,7 +138,8 @@ void MemoView::Edited() {
   const std::string utf8 = ToUtf8(text);
   if (utf8 == box_.Text()) return;
   editing_ = true;
-  const int32_t caret = CharactersBefore(text, page_->textCursor().position());
+  const int32_t caret =
+      view::CharactersBefore(Units(text), static_cast<size_t>(page_->textCursor().position()));
   Act([&] { return GetForm().UserEdited(box_, utf8, caret); });
   if (Live()) ShowText();
   editing_ = false;
@@ -148,8 +150,10 @@ void MemoView::Selected() {
   const QString text = page_->toPlainText();
   if (text != FromUtf8(box_.Text())) return;
   const QTextCursor cursor = page_->textCursor();
-  const int32_t start = CharactersBefore(text, cursor.selectionStart());
-  const int32_t end = CharactersBefore(text, cursor.selectionEnd());
+  const int32_t start =
+      view::CharactersBefore(Units(text), static_cast<size_t>(cursor.selectionStart()));
+  const int32_t end =
+      view::CharactersBefore(Units(text), static_cast<size_t>(cursor.selectionEnd()));
   if (start == box_.SelStart() && end - start == box_.SelLength()) return;
   GetForm().UserSelect(box_, start, end - start);
 }

@@ -13,17 +13,7 @@ namespace qvzj::qt {
 
 namespace {
 
-const Colors kLight{QColor(0xeef1f5), QColor(0xf8f9fb), QColor(0xffffff), QColor(0xf1f3f6),
-                    QColor(0x1d232b), QColor(0x7b8593), QColor(0xd5dae1), QColor(0xb9c1cc),
-                    QColor(0x2563b8), QColor(0xffffff), QColor(0xcfe1f8), QColor(0xe2e9f2),
-                    QColor(0xe6ecf4), QColor(0xc0272d)};
-
-const Colors kDark{QColor(0x1b1e23), QColor(0x23272e), QColor(0x181b1f), QColor(0x262a31),
-                   QColor(0xe4e7eb), QColor(0x8f98a5), QColor(0x363c45), QColor(0x4b535f),
-                   QColor(0x5b9bf0), QColor(0x0f1216), QColor(0x274468), QColor(0x2c3440),
-                   QColor(0x2d333c), QColor(0xff7b78)};
-
-QPalette PaletteOf(const Colors& colors) {
+QPalette PaletteOf(const view::Colors& colors) {
   QPalette palette;
   palette.setColor(QPalette::Window, colors.window);
   palette.setColor(QPalette::WindowText, colors.text);
@@ -39,7 +29,7 @@ QPalette PaletteOf(const Colors& colors) {
   palette.setColor(QPalette::Highlight, colors.accent);
   palette.setColor(QPalette::HighlightedText, colors.on_accent);
   palette.setColor(QPalette::Link, colors.accent);
-  palette.setColor(QPalette::Light, colors.card.lighter(110));
+  palette.setColor(QPalette::Light, QColor(colors.card).lighter(110));
   palette.setColor(QPalette::Midlight, colors.card);
   palette.setColor(QPalette::Mid, colors.border);
   palette.setColor(QPalette::Dark, colors.strong_border);
@@ -66,13 +56,13 @@ bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < palette.color(QPalette::Text).lightness();
 }
 
-const Colors& ColorsFor(const QPalette& palette) { return IsDark(palette) ? kDark : kLight; }
+const view::Colors& ColorsFor(const QPalette& palette) { return view::ColorsOf(IsDark(palette)); }
 
 QPalette ThemePalette(Appearance appearance) {
   if (appearance == Appearance::System) {
     appearance = IsDark(QGuiApplication::palette()) ? Appearance::Dark : Appearance::Light;
   }
-  return PaletteOf(appearance == Appearance::Dark ? kDark : kLight);
+  return PaletteOf(view::ColorsOf(appearance == Appearance::Dark));
 }
 
 namespace {
@@ -82,7 +72,7 @@ namespace {
 QFont FontOf(const QString& family) {
   QFont font = QGuiApplication::font();
   if (!family.isEmpty()) font.setFamily(family);
-  font.setPointSizeF(9);
+  font.setPointSizeF(view::kFontPoints);
   // Chinese and figures need no shaping, which takes longer than the drawing itself; scripts that
   // do need it are shaped all the same.
   font.setStyleHint(QFont::SansSerif, QFont::PreferNoShaping);
@@ -92,16 +82,9 @@ QFont FontOf(const QString& family) {
 /// The first of the wanted families that is installed and whose digits stand under each other; ""
 /// when there is none. Every family looked at is a font file to load, so the search ends there.
 QString ThemeFamily(bool traditional) {
-  const QStringList simplified_families{"Noto Sans CJK SC", "Source Han Sans SC",
-                                        "Microsoft YaHei UI", "PingFang SC"};
-  const QStringList traditional_families{"Noto Sans CJK TC", "Source Han Sans TC",
-                                         "Microsoft JhengHei UI", "PingFang TC"};
-  QStringList wanted = traditional ? traditional_families + simplified_families
-                                   : simplified_families + traditional_families;
-  wanted << "WenQuanYi Micro Hei"
-         << "DejaVu Sans";
   const QStringList installed = QFontDatabase::families();
-  for (const QString& family : wanted) {
+  for (const std::string_view wanted : view::FontFamilies(traditional)) {
+    const QString family = QString::fromUtf8(wanted.data(), static_cast<qsizetype>(wanted.size()));
     if (installed.contains(family) && DigitsAlign(FontOf(family))) return family;
   }
   return {};
@@ -132,17 +115,6 @@ void Dress(QWidget& window, bool traditional) {
   for (QWidget* part : window.findChildren<QWidget*>()) part->setStyle(ThemeStyle());
   // The toolkit's own dialogs put coloured pictures on their buttons.
   for (QPushButton* button : window.findChildren<QPushButton*>()) button->setIcon({});
-}
-
-QColor RowTint(uint32_t rgb, const QPalette& palette) {
-  const QColor given = QColor::fromRgb(static_cast<QRgb>(rgb));
-  if (!IsDark(palette)) return given;
-  const QColor base = palette.color(QPalette::Base);
-  const QColor text = palette.color(QPalette::Text);
-  const double share = 1.0 - given.lightnessF();
-  auto mix = [share](int from, int to) { return static_cast<int>(from + share * (to - from)); };
-  return {mix(base.red(), text.red()), mix(base.green(), text.green()),
-          mix(base.blue(), text.blue())};
 }
 
 }  // namespace qvzj::qt

@@ -8,12 +8,23 @@
 #include <QInputMethod>
 #include <QKeyEvent>
 
+#include "frontends/qt/composition.h"
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/keys.h"
-#include "frontends/qt/scale.h"
 #include "frontends/qt/text.h"
+#include "frontends/view/measure.h"
 
 namespace qvzj::qt {
+
+namespace {
+
+QRect PlaceOf(const ui::Control& control, const QWidget& widget) {
+  const view::PixelRect place =
+      view::ToPixels(control.GetBounds(), widget.logicalDpiX(), widget.logicalDpiY());
+  return {place.left, place.top, place.width, place.height};
+}
+
+}  // namespace
 
 QWidget* ControlView::Inner(int) const { return Widget(); }
 
@@ -29,7 +40,7 @@ void ControlView::Mirror(ui::Aspect aspect) {
       Widget()->setVisible(control_->Visible());
       return;
     case ui::Aspect::Bounds:
-      Widget()->setGeometry(ToPixels(control_->GetBounds(), *Widget()));
+      Widget()->setGeometry(PlaceOf(*control_, *Widget()));
       return;
     default:
       return;
@@ -62,7 +73,7 @@ bool ControlView::Act(const std::function<bool()>& act) { return window_.Act(act
 
 bool ControlView::eventFilter(QObject* watched, QEvent* event) {
   if (!Live()) return false;
-  composition_.See(*event);
+  Follow(composition_, *event);
   switch (event->type()) {
     case QEvent::ShortcutOverride:
       return HandleKey(*static_cast<QKeyEvent*>(event), true);

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "frontends/qt/composition.h"
+#include "frontends/view/composition.h"
 #include "platform/ui/form.h"
 
 class QContextMenuEvent;
@@ -85,7 +85,7 @@ class ControlView : public QObject {
   void HandleFocusIn(Qt::FocusReason reason);
 
   ui::Control* control_;
-  Composition composition_;
+  view::Composition composition_;
 };
 
 /// The view for a control's kind; null for menu entries, which exist only while popped up.

@@ -6,9 +6,9 @@
 
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/print/page_output.h"
-#include "frontends/qt/scale.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
+#include "frontends/view/measure.h"
 #include "platform/basic/errors.h"
 #include "platform/surroundings.h"
 #include "services/context.h"
@@ -48,8 +48,8 @@ QImage Draw(ui::Form& form) {
   qt::FormWindow window(form, options);
   if (window.Resizable()) {
     window.setWindowState(Qt::WindowNoState);  // a small screen would have it maximised
-    window.resize(qt::ToPixels(form.Width(), window.logicalDpiX()),
-                  qt::ToPixels(form.Height(), window.logicalDpiY()));
+    window.resize(view::ToPixels(form.Width(), window.logicalDpiX()),
+                  view::ToPixels(form.Height(), window.logicalDpiY()));
   }
   window.show();
   QApplication::processEvents();

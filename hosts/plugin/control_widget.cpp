@@ -149,7 +149,7 @@ void ControlWidget::refresh(int MfRunMode, int myShowMode) {
 QSize ControlWidget::sizeHint() const { return {220, 64}; }
 
 void ControlWidget::paintEvent(QPaintEvent*) {
-  const qt::Colors& colors = qt::ColorsFor(palette());
+  const view::Colors& colors = qt::ColorsFor(palette());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(colors.border);

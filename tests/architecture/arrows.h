@@ -56,7 +56,10 @@ inline const std::vector<Rule>& Rules() {
       {"frontends/script",
        {"frontends/headless", "control", "forms", "screen", "services", "platform", "adapters"},
        {"nlohmann/"}},
-      {"frontends/qt", {"control", "forms", "screen", "services", "platform", "adapters"}, {"Q"}},
+      {"frontends/view", {"platform"}, {}},
+      {"frontends/qt",
+       {"frontends/view", "control", "forms", "screen", "services", "platform", "adapters"},
+       {"Q"}},
   };
   return rules;
 }

@@ -5,15 +5,6 @@
 #include <algorithm>
 
 namespace qvzj::qt {
-namespace {
-
-constexpr double kSmallest = 0.25;
-constexpr double kLargest = 4;
-constexpr double kPointsAnInch = 72;
-constexpr int kNotch = 120;  // of a mouse wheel, in Qt's units
-
-}  // namespace
-
 PageDesk::PageDesk(const PageSource& pages, const QFont& font, QWidget* parent)
     : QScrollArea(parent), pages_(pages), sheet_(new PageView(pages, font)) {
   setFrameShape(QFrame::NoFrame);
@@ -31,17 +22,17 @@ void PageDesk::SetCurrent(int page) {
   emit CurrentChanged(page);
 }
 
-void PageDesk::SetFit(PageFit fit) {
+void PageDesk::SetFit(view::PageFit fit) {
   fit_ = fit;
   FollowSize();
   emit ZoomChanged();
 }
 
-double PageDesk::Zoom() const { return sheet_->Scale() * kPointsAnInch / logicalDpiX(); }
+double PageDesk::Zoom() const { return sheet_->Scale() * view::kPointsAnInch / logicalDpiX(); }
 
 void PageDesk::SetZoom(double zoom) {
-  fit_ = PageFit::Free;
-  SetScale(std::clamp(zoom, kSmallest, kLargest) * logicalDpiX() / kPointsAnInch);
+  fit_ = view::PageFit::Free;
+  SetScale(view::LimitedZoom(zoom) * logicalDpiX() / view::kPointsAnInch);
 }
 
 void PageDesk::SetScale(double scale) {
@@ -63,18 +54,11 @@ void PageDesk::SetScale(double scale) {
 }
 
 void PageDesk::FollowSize() {
-  if (fit_ == PageFit::Free) return;
+  if (fit_ == view::PageFit::Free) return;
   const QSize room = maximumViewportSize() - QSize(2 * PageView::kRoom, 2 * PageView::kRoom);
-  const double high = room.height() / pages_.PageHeight();
-  double wide = room.width() / pages_.PageWidth();
-  if (wide > high) {
-    // A page higher than the desk needs the scroll bar, which takes its room from the width.
-    wide = std::max(high,
-                    (room.width() - verticalScrollBar()->sizeHint().width()) / pages_.PageWidth());
-  }
-  const double zoom =
-      (fit_ == PageFit::Width ? wide : std::min(wide, high)) * kPointsAnInch / logicalDpiX();
-  SetScale(std::clamp(zoom, kSmallest, kLargest) * logicalDpiX() / kPointsAnInch);
+  const int bar = verticalScrollBar()->sizeHint().width();
+  SetScale(view::FittedScale(fit_, {pages_.PageWidth(), pages_.PageHeight()},
+                             {double(room.width()), double(room.height())}, bar, logicalDpiX()));
 }
 
 void PageDesk::resizeEvent(QResizeEvent* event) {
@@ -83,20 +67,16 @@ void PageDesk::resizeEvent(QResizeEvent* event) {
 }
 
 bool PageDesk::TurnPage(int wheel) {
-  const QScrollBar& bar = *verticalScrollBar();
-  const bool on = wheel < 0;
-  if (bar.value() != (on ? bar.maximum() : bar.minimum())) {
-    turned_ = 0;
-    return false;
-  }
-  if ((turned_ < 0) != on) turned_ = 0;
-  turned_ += wheel;
-  if (std::abs(turned_) < kNotch) return true;  // a touch pad comes in many small steps
-  turned_ = 0;
+  QScrollBar& bar = *verticalScrollBar();
+  const bool at_end = bar.value() == (wheel < 0 ? bar.maximum() : bar.minimum());
+  const view::WheelTurn turn = leafing_.Turn(wheel, at_end);
   const int before = Current();
-  SetCurrent(before + (on ? 1 : -1));
-  if (!on && Current() != before) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
-  return true;
+  if (turn == view::WheelTurn::TurnsOn) SetCurrent(before + 1);
+  if (turn == view::WheelTurn::TurnsBack) {
+    SetCurrent(before - 1);
+    if (Current() != before) bar.setValue(bar.maximum());
+  }
+  return turn != view::WheelTurn::Scrolls;
 }
 
 void PageDesk::wheelEvent(QWheelEvent* event) {

@@ -3,11 +3,9 @@
 #include <QScrollArea>
 
 #include "frontends/qt/print/page_view.h"
+#include "frontends/view/page_fit.h"
 
 namespace qvzj::qt {
-
-/// How the size of the sheet follows the size of the desk.
-enum class PageFit { Free, Width, WholePage };
 
 /// The desk on which pages lie, one at a time, in the middle: zoomed, scrolled, and leafed through
 /// by the mouse wheel.
@@ -20,15 +18,15 @@ class PageDesk : public QScrollArea {
   int Current() const { return sheet_->Current(); }
   /// Shows a page from its top; beyond the ends it is the first or the last one.
   void SetCurrent(int page);
-  PageFit Fit() const { return fit_; }
-  void SetFit(PageFit fit);
+  view::PageFit Fit() const { return fit_; }
+  void SetFit(view::PageFit fit);
   /// 1 is the paper's real size.
   double Zoom() const;
   /// Sets the size within the limits and no longer follows the desk.
   void SetZoom(double zoom);
   /// One step larger or smaller.
-  void ZoomIn() { SetZoom(Zoom() * kZoomStep); }
-  void ZoomOut() { SetZoom(Zoom() / kZoomStep); }
+  void ZoomIn() { SetZoom(Zoom() * view::kZoomStep); }
+  void ZoomOut() { SetZoom(Zoom() / view::kZoomStep); }
 
  signals:
   void CurrentChanged(int page);
@@ -39,16 +37,14 @@ class PageDesk : public QScrollArea {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
-  static constexpr double kZoomStep = 1.25;
-
   void FollowSize();
   void SetScale(double scale);
   bool TurnPage(int wheel);
 
   const PageSource& pages_;
   PageView* sheet_;
-  PageFit fit_ = PageFit::Width;
-  int turned_ = 0;  // how far the wheel went on at the page's end
+  view::PageFit fit_ = view::PageFit::Width;
+  view::Leafing leafing_;
 };
 
 }  // namespace qvzj::qt

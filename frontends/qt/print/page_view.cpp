@@ -32,7 +32,7 @@ void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF sheet(kRoom, kRoom, pages_.PageWidth() * scale_, pages_.PageHeight() * scale_);
-  painter.setPen(QPen(ColorsFor(palette()).strong_border, 1));
+  painter.setPen(QPen(QColor(ColorsFor(palette()).strong_border), 1));
   painter.setBrush(Qt::white);  // paper, whatever the window's colours
   painter.drawRect(sheet.adjusted(-0.5, -0.5, 0.5, 0.5));
   painter.translate(kRoom, kRoom);

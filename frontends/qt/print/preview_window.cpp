@@ -149,8 +149,8 @@ void PreviewWindow::AddSizes(QHBoxLayout& row) {
   width_ = AddButton(row, texts_.width, {});
   whole_ = AddButton(row, texts_.whole, {});
   for (QPushButton* fit : {width_, whole_}) fit->setCheckable(true);
-  connect(width_, &QPushButton::clicked, this, [this] { ChooseFit(PageFit::Width); });
-  connect(whole_, &QPushButton::clicked, this, [this] { ChooseFit(PageFit::WholePage); });
+  connect(width_, &QPushButton::clicked, this, [this] { ChooseFit(view::PageFit::Width); });
+  connect(whole_, &QPushButton::clicked, this, [this] { ChooseFit(view::PageFit::WholePage); });
 }
 
 void PreviewWindow::AddKeys() {
@@ -186,11 +186,11 @@ void PreviewWindow::ShowPage() {
 
 void PreviewWindow::ShowSize() {
   zoom_->setText(QStringLiteral("%1%").arg(qRound(desk_->Zoom() * 100)));
-  width_->setChecked(desk_->Fit() == PageFit::Width);
-  whole_->setChecked(desk_->Fit() == PageFit::WholePage);
+  width_->setChecked(desk_->Fit() == view::PageFit::Width);
+  whole_->setChecked(desk_->Fit() == view::PageFit::WholePage);
 }
 
-void PreviewWindow::ChooseFit(PageFit fit) { desk_->SetFit(fit); }
+void PreviewWindow::ChooseFit(view::PageFit fit) { desk_->SetFit(fit); }
 
 void PreviewWindow::Say(const QString& text) { said_->setText(text); }
 

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <exception>
 
+#include "frontends/view/page_fit.h"
 #include "platform/pages.h"
 
 class QHBoxLayout;
@@ -15,7 +16,6 @@ namespace qvzj::qt {
 
 class PageDesk;
 struct PreviewTexts;
-enum class PageFit;
 
 /// The print preview: pages to leaf through, to print and to save as a PDF file. Page up, page
 /// down, Home and End leaf; the arrows scroll; Ctrl with plus, minus and 0 sizes; Ctrl+P prints,
@@ -41,7 +41,7 @@ class PreviewWindow : public QDialog {
   void Colour();
   void ShowPage();
   void ShowSize();
-  void ChooseFit(PageFit fit);
+  void ChooseFit(view::PageFit fit);
   void Print();
   void SavePdf();
   void Say(const QString& text);

@@ -293,14 +293,6 @@ TEST(PickList, StandsInTheMiddleOfTheScreenAndAnswersTheChosenName) {
   EXPECT_EQ(Shared().myName, "张三");
 }
 
-TEST(Theme, CarriesARowColourOverToADarkPage) {
-  const QPalette light = qt::ThemePalette(qt::Appearance::Light);
-  const QPalette dark = qt::ThemePalette(qt::Appearance::Dark);
-  EXPECT_EQ(qt::RowTint(0xe0e0e0, light), QColor(0xe0, 0xe0, 0xe0));
-  EXPECT_LT(qt::RowTint(0xe0e0e0, dark).lightness(), 100);
-  EXPECT_GT(qt::RowTint(0xe0e0e0, dark).lightness(), dark.color(QPalette::Base).lightness());
-}
-
 TEST(Theme, LinesAmountsUp) {
   const QFontMetrics metrics(qt::ThemeFont(false));
   EXPECT_EQ(metrics.horizontalAdvance("1111.11"), metrics.horizontalAdvance("8888.88"));

@@ -145,7 +145,7 @@ TEST_F(Preview, SizesByKeysAndWheel) {
 }
 
 TEST_F(Preview, FollowsTheWindowInTheChosenFit) {
-  EXPECT_EQ(window_.Desk().Fit(), qt::PageFit::Width);
+  EXPECT_EQ(window_.Desk().Fit(), view::PageFit::Width);
   const double wide = window_.Desk().Zoom();
   window_.resize(window_.width() - 200, window_.height());
   QApplication::processEvents();
