@@ -8,41 +8,16 @@
 #include <QPointer>
 #include <QPushButton>
 
-#include "frontends/qt/native_texts.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
+#include "frontends/view/box_plan.h"
 
 namespace qvzj::qt {
 
 namespace {
 
-constexpr int kIconMask = 0x70;
-constexpr int kOkCancel = 1;
-constexpr int kYesNo = 4;
-
-struct Sign {
-  QColor color;
-  QString mark;
-};
-
-/// What a box shows beside its text; no mark for a plain one.
-Sign SignOf(int style) {
-  switch (style & kIconMask) {
-    case 16:
-      return {QColor(0xc0272d), "×"};
-    case 32:
-      return {QColor(0x2563b8), "?"};
-    case 48:
-      return {QColor(0xb7791f), "!"};
-    case 64:
-      return {QColor(0x2563b8), "i"};
-    default:
-      return {};
-  }
-}
-
 /// A round sign, drawn so that it is sharp at the screen's scaling.
-QPixmap Draw(const Sign& sign, const QWidget& on) {
+QPixmap Draw(const view::BoxSign& sign, const QWidget& on) {
   constexpr int kSize = 32;
   QPixmap pixmap(QSize(kSize, kSize) * on.devicePixelRatio());
   pixmap.setDevicePixelRatio(on.devicePixelRatio());
@@ -50,14 +25,14 @@ QPixmap Draw(const Sign& sign, const QWidget& on) {
   QPainter painter(&pixmap);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(sign.color);
+  painter.setBrush(QColor(sign.color));
   painter.drawEllipse(QRectF(1, 1, kSize - 2, kSize - 2));
   QFont font = ThemeFont(false);
   font.setPixelSize(20);
   font.setBold(true);
   painter.setFont(font);
   painter.setPen(Qt::white);
-  painter.drawText(QRectF(0, 0, kSize, kSize), Qt::AlignCenter, sign.mark);
+  painter.drawText(QRectF(0, 0, kSize, kSize), Qt::AlignCenter, FromUtf8(sign.mark));
   return pixmap;
 }
 
@@ -75,21 +50,18 @@ void QtBoxes::DressBox(QDialog& dialog) const {
 }
 
 Answer QtBoxes::Show(const std::string& text, int style, const std::string& title) {
-  const NativeTexts& texts = TextsOf(language_());
+  const view::BoxPlan plan = view::PlanBox(style, view::TextsOf(language_() == 1));
   const QPointer<QWidget> owner = Owner();
   QMessageBox box(owner);
   box.setWindowTitle(FromUtf8(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(FromUtf8(text));
-  const Sign sign = SignOf(style);
-  if (!sign.mark.isEmpty()) box.setIconPixmap(Draw(sign, box));
+  if (!plan.sign.mark.empty()) box.setIconPixmap(Draw(plan.sign, box));
 
-  const int buttons = style & box::kButtonsMask;
-  const bool yes_no = buttons == kYesNo;
-  QPushButton* accept = box.addButton(yes_no ? texts.yes : texts.ok, QMessageBox::AcceptRole);
+  QPushButton* accept = box.addButton(FromUtf8(plan.accept), QMessageBox::AcceptRole);
   QPushButton* reject = nullptr;
-  if (yes_no || buttons == kOkCancel) {
-    reject = box.addButton(yes_no ? texts.no : texts.cancel, QMessageBox::RejectRole);
+  if (!plan.reject.empty()) {
+    reject = box.addButton(FromUtf8(plan.reject), QMessageBox::RejectRole);
   }
   box.setDefaultButton(accept);
   box.setEscapeButton(reject != nullptr ? reject : accept);
@@ -103,20 +75,19 @@ Answer QtBoxes::Show(const std::string& text, int style, const std::string& titl
   if (owner) owner->activateWindow();
 
   const bool accepted = reject == nullptr || box.clickedButton() == accept;
-  if (yes_no) return accepted ? Answer::Yes : Answer::No;
-  return accepted ? Answer::Ok : Answer::Cancel;
+  return accepted ? plan.accepted : plan.rejected;
 }
 
 std::optional<std::string> QtBoxes::Input(const std::string& prompt, const std::string& title,
                                           const std::string& preset) {
-  const NativeTexts& texts = TextsOf(language_());
+  const view::Texts& texts = view::TextsOf(language_() == 1);
   const QPointer<QWidget> owner = Owner();
   QInputDialog dialog(owner);
   dialog.setWindowTitle(FromUtf8(title));
   dialog.setLabelText(FromUtf8(prompt));
   dialog.setTextValue(FromUtf8(preset));
-  dialog.setOkButtonText(texts.ok);
-  dialog.setCancelButtonText(texts.cancel);
+  dialog.setOkButtonText(FromUtf8(texts.ok));
+  dialog.setCancelButtonText(FromUtf8(texts.cancel));
   dialog.setMinimumWidth(360);
   DressBox(dialog);
   const bool accepted = dialog.exec() == QDialog::Accepted;

@@ -19,11 +19,10 @@
 #include <utility>
 
 #include "frontends/qt/form_window.h"
-#include "frontends/qt/keys.h"
 #include "frontends/qt/line_link.h"
-#include "frontends/qt/native_texts.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
+#include "frontends/view/texts.h"
 
 namespace qvzj::qt {
 
@@ -72,9 +71,8 @@ ComboView::ComboView(FormWindow& window, ui::ComboBox& combo, QWidget* parent)
   native_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   if (combo_.Editable()) {
     native_->setCompleter(nullptr);  // what stands in the box is what was typed
-    link_ = std::make_unique<LineLink>(
-        *native_->lineEdit(), combo_, [this](const std::function<bool()>& act) { return Act(act); },
-        [this] { return Live(); }, TextsOf(window.Traditional() ? 1 : 0).shortened);
+    link_ = std::make_unique<LineLink>(*native_->lineEdit(), combo_, window.Pump(),
+                                       FromUtf8(view::TextsOf(window.Traditional()).shortened));
   }
   Adopt(native_, native_->lineEdit());
   connect(native_, &QComboBox::activated, this, [this](int index) {
@@ -86,12 +84,12 @@ ComboView::ComboView(FormWindow& window, ui::ComboBox& combo, QWidget* parent)
 ComboView::~ComboView() = default;
 
 void ComboView::CommitEdit() {
-  if (link_ && !link_->Editing()) CommitComposition();
+  if (link_ && !link_->Session().Editing()) CommitComposition();
 }
 
 void ComboView::SendKey(const ui::Key& key) {
   if (link_) {
-    link_->Key(key);
+    link_->Session().Key(key);
   } else {
     ControlView::SendKey(key);
   }
@@ -110,7 +108,7 @@ void ComboView::Mirror(ui::Aspect aspect) {
       ShowText();
       return;
     case ui::Aspect::Selection:
-      if (link_) link_->ShowSelection();
+      if (link_) link_->Session().ShowSelection();
       return;
     case ui::Aspect::Locked:
       native_->setProperty("qvReadOnly", combo_.Locked());
@@ -140,23 +138,11 @@ void ComboView::ShowText() {
     native_->setCurrentIndex(combo_.ListIndex());
   }
   if (link_) {
-    link_->ShowText();
+    link_->Session().ShowText();
   } else {
     // A list-only box shows a text that is not in its list as if it were.
     native_->setPlaceholderText(FromUtf8(combo_.Shown(combo_.Text())));
   }
-}
-
-bool ComboView::IsModelKey(const ui::Key& key) const {
-  using Name = ui::Key::Name;
-  if (IsFormKey(key) || (link_ && LineLink::TakesKey(key))) return true;
-  if (key.ctrl || key.alt) return false;
-  if (combo_.Editable()) {
-    return key.name == Name::Up || key.name == Name::Down || key.name == Name::PageUp ||
-           key.name == Name::PageDown;
-  }
-  return key.name == Name::Delete || key.name == Name::Backspace || key.name == Name::Character ||
-         IsListKey(key);
 }
 
 bool ComboView::eventFilter(QObject* watched, QEvent* event) {
@@ -183,11 +169,6 @@ ListView::ListView(FormWindow& window, ui::ListBox& list, QWidget* parent)
 }
 
 QWidget* ListView::Widget() const { return native_; }
-
-bool ListView::IsModelKey(const ui::Key& key) const {
-  const bool letter = key.name == ui::Key::Name::Character && !key.ctrl && !key.alt;
-  return letter || IsListKey(key) || IsFormKey(key);
-}
 
 void ListView::Mirror(ui::Aspect aspect) {
   ControlView::Mirror(aspect);
@@ -287,13 +268,6 @@ DateView::DateView(FormWindow& window, ui::DatePicker& picker, QWidget* parent)
 }
 
 QWidget* DateView::Widget() const { return native_; }
-
-bool DateView::IsModelKey(const ui::Key& key) const {
-  using Name = ui::Key::Name;
-  const bool steps = key.name == Name::Up || key.name == Name::Down || key.name == Name::PageUp ||
-                     key.name == Name::PageDown;
-  return (steps && IsListKey(key)) || IsFormKey(key);
-}
 
 void DateView::Mirror(ui::Aspect aspect) {
   ControlView::Mirror(aspect);

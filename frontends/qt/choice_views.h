@@ -22,7 +22,6 @@ class ComboView : public ControlView {
 
  protected:
   bool FocusesOnPress() const override { return true; }
-  bool IsModelKey(const ui::Key& key) const override;
   void SendKey(const ui::Key& key) override;
 
  private:
@@ -42,7 +41,6 @@ class ListView : public ControlView {
 
  protected:
   bool FocusesOnPress() const override { return true; }
-  bool IsModelKey(const ui::Key& key) const override;
 
  private:
   void ShowItems();
@@ -60,7 +58,6 @@ class DateView : public ControlView {
 
  protected:
   bool FocusesOnPress() const override { return true; }
-  bool IsModelKey(const ui::Key& key) const override;
 
  private:
   ui::DatePicker& picker_;

@@ -4,7 +4,6 @@
 
 #include "frontends/qt/ask_file.h"
 #include "frontends/qt/form_window.h"
-#include "frontends/qt/native_texts.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/work_dialog.h"
 #include "platform/surroundings.h"
@@ -13,49 +12,33 @@ namespace qvzj::qt {
 
 namespace {
 
-std::string TitleOf(const FormWindow& window, const ui::Grid& grid) {
-  return grid.offers.title ? grid.offers.title() : window.GetForm().Caption();
+ExportResult WriteWithProgress(FormWindow& window, ExportRequest request, ExportFormat format,
+                               const view::Texts& texts) {
+  WorkDialog work(&window, FromUtf8(request.title), FromUtf8(texts.exporting),
+                  window.Traditional());
+  request.progress = work.AsProgress();
+  return Around().exporter->Export(request, format);
 }
 
 }  // namespace
 
 void ExportGrid(FormWindow& window, const ui::Grid& grid, const std::vector<int32_t>& columns,
-                const NativeTexts& texts) {
-  constexpr ExportFormat kFormats[] = {ExportFormat::Xlsx, ExportFormat::CsvUtf8,
-                                       ExportFormat::CsvGb18030};
-  const QString title = FromUtf8(TitleOf(window, grid));
-  const FileQuestion question{
-      title,
-      title,
-      {{texts.excel_file, "xlsx"}, {texts.csv_utf8_file, "csv"}, {texts.csv_gb_file, "csv"}}};
-  const FileAnswer answer = AskSaveFile(window, question, window.Traditional());
-  if (answer.path.isEmpty()) return;
-  WriteGrid(window, grid, columns, texts, answer.path, kFormats[answer.type]);
+                const view::Texts& texts) {
+  const view::FileAnswer answer = AskSaveFile(
+      window, view::ExportQuestion(view::ExportTitle(grid), texts), window.Traditional());
+  if (answer.path.empty()) return;
+  WriteGrid(window, view::RequestOf(grid, columns, answer.path), view::FormatOf(answer), texts);
 }
 
-void WriteGrid(FormWindow& window, const ui::Grid& grid, const std::vector<int32_t>& columns,
-               const NativeTexts& texts, const QString& path, ExportFormat format) {
-  ExportRequest request;
-  request.grid = &grid;
-  request.columns = columns;
-  request.title = TitleOf(window, grid);
-  if (grid.offers.totals) request.totals = grid.offers.totals();
-  request.path = ToUtf8(path);
+void WriteGrid(FormWindow& window, ExportRequest request, ExportFormat format,
+               const view::Texts& texts) {
   try {
-    ExportResult result;
-    {
-      WorkDialog work(&window, FromUtf8(request.title), texts.exporting, window.Traditional());
-      request.progress = work.AsProgress();
-      result = Around().exporter->Export(request, format);
-    }
+    const ExportResult result = WriteWithProgress(window, request, format, texts);
     if (result.cancelled) return;
-    QString said = texts.exported.arg(result.rows).arg(path);
-    if (result.sheets > 1) said += "\n" + texts.sheets.arg(result.sheets);
-    if (result.lost_characters > 0) said += "\n" + texts.lost.arg(result.lost_characters);
-    Around().boxes->Show(ToUtf8(said), box::kInformation, request.title);
+    Around().boxes->Show(view::ExportReport(result, request.path, texts), box::kInformation,
+                         request.title);
   } catch (const std::exception& error) {
-    const QString reason = FromUtf8(error.what());
-    Around().boxes->Error(ToUtf8(texts.not_exported.arg(reason)), request.title);
+    Around().boxes->Error(view::Fill(texts.not_exported, {error.what()}), request.title);
   }
 }
 

@@ -9,17 +9,17 @@
 
 #include "frontends/qt/calm_style.h"
 #include "frontends/qt/composition.h"
-#include "frontends/qt/native_texts.h"
+#include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 
 namespace qvzj::qt {
 
-FindBar::FindBar(QWidget* over, const NativeTexts& texts,
+FindBar::FindBar(QWidget* over, const view::Texts& texts,
                  std::function<bool(const QString&, bool)> find, std::function<void()> closed)
     : QWidget(over),
       line_(new QLineEdit(this)),
       answer_(new QLabel(this)),
-      not_found_(texts.not_found),
+      not_found_(FromUtf8(texts.not_found)),
       find_(std::move(find)),
       closed_(std::move(closed)) {
   auto* row = new QHBoxLayout(this);
@@ -29,8 +29,8 @@ FindBar::FindBar(QWidget* over, const NativeTexts& texts,
   answer_->hide();
   line_->setMinimumWidth(200);
   line_->setClearButtonEnabled(true);
-  line_->setPlaceholderText(texts.find_here);
-  line_->setAccessibleName(texts.find_here);
+  line_->setPlaceholderText(FromUtf8(texts.find_here));
+  line_->setAccessibleName(FromUtf8(texts.find_here));
   line_->installEventFilter(this);
   over->installEventFilter(this);
   hide();

@@ -4,13 +4,12 @@
 #include <functional>
 
 #include "frontends/view/composition.h"
+#include "frontends/view/texts.h"
 
 class QLabel;
 class QLineEdit;
 
 namespace qvzj::qt {
-
-struct NativeTexts;
 
 /// A line over the upper right corner of a grid in which the user puts what to look for. Enter
 /// goes to the next place, Shift+Enter to the one before, Esc closes.
@@ -18,7 +17,7 @@ class FindBar : public QWidget {
  public:
   /// `find` goes to the next place of a text (backwards: the one before) and answers whether there
   /// is one; `closed` is told when the user is done.
-  FindBar(QWidget* over, const NativeTexts& texts,
+  FindBar(QWidget* over, const view::Texts& texts,
           std::function<bool(const QString&, bool backwards)> find, std::function<void()> closed);
 
   void Open();

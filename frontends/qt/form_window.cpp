@@ -13,17 +13,18 @@
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 #include "frontends/view/measure.h"
+#include "frontends/view/view_plan.h"
 
 namespace qvzj::qt {
 
 FormWindow::FormWindow(ui::Form& form, const WindowOptions& options, QWidget* parent)
-    : QWidget(parent, Qt::Window), form_(&form), options_(options) {
+    : QWidget(parent, Qt::Window), pump_(form, Hooks()), options_(options) {
   setObjectName(FromUtf8(form.Name()));
   setFocusPolicy(Qt::NoFocus);
   ApplyTheme();
   TakeInitialSize();
   MakeSeen();
-  form_->AddObserver(this);
+  form.AddObserver(this);
   FormChanged(form, ui::Aspect::Caption);
   FormChanged(form, ui::Aspect::MousePointer);
   Flush();
@@ -34,13 +35,12 @@ FormWindow::~FormWindow() { Detach(); }
 void FormWindow::Detach() {
   if (!Live()) return;
   SetHourglass(false);
-  form_->RemoveObserver(this);
+  GetForm().RemoveObserver(this);
   for (const auto& [control, view] : views_) view->Detach();
-  stale_.clear();
-  form_ = nullptr;
+  pump_.Detach();
 }
 
-bool FormWindow::Resizable() const { return Live() && form_->onResize != nullptr; }
+bool FormWindow::Resizable() const { return Live() && view::IsResizable(GetForm()); }
 
 bool FormWindow::Traditional() const { return options_.language && options_.language() == 1; }
 
@@ -51,8 +51,8 @@ void FormWindow::ApplyTheme() {
 }
 
 void FormWindow::TakeInitialSize() {
-  const QSize wanted(view::ToPixels(form_->Width(), logicalDpiX()),
-                     view::ToPixels(form_->Height(), logicalDpiY()));
+  const QSize wanted(view::ToPixels(GetForm().Width(), logicalDpiX()),
+                     view::ToPixels(GetForm().Height(), logicalDpiY()));
   if (!Resizable()) {
     setFixedSize(wanted);
     return;
@@ -69,9 +69,7 @@ QWidget* FormWindow::ParentFor(ui::Control& control) {
 }
 
 void FormWindow::MakeSeen() {
-  for (ui::Control* control : form_->Controls()) {
-    if (control->OnScreen()) ViewOf(*control);
-  }
+  for (ui::Control* control : view::SeenControls(GetForm())) ViewOf(*control);
 }
 
 ControlView* FormWindow::MadeView(const ui::Control& control) const {
@@ -80,14 +78,14 @@ ControlView* FormWindow::MadeView(const ui::Control& control) const {
 }
 
 ControlView* FormWindow::ViewOf(ui::Control& control) {
-  if (control.GetKind() == ui::Kind::Menu) return nullptr;
+  if (!view::HasView(control)) return nullptr;
   ControlView* made = MadeView(control);
   return made != nullptr ? made : Make(control);
 }
 
 std::vector<ControlView*> FormWindow::Views() {
   std::vector<ControlView*> views;
-  for (ui::Control* control : form_->Controls()) {
+  for (ui::Control* control : GetForm().Controls()) {
     if (ControlView* view = ViewOf(*control)) views.push_back(view);
   }
   return views;
@@ -103,62 +101,23 @@ ControlView* FormWindow::Make(ui::Control& control) {
 }
 
 void FormWindow::PutInTurn(const ui::Control& control, QWidget& widget) {
-  // Which of two neighbours lies above the other, and which is read out first, is the form's order.
-  const std::vector<ui::Control*>& all = form_->Controls();
-  for (auto next = std::find(all.rbegin(), all.rend(), &control).base(); next != all.end();
-       ++next) {
-    const ControlView* view = MadeView(**next);
-    if (view == nullptr || view->Widget()->parentWidget() != widget.parentWidget()) continue;
-    widget.stackUnder(view->Widget());
-    return;
-  }
+  const ui::Control* above = view::StackedUnder(
+      GetForm(), control, [this](const ui::Control& other) { return MadeView(other) != nullptr; });
+  if (above != nullptr) widget.stackUnder(MadeView(*above)->Widget());
 }
 
-bool FormWindow::Act(const std::function<bool()>& act) {
-  if (!Live()) return false;
-  const QPointer<FormWindow> self(this);
-  if (acts_ == 0 && form_->Focused() != nullptr) {
-    if (ControlView* focused = ViewOf(*form_->Focused())) focused->CommitEdit();
-    if (!self || !Live()) return false;
-  }
-  ++acts_;
-  const bool done = act();
-  if (!self) return false;
-  --acts_;
-  if (!Live()) return false;
-  if (acts_ == 0) Flush();
-  return done;
-}
-
-void FormWindow::PutOff(ControlView& view) {
-  stale_.insert(&view);
-  FlushLater();
-}
-
-void FormWindow::FlushLater() {
-  // An act that waits in a message box shows its state meanwhile.
-  if (flush_posted_) return;
-  flush_posted_ = true;
-  QMetaObject::invokeMethod(
-      this,
-      [this] {
-        flush_posted_ = false;
-        Flush();
-      },
-      Qt::QueuedConnection);
-}
-
-void FormWindow::Flush() {
-  if (!Live()) return;
-  while (!stale_.empty()) {
-    const auto batch = std::exchange(stale_, {});
-    for (ControlView* view : batch) view->Refresh();
-  }
-  SyncFocus();
+view::PumpHooks FormWindow::Hooks() {
+  return {[this](std::function<void()> step) {
+            QMetaObject::invokeMethod(this, std::move(step), Qt::QueuedConnection);
+          },
+          [this](ui::Control& control) {
+            if (ControlView* view = ViewOf(control)) view->CommitEdit();
+          },
+          [this](ui::Control& control) { ViewOf(control)->Refresh(); }, [this] { SyncFocus(); }};
 }
 
 void FormWindow::SyncFocus() {
-  ui::Control* focused = form_->Focused();
+  ui::Control* focused = GetForm().Focused();
   ControlView* view = focused == nullptr ? nullptr : ViewOf(*focused);
   QWidget* wanted = view == nullptr ? this : view->FocusWidget();
   // An editor inside the widget, such as the find line of a grid, counts as the widget.
@@ -169,13 +128,12 @@ void FormWindow::SyncFocus() {
 
 void FormWindow::ControlChanged(ui::Control& control, ui::Aspect aspect) {
   if (aspect == ui::Aspect::Focus) {
-    FlushLater();
+    pump_.FlushLater();
     return;
   }
   if (ControlView* view = MadeView(control)) view->Mirror(aspect);
   // What has come to the screen with it (a panel, a tab page) may have no views so far.
-  const bool shows = aspect == ui::Aspect::Visible || aspect == ui::Aspect::Tabs;
-  if (shows && control.OnScreen()) MakeSeen();
+  if (view::MayShowMore(control, aspect)) MakeSeen();
 }
 
 void FormWindow::FormChanged(ui::Form& form, ui::Aspect aspect) {
@@ -184,7 +142,7 @@ void FormWindow::FormChanged(ui::Form& form, ui::Aspect aspect) {
       setWindowTitle(FromUtf8(form.Caption()));
       return;
     case ui::Aspect::Focus:
-      FlushLater();
+      pump_.FlushLater();
       return;
     case ui::Aspect::MousePointer:
       SetHourglass(form.GetMousePointer() == ui::MousePointer::Hourglass);
@@ -219,9 +177,8 @@ void FormWindow::PopUpMenu(ui::Form&, ui::MenuItem& menu, int32_t left, int32_t 
 }
 
 void FormWindow::FillMenu(QMenu& native, ui::MenuItem& menu) {
-  for (ui::Control* control : form_->Controls()) {
-    if (control->Container() != &menu || !control->Visible()) continue;
-    if (control->Caption() == "-") {
+  for (ui::Control* control : view::MenuEntries(GetForm(), menu)) {
+    if (view::IsSeparator(*control)) {
       native.addSeparator();
       continue;
     }
@@ -230,7 +187,7 @@ void FormWindow::FillMenu(QMenu& native, ui::MenuItem& menu) {
     // The menu must be gone before the act, which may open a box.
     connect(
         action, &QAction::triggered, this,
-        [this, control] { Act([this, control] { return form_->UserClick(*control); }); },
+        [this, control] { Act([this, control] { return GetForm().UserClick(*control); }); },
         Qt::QueuedConnection);
   }
 }
@@ -239,7 +196,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   if (!Live()) return;
   event->ignore();  // the form decides; its end closes the window
   Act([this] {
-    form_->UserClose();
+    GetForm().UserClose();
     return true;
   });
   if (!Live()) event->accept();
@@ -251,8 +208,8 @@ void FormWindow::ReportSize() {
                                 : isMaximized() ? ui::WindowState::Maximised
                                                 : ui::WindowState::Normal;
   Act([&] {
-    return form_->UserResize(view::ToTwips(width(), logicalDpiX()),
-                             view::ToTwips(height(), logicalDpiY()), state);
+    return GetForm().UserResize(view::ToTwips(width(), logicalDpiX()),
+                                view::ToTwips(height(), logicalDpiY()), state);
   });
 }
 
@@ -277,22 +234,22 @@ bool FormWindow::event(QEvent* event) {
 void FormWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   ReportSize();
-  FlushLater();
+  pump_.FlushLater();
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   // No control has the focus: the form's own keys still work.
   const std::optional<ui::Key> key = KeyOf(*event);
-  if (!Live() || !key || !IsFormKey(*key)) {
+  if (!Live() || !key || view::RouteOf(nullptr, *key) != view::KeyRoute::Form) {
     QWidget::keyPressEvent(event);
     return;
   }
-  Act([&] { return form_->UserKey(*key); });
+  Act([&] { return GetForm().UserKey(*key); });
 }
 
 bool FormWindow::focusNextPrevChild(bool) {
   // Tab is the form's; a hidden widget hands its focus to whatever the form says.
-  FlushLater();
+  pump_.FlushLater();
   return true;
 }
 

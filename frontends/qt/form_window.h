@@ -4,10 +4,10 @@
 #include <functional>
 #include <memory>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 #include "frontends/qt/view.h"
+#include "frontends/view/act_pump.h"
 #include "platform/ui/form.h"
 
 class QMenu;
@@ -34,17 +34,16 @@ class FormWindow : public QWidget, private ui::FormObserver {
   /// The form has been unloaded: lets go of it. The window may be deleted any time later.
   void Detach();
   /// False after Detach.
-  bool Live() const { return form_ != nullptr; }
-  ui::Form& GetForm() const { return *form_; }
+  bool Live() const { return pump_.Live(); }
+  ui::Form& GetForm() const { return pump_.GetForm(); }
   const WindowOptions& Options() const { return options_; }
 
   /// Runs a user's act on the form, then brings the window in step with it. False when the act was
   /// refused or the form has gone meanwhile.
-  bool Act(const std::function<bool()>& act);
-  /// Shows the view's contents at the end of the running act rather than at once.
-  void PutOff(ControlView& view);
+  bool Act(const std::function<bool()>& act) { return pump_.Act(act); }
+  view::ActPump& Pump() { return pump_; }
   /// Shows now what was put off until the end of an act (grid contents, the focus).
-  void Flush();
+  void Flush() { pump_.Flush(); }
   /// True while the window itself moves the native focus.
   bool Following() const { return following_; }
   /// The view of a control, made now when it was never seen so far; null for menu entries.
@@ -53,7 +52,6 @@ class FormWindow : public QWidget, private ui::FormObserver {
   std::vector<ControlView*> Views();
   /// True when the module speaks traditional Chinese.
   bool Traditional() const;
-  /// True for a form that arranges itself to its window; others are dialogs of fixed size.
   bool Resizable() const;
 
  protected:
@@ -82,15 +80,13 @@ class FormWindow : public QWidget, private ui::FormObserver {
   void SetHourglass(bool on);
   void ReportSize();
   void FillMenu(QMenu& native, ui::MenuItem& menu);
-  void FlushLater();
   QWidget* ParentFor(ui::Control& control);
 
-  ui::Form* form_;
+  view::PumpHooks Hooks();
+
+  view::ActPump pump_;
   WindowOptions options_;
   std::unordered_map<const ui::Control*, std::unique_ptr<ControlView>> views_;
-  std::unordered_set<ControlView*> stale_;  // views whose contents are put off
-  int acts_ = 0;                            // depth of running acts
-  bool flush_posted_ = false;
   bool hourglass_ = false;
   bool following_ = false;
 };

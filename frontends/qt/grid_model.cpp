@@ -7,36 +7,25 @@
 
 namespace qvzj::qt {
 
-using basic::Column;
-
 void GridModel::Refresh() {
-  if (grid_ == nullptr) return;
-  const bool resized = grid_->RowCount() != rows_ || grid_->ColumnCount() != columns_;
+  const bool resized = cells_.Resized();
   if (resized) beginResetModel();
-  rows_ = grid_->RowCount();
-  columns_ = grid_->ColumnCount();
-  row_number_size_ = HeaderSize(QString::number(rows_));
-  numeric_.assign(static_cast<size_t>(columns_), false);
-  for (int column = 0; column < columns_; ++column) {
-    const Column::Kind kind = grid_->Stored(column + 1).GetKind();
-    numeric_[static_cast<size_t>(column)] = kind == Column::Kind::Real ||
-                                            kind == Column::Kind::Integer ||
-                                            grid_->ColumnDecimals(column + 1) >= 0;
-  }
+  cells_.TakeSize();
+  row_number_size_ = HeaderSize(QString::number(cells_.Rows()));
   if (resized) {
     endResetModel();
     return;
   }
   // The same size, as after a sort: the place on the screen is kept.
-  if (rows_ > 0 && columns_ > 0) emit dataChanged(index(0, 0), index(rows_ - 1, columns_ - 1));
-  if (columns_ > 0) emit headerDataChanged(Qt::Horizontal, 0, columns_ - 1);
+  const int rows = cells_.Rows();
+  const int columns = cells_.Columns();
+  if (rows > 0 && columns > 0) emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
+  if (columns > 0) emit headerDataChanged(Qt::Horizontal, 0, columns - 1);
 }
 
 void GridModel::Detach() {
   beginResetModel();
-  grid_ = nullptr;
-  rows_ = 0;
-  columns_ = 0;
+  cells_.Detach();
   endResetModel();
 }
 
@@ -56,65 +45,35 @@ QSize GridModel::HeaderSize(const QString& text) const {
           metrics.height() + 2 * header_margin_};
 }
 
-bool GridModel::IsNumeric(int column) const { return numeric_.at(static_cast<size_t>(column)); }
-
-bool GridModel::HasNumber(int row, int column) const {
-  if (!Inside(row, column)) return false;
-  const Column::Kind kind = grid_->Stored(column + 1).GetKind();
-  const bool number = kind == Column::Kind::Real || kind == Column::Kind::Integer;
-  return number && !grid_->CellEmpty(column + 1, row + 1);
+int GridModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : cells_.Rows();
 }
-
-double GridModel::Number(int row, int column) const {
-  return Inside(row, column) ? grid_->CellNumber(column + 1, row + 1) : 0;
-}
-
-bool GridModel::ShowsNegative(int row, int column) const {
-  // What is left of a sum below half a cent is shown as 0.00.
-  return HasNumber(row, column) && Number(row, column) < 0 && Text(row, column).startsWith('-');
-}
-
-QString GridModel::Text(int row, int column) const {
-  return Inside(row, column) ? FromUtf8(grid_->CellText(column + 1, row + 1)) : QString();
-}
-
-QString GridModel::Header(int column) const {
-  if (grid_ == nullptr || column < 0 || column >= grid_->ColumnCount()) return {};
-  return FromUtf8(grid_->Header(column + 1));
-}
-
-bool GridModel::Inside(int row, int column) const {
-  return grid_ != nullptr && row >= 0 && column >= 0 && row < grid_->RowCount() &&
-         column < grid_->ColumnCount();
-}
-
-int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
 
 int GridModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : columns_;
+  return parent.isValid() ? 0 : cells_.Columns();
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
-  const int row = index.row();
-  const int column = index.column();
-  if (!Inside(row, column)) return {};
+  const int row = index.row() + 1;
+  const int column = index.column() + 1;
   switch (role) {
     case Qt::DisplayRole:
-      return Text(row, column);
+      return FromUtf8(cells_.Text(column, row));
     case Qt::TextAlignmentRole:
-      return QVariant::fromValue(Qt::AlignVCenter |
-                                 (IsNumeric(column) ? Qt::AlignRight : Qt::AlignLeft));
+      return QVariant::fromValue(Side(column));
     case Qt::ForegroundRole:
-      if (ShowsNegative(row, column)) return QBrush(negative_);
+      if (cells_.ShowsNegative(column, row)) return QBrush(negative_);
       return {};
     case Qt::BackgroundRole:
-      if (const auto color = grid_->RowColor(row + 1)) {
-        return QBrush(QColor(view::RowTint(*color, IsDark(palette_))));
-      }
+      if (const auto color = cells_.RowColor(row, IsDark(palette_))) return QBrush(QColor(*color));
       return {};
     default:
       return {};
   }
+}
+
+Qt::Alignment GridModel::Side(int column) const {
+  return Qt::AlignVCenter | (cells_.IsNumeric(column) ? Qt::AlignRight : Qt::AlignLeft);
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -127,12 +86,10 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
       return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
     return {};
   }
-  if (role == Qt::DisplayRole) return Header(section);
-  if (role == Qt::SizeHintRole) return HeaderSize(Header(section));
-  if (role == Qt::TextAlignmentRole) {
-    const bool numeric = section < columns_ && IsNumeric(section);
-    return QVariant::fromValue(Qt::AlignVCenter | (numeric ? Qt::AlignRight : Qt::AlignLeft));
-  }
+  const QString header = FromUtf8(cells_.Header(section + 1));
+  if (role == Qt::DisplayRole) return header;
+  if (role == Qt::SizeHintRole) return HeaderSize(header);
+  if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Side(section + 1));
   return {};
 }
 

@@ -4,9 +4,8 @@
 #include <QColor>
 #include <QFont>
 #include <QPalette>
-#include <vector>
 
-#include "platform/ui/grid.h"
+#include "frontends/view/grid_cells.h"
 
 namespace qvzj::qt {
 
@@ -14,7 +13,7 @@ namespace qvzj::qt {
 /// straight out of the packed columns. Rows and columns are 0-based here and 1-based there.
 class GridModel : public QAbstractTableModel {
  public:
-  explicit GridModel(ui::Grid& grid) : grid_(&grid) {}
+  explicit GridModel(const ui::Grid& grid) : cells_(grid) {}
 
   /// The grid's contents changed: takes over its size and tells the views.
   void Refresh();
@@ -26,15 +25,7 @@ class GridModel : public QAbstractTableModel {
   /// that the views ask for again and again, some hundred header sections at a time.
   void SetHeaderLook(const QFont& font, int margin);
 
-  /// True for a column of numbers.
-  bool IsNumeric(int column) const;
-  /// True when the cell holds a number (not an empty cell of a number column).
-  bool HasNumber(int row, int column) const;
-  double Number(int row, int column) const;
-  /// True for an amount below zero that is also shown as one.
-  bool ShowsNegative(int row, int column) const;
-  QString Text(int row, int column) const;
-  QString Header(int column) const;
+  const view::GridCells& Cells() const { return cells_; }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -42,13 +33,11 @@ class GridModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
-  bool Inside(int row, int column) const;
   QSize HeaderSize(const QString& text) const;
+  /// Of a column (1-based).
+  Qt::Alignment Side(int column) const;
 
-  ui::Grid* grid_;
-  int rows_ = 0;  // as the views were last told; the grid itself may be ahead
-  int columns_ = 0;
-  std::vector<bool> numeric_;
+  view::GridCells cells_;
   QPalette palette_;
   QColor negative_;
   QFont header_font_;

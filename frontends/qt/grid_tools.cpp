@@ -2,22 +2,19 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
-#include <algorithm>
 
+#include "frontends/qt/column_keeper.h"
 #include "frontends/qt/export_grid.h"
 #include "frontends/qt/find_bar.h"
-#include "frontends/qt/find_text.h"
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/grid_model.h"
 #include "frontends/qt/grid_view.h"
-#include "frontends/qt/native_texts.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
-#include "platform/basic/number.h"
+#include "frontends/view/grid_find.h"
+#include "frontends/view/grid_selection.h"
 #include "platform/surroundings.h"
 
 namespace qvzj::qt {
@@ -48,59 +45,45 @@ FindBar& GridTools::Bar() {
   return *find_bar_;
 }
 
-const NativeTexts& GridTools::Texts() const {
-  return TextsOf(view_.Window().Traditional() ? 1 : 0);
-}
+const view::Texts& GridTools::Texts() const { return view::TextsOf(view_.Window().Traditional()); }
 
-bool GridTools::HandleKey(const QKeyEvent& event) {
-  const bool copies = event.matches(QKeySequence::Copy);
-  const bool finds = event.matches(QKeySequence::Find);
-  const bool again = event.key() == Qt::Key_F3;
-  if (event.type() == QEvent::KeyPress) {
-    if (copies) Copy();
-    if (finds) OpenFind();
-    if (again) Bar().Next();
+void GridTools::Do(view::GridAct act) {
+  switch (act) {
+    case view::GridAct::CopyRows:
+      Copy();
+      return;
+    case view::GridAct::Find:
+      OpenFind();
+      return;
+    case view::GridAct::FindAgain:
+      Bar().Next();
+      return;
+    case view::GridAct::Export:
+      Export();
+      return;
+    case view::GridAct::Print:
+      Print();
+      return;
+    case view::GridAct::ResetColumns:
+      view_.Columns().Reset();
+      return;
   }
-  return copies || finds || again;
 }
 
-std::vector<int> GridTools::ShownColumns() const {
-  std::vector<int> columns;
-  const QHeaderView* header = view_.Table()->horizontalHeader();
-  for (int place = 0; place < header->count(); ++place) {
-    const int column = header->logicalIndex(place);
-    if (!header->isSectionHidden(column)) columns.push_back(column);
-  }
-  return columns;
+std::vector<int32_t> GridTools::ShownColumns() const {
+  return view::VisibleColumns(view_.GetGrid(), view_.Columns().Order());
 }
 
-std::vector<int> GridTools::SelectedRows() const {
-  // By ranges: a selection of a million rows is one of them.
-  std::vector<int> rows;
+std::vector<int32_t> GridTools::SelectedRows() const {
+  std::vector<view::RowRange> ranges;
   for (const QItemSelectionRange& range : view_.Table()->selectionModel()->selection()) {
-    for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row);
+    ranges.push_back({range.top() + 1, range.bottom() + 1});
   }
-  std::sort(rows.begin(), rows.end());
-  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-  return rows;
+  return view::RowsOf(ranges);
 }
 
 QString GridTools::SelectedText() const {
-  const std::vector<int> columns = ShownColumns();
-  QString text;
-  const auto add_line = [&](const auto& cell) {
-    for (size_t i = 0; i < columns.size(); ++i) {
-      if (i > 0) text += QLatin1Char('\t');
-      // A tab or a line end inside a cell would be taken for the next cell.
-      text += cell(columns[i]).simplified();
-    }
-    text += QLatin1Char('\n');
-  };
-  add_line([&](int column) { return FromUtf8(view_.GetGrid().PlainHeader(column + 1)); });
-  for (int row : SelectedRows()) {
-    add_line([&](int column) { return view_.Model().Text(row, column); });
-  }
-  return text;
+  return FromUtf8(view::CopiedText(view_.GetGrid(), ShownColumns(), SelectedRows()));
 }
 
 void GridTools::Copy() {
@@ -110,19 +93,7 @@ void GridTools::Copy() {
 }
 
 QString GridTools::Summary() const {
-  const std::vector<int> rows = SelectedRows();
-  if (rows.size() < 2) return {};
-  QStringList parts{Texts().selected.arg(rows.size())};
-  const ui::Grid& grid = view_.GetGrid();
-  for (int column : ShownColumns()) {
-    if (!grid.ColumnSummed(column + 1)) continue;
-    basic::Sum sum;
-    for (int row : rows) sum.Add(view_.Model().Number(row, column));
-    const int decimals = std::max(grid.ColumnDecimals(column + 1), 0);
-    parts << Texts().sum.arg(FromUtf8(grid.PlainHeader(column + 1)),
-                             FromUtf8(basic::FormatFixed(sum.Value(), decimals)));
-  }
-  return parts.join(QStringLiteral("    "));
+  return FromUtf8(view::SelectionSummary(view_.GetGrid(), ShownColumns(), SelectedRows(), Texts()));
 }
 
 void GridTools::ShowSummary() {
@@ -138,7 +109,7 @@ void GridTools::ShowSummary() {
 
 bool GridTools::Find(const QString& text, bool backwards) {
   ui::Grid& grid = view_.GetGrid();
-  const auto found = FindText(grid, ToUtf8(text), backwards);
+  const auto found = view::FindText(grid, ShownColumns(), ToUtf8(text), backwards);
   if (!found) return false;
   const bool moved =
       view_.Window().Act([&] { return grid.GetForm().UserCell(grid, found->column, found->row); });
@@ -153,11 +124,7 @@ void GridTools::OpenFind() {
   if (view_.Window().Act([&] { return grid.GetForm().UserFocus(grid); })) Bar().Open();
 }
 
-void GridTools::Export() {
-  std::vector<int32_t> columns;
-  for (int column : ShownColumns()) columns.push_back(column + 1);
-  ExportGrid(view_.Window(), view_.GetGrid(), columns, Texts());
-}
+void GridTools::Export() { ExportGrid(view_.Window(), view_.GetGrid(), ShownColumns(), Texts()); }
 
 void GridTools::Print() {
   ui::Control* button = view_.GetGrid().offers.print;
@@ -166,35 +133,24 @@ void GridTools::Print() {
 
 void GridTools::ShowMenu(const QPoint& at) {
   if (!view_.IsLive()) return;
-  const NativeTexts& texts = Texts();
-  const ui::Grid& grid = view_.GetGrid();
-  const bool filled = grid.RowCount() > 0;
   auto* menu = new QMenu(view_.Table());
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->setFont(view_.Window().font());
   menu->setStyle(ThemeStyle());
-  const auto add = [&](const QString& text, bool enabled, QKeySequence keys, auto act) {
-    QAction* action = menu->addAction(text);
-    action->setEnabled(enabled);
-    if (!keys.isEmpty()) action->setShortcut(keys);
+  const bool exports = Around().exporter != nullptr;
+  for (const view::GridMenuEntry& entry : view::GridMenu(view_.GetGrid(), exports, Texts())) {
+    if (entry.begins_group) menu->addSeparator();
+    QAction* action = menu->addAction(FromUtf8(entry.text));
+    action->setEnabled(entry.enabled);
+    if (!entry.keys.empty()) action->setShortcut(QKeySequence(FromUtf8(entry.keys)));
     // The menu must be gone before the act, which may open a box.
     connect(
         action, &QAction::triggered, this,
-        [this, act] {
-          if (view_.IsLive()) act();
+        [this, act = entry.act] {
+          if (view_.IsLive()) Do(act);
         },
         Qt::QueuedConnection);
-  };
-  add(texts.copy_rows, filled, QKeySequence::Copy, [this] { Copy(); });
-  add(texts.find, filled, QKeySequence::Find, [this] { OpenFind(); });
-  add(texts.find_next, filled, QKeySequence(Qt::Key_F3), [this] { Bar().Next(); });
-  menu->addSeparator();
-  if (Around().exporter != nullptr) add(texts.export_grid, filled, {}, [this] { Export(); });
-  if (grid.offers.print != nullptr) {
-    add(texts.print, filled && grid.offers.print->Usable(), {}, [this] { Print(); });
   }
-  menu->addSeparator();
-  add(texts.reset_columns, true, {}, [this] { view_.ResetColumns(); });
   menu->popup(view_.Table()->viewport()->mapToGlobal(at));
 }
 

@@ -4,7 +4,8 @@
 #include <QString>
 #include <vector>
 
-class QKeyEvent;
+#include "frontends/view/grid_menu.h"
+
 class QLabel;
 class QPoint;
 
@@ -12,7 +13,6 @@ namespace qvzj::qt {
 
 class FindBar;
 class GridView;
-struct NativeTexts;
 
 /// What people expect of any grid: copying the selected rows, finding a text, the number and sums
 /// of the selected rows, and a menu with all of it.
@@ -20,8 +20,7 @@ class GridTools : public QObject {
  public:
   explicit GridTools(GridView& view);
 
-  /// Handles Ctrl+C, Ctrl+F and F3; false for any other key.
-  bool HandleKey(const QKeyEvent& event);
+  void Do(view::GridAct act);
   /// The selected rows under their headers, columns parted by tabs, as the clipboard gets them.
   QString SelectedText() const;
   /// "3 rows, sum of …"; empty while fewer than two rows are selected.
@@ -40,10 +39,10 @@ class GridTools : public QObject {
   /// The bar, made when it is first asked for.
   FindBar& Bar();
   void Print();
-  /// 0-based columns from left to right as the user sees them.
-  std::vector<int> ShownColumns() const;
-  std::vector<int> SelectedRows() const;
-  const NativeTexts& Texts() const;
+  /// From left to right as the user sees them; columns and rows are the grid's, 1-based.
+  std::vector<int32_t> ShownColumns() const;
+  std::vector<int32_t> SelectedRows() const;
+  const view::Texts& Texts() const;
 
   GridView& view_;
   QLabel* summary_;

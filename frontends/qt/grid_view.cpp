@@ -13,7 +13,7 @@
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/grid_model.h"
 #include "frontends/qt/grid_tools.h"
-#include "frontends/qt/keys.h"
+#include "frontends/qt/layout_store.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 #include "frontends/view/measure.h"
@@ -104,18 +104,9 @@ GridView::GridView(FormWindow& window, ui::Grid& grid, QWidget* parent)
   table_->verticalHeader()->setFocusPolicy(Qt::NoFocus);
   table_->viewport()->setFocusPolicy(Qt::NoFocus);
   ConnectTable();
-  columns_ = std::make_unique<ColumnKeeper>(
-      *table_, [this] { return KeptName(); }, window.Options().layouts);
+  columns_ = std::make_unique<ColumnKeeper>(*table_, grid_, window.Options().layouts);
   tools_ = std::make_unique<GridTools>(*this);
 }
-
-QString GridView::KeptName() const {
-  QString name = window_.objectName() + "." + FromUtf8(grid_.FullName());
-  if (grid_.offers.columns) name += "." + FromUtf8(grid_.offers.columns());
-  return name;
-}
-
-void GridView::ResetColumns() { columns_->Reset(); }
 
 GridView::~GridView() {
   // The table lives a little longer than its model.
@@ -153,7 +144,7 @@ void GridView::Mirror(ui::Aspect aspect) {
       // Filling a grid hides it, changes it many times and shows it again, all in one act.
       contents_stale_ = contents_stale_ || aspect == ui::Aspect::GridContents;
       current_stale_ = true;
-      window_.PutOff(*this);
+      window_.Pump().PutOff(grid_);
       return;
     case ui::Aspect::Bounds:
       ControlView::Mirror(aspect);
@@ -260,31 +251,31 @@ QPoint GridView::MenuPlace() const {
                                : room.center();
 }
 
-bool GridView::IsModelKey(const ui::Key& key) const {
-  using Name = ui::Key::Name;
-  const bool sideways =
-      (key.name == Name::Left || key.name == Name::Right) && !key.ctrl && !key.alt && !key.shift;
-  return sideways || IsListKey(key) || IsFormKey(key);
-}
-
-void GridView::SendKey(const ui::Key& key) {
-  if (key.name == ui::Key::Name::Left) {
-    StepSideways(-1);
-  } else if (key.name == ui::Key::Name::Right) {
-    StepSideways(1);
-  } else {
-    ControlView::SendKey(key);
+void GridView::DoOwn(view::KeyRoute route) {
+  switch (route) {
+    case view::KeyRoute::StepLeft:
+      StepSideways(-1);
+      return;
+    case view::KeyRoute::StepRight:
+      StepSideways(1);
+      return;
+    case view::KeyRoute::CopyRows:
+      tools_->Do(view::GridAct::CopyRows);
+      return;
+    case view::KeyRoute::Find:
+      tools_->Do(view::GridAct::Find);
+      return;
+    case view::KeyRoute::FindAgain:
+      tools_->Do(view::GridAct::FindAgain);
+      return;
+    default:
+      return;
   }
 }
 
 void GridView::StepSideways(int step) {
-  const QHeaderView* header = table_->horizontalHeader();
-  int place = header->visualIndex(grid_.ActiveColumn() - 1);
-  do place += step;
-  while (place >= 0 && place < header->count() &&
-         header->isSectionHidden(header->logicalIndex(place)));
-  if (place < 0 || place >= header->count() || grid_.ActiveRow() < 1) return;
-  const int column = header->logicalIndex(place) + 1;
+  const int32_t column = view::NeighbourColumn(grid_, columns_->Order(), step);
+  if (column == 0) return;
   Act([&] { return GetForm().UserCell(grid_, column, grid_.ActiveRow()); });
 }
 
@@ -292,11 +283,6 @@ bool GridView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize && Live()) CountPageRows();
   if (event->type() == QEvent::PaletteChange) {
     model_->SetPalette(table_->palette(), ColorsFor(table_->palette()).negative);
-  }
-  const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
-  if (key && Live() && tools_->HandleKey(*static_cast<QKeyEvent*>(event))) {
-    event->accept();
-    return true;
   }
   return ControlView::eventFilter(watched, event);
 }

@@ -40,23 +40,17 @@ class GridView : public ControlView {
   GridTools& Tools() const { return *tools_; }
   FormWindow& Window() const { return window_; }
   bool IsLive() const { return Live(); }
-  /// Back to the designed widths and order of the columns.
-  void ResetColumns();
+  ColumnKeeper& Columns() const { return *columns_; }
 
  protected:
   bool FocusesOnPress() const override { return true; }
-  bool IsModelKey(const ui::Key& key) const override;
-  /// Left and Right go by the order that the user gave the columns, of which the form knows
-  /// nothing.
-  void SendKey(const ui::Key& key) override;
+  void DoOwn(view::KeyRoute route) override;
   /// Under the current row.
   QPoint MenuPlace() const override;
 
  private:
   void ConnectTable();
   void StepSideways(int step);
-  /// Under which the user's columns are kept.
-  QString KeptName() const;
   void ShowColumns();
   void ShowRowHeight();
   void ShowSortIndicator();

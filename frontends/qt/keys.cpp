@@ -45,42 +45,15 @@ std::optional<ui::Key> KeyOf(const QKeyEvent& event) {
     key.name = static_cast<Name>(static_cast<int>(Name::F1) + (event.key() - Qt::Key_F1));
     return key;
   }
-  if (key.ctrl || key.alt) {
+  if (event.key() == Qt::Key_Insert && event.modifiers() == Qt::ControlModifier) {
+    key.character = U'C';  // the older key for copying
+  } else if (key.ctrl || key.alt) {
     key.character = PlainCharacter(event);
   } else if (!event.text().isEmpty() && event.text().at(0).isPrint()) {
     key.character = event.text().toUcs4().at(0);
   }
   if (key.character == 0) return std::nullopt;
   return key;
-}
-
-bool IsFormKey(const ui::Key& key) {
-  switch (key.name) {
-    case Name::Tab:
-      return !key.alt;
-    case Name::Enter:
-    case Name::Escape:
-      return !key.ctrl && !key.alt;
-    case Name::Character:
-      return key.alt && !key.ctrl;
-    default:
-      return false;
-  }
-}
-
-bool IsListKey(const ui::Key& key) {
-  if (key.ctrl || key.alt || key.shift) return false;
-  switch (key.name) {
-    case Name::Up:
-    case Name::Down:
-    case Name::PageUp:
-    case Name::PageDown:
-    case Name::Home:
-    case Name::End:
-      return true;
-    default:
-      return false;
-  }
 }
 
 }  // namespace qvzj::qt

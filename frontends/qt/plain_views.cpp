@@ -11,7 +11,6 @@
 
 #include "frontends/qt/calm_style.h"
 #include "frontends/qt/form_window.h"
-#include "frontends/qt/keys.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 #include "frontends/view/measure.h"
@@ -19,21 +18,6 @@
 namespace qvzj::qt {
 
 namespace {
-
-/// Keys that buttons, check boxes and options leave to the form.
-bool IsButtonKey(const ui::Key& key) {
-  using Name = ui::Key::Name;
-  switch (key.name) {
-    case Name::Space:
-    case Name::Left:
-    case Name::Right:
-    case Name::Up:
-    case Name::Down:
-      return !key.ctrl && !key.alt;
-    default:
-      return IsFormKey(key);
-  }
-}
 
 /// Puts a caption with its access-key mark on a native button; the key itself is the form's.
 void SetCaption(QAbstractButton& button, const std::string& caption) {
@@ -144,8 +128,6 @@ TextFit ButtonView::Fit() const {
       native_->style()->subElementRect(QStyle::SE_PushButtonContents, &option, native_).width()};
 }
 
-bool ButtonView::IsModelKey(const ui::Key& key) const { return IsButtonKey(key); }
-
 CheckView::CheckView(FormWindow& window, ui::CheckBox& check, QWidget* parent)
     : ControlView(window, check), check_(check), native_(new QCheckBox(parent)) {
   Adopt(native_);
@@ -173,8 +155,6 @@ TextFit CheckView::Fit() const {
   return IndicatorFit(*native_, check_, QStyle::SE_CheckBoxContents);
 }
 
-bool CheckView::IsModelKey(const ui::Key& key) const { return IsButtonKey(key); }
-
 OptionView::OptionView(FormWindow& window, ui::OptionButton& option, QWidget* parent)
     : ControlView(window, option), option_(option), native_(new QRadioButton(parent)) {
   Adopt(native_);
@@ -197,8 +177,6 @@ void OptionView::Mirror(ui::Aspect aspect) {
 TextFit OptionView::Fit() const {
   return IndicatorFit(*native_, option_, QStyle::SE_RadioButtonContents);
 }
-
-bool OptionView::IsModelKey(const ui::Key& key) const { return IsButtonKey(key); }
 
 void Panel::SetTitle(const QString& title) {
   title_ = title;

@@ -47,9 +47,6 @@ class ButtonView : public ControlView {
   TextFit Fit() const override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
- protected:
-  bool IsModelKey(const ui::Key& key) const override;
-
  private:
   void Pressed();
 
@@ -65,9 +62,6 @@ class CheckView : public ControlView {
   void Mirror(ui::Aspect aspect) override;
   TextFit Fit() const override;
 
- protected:
-  bool IsModelKey(const ui::Key& key) const override;
-
  private:
   ui::CheckBox& check_;
   QCheckBox* native_;
@@ -79,9 +73,6 @@ class OptionView : public ControlView {
   QWidget* Widget() const override;
   void Mirror(ui::Aspect aspect) override;
   TextFit Fit() const override;
-
- protected:
-  bool IsModelKey(const ui::Key& key) const override;
 
  private:
   ui::OptionButton& option_;

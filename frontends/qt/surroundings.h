@@ -9,9 +9,9 @@
 #include "adapters/system/files.h"
 #include "frontends/qt/boxes.h"
 #include "frontends/qt/layout_store.h"
-#include "frontends/qt/native_texts.h"
 #include "frontends/qt/presenter.h"
 #include "frontends/qt/services.h"
+#include "frontends/qt/translator.h"
 #include "platform/surroundings.h"
 
 namespace qvzj::qt {

@@ -5,7 +5,6 @@
 
 #include "frontends/qt/calm_style.h"
 #include "frontends/qt/form_window.h"
-#include "frontends/qt/keys.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 
@@ -117,10 +116,5 @@ void TabsView::Arrange() {
 }
 
 TextFit TabsView::Fit() const { return {bar_->sizeHint().width(), bar_->width()}; }
-
-bool TabsView::IsModelKey(const ui::Key& key) const {
-  using Name = ui::Key::Name;
-  return key.name == Name::Left || key.name == Name::Right || IsFormKey(key);
-}
 
 }  // namespace qvzj::qt

@@ -20,9 +20,6 @@ class TabsView : public ControlView {
   void Mirror(ui::Aspect aspect) override;
   TextFit Fit() const override;
 
- protected:
-  bool IsModelKey(const ui::Key& key) const override;
-
  private:
   void ShowCaptions();
   void ShowTab();

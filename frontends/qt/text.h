@@ -7,7 +7,7 @@
 /// Texts at the edge between the module (UTF-8) and Qt (UTF-16).
 namespace qvzj::qt {
 
-inline QString FromUtf8(const std::string& text) {
+inline QString FromUtf8(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 

@@ -5,12 +5,10 @@
 #include <QSignalBlocker>
 
 #include "frontends/qt/form_window.h"
-#include "frontends/qt/keys.h"
 #include "frontends/qt/line_link.h"
-#include "frontends/qt/native_texts.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
-#include "frontends/view/utf16.h"
+#include "frontends/view/texts.h"
 
 namespace qvzj::qt {
 
@@ -21,9 +19,8 @@ LineView::LineView(FormWindow& window, ui::TextBox& box, QWidget* parent)
   // Input methods then offer figures, not words.
   if (box_.RightAligned()) line_->setInputMethodHints(Qt::ImhFormattedNumbersOnly);
   line_->setAlignment((box_.RightAligned() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-  link_ = std::make_unique<LineLink>(
-      *line_, box_, [this](const std::function<bool()>& act) { return Act(act); },
-      [this] { return Live(); }, TextsOf(window.Traditional() ? 1 : 0).shortened);
+  link_ = std::make_unique<LineLink>(*line_, box_, window.Pump(),
+                                     FromUtf8(view::TextsOf(window.Traditional()).shortened));
 }
 
 LineView::~LineView() = default;
@@ -34,10 +31,10 @@ void LineView::Mirror(ui::Aspect aspect) {
   ControlView::Mirror(aspect);
   switch (aspect) {
     case ui::Aspect::Text:
-      link_->ShowText();
+      link_->Session().ShowText();
       return;
     case ui::Aspect::Selection:
-      link_->ShowSelection();
+      link_->Session().ShowSelection();
       return;
     case ui::Aspect::Locked:
       line_->setReadOnly(!box_.TakesText());
@@ -52,24 +49,23 @@ bool LineView::SwallowFocusingPress() const {
   return box_.SelLength() > 0;
 }
 
-bool LineView::IsModelKey(const ui::Key& key) const {
-  return LineLink::TakesKey(key) || IsFormKey(key);
-}
-
 void LineView::CommitEdit() {
-  if (!link_->Editing()) CommitComposition();
+  if (!link_->Session().Editing()) CommitComposition();
 }
 
-void LineView::SendKey(const ui::Key& key) { link_->Key(key); }
+void LineView::SendKey(const ui::Key& key) { link_->Session().Key(key); }
 
 MemoView::MemoView(FormWindow& window, ui::TextBox& box, QWidget* parent)
-    : ControlView(window, box), box_(box), page_(new QPlainTextEdit(parent)) {
+    : ControlView(window, box),
+      box_(box),
+      page_(new QPlainTextEdit(parent)),
+      session_(*this, box, window.Pump()) {
   Adopt(page_, page_->viewport());
   page_->setTabChangesFocus(true);
   page_->setFrameShape(QFrame::StyledPanel);
-  connect(page_, &QPlainTextEdit::textChanged, this, [this] { Edited(); });
-  connect(page_, &QPlainTextEdit::selectionChanged, this, [this] { Selected(); });
-  connect(page_, &QPlainTextEdit::cursorPositionChanged, this, [this] { Selected(); });
+  connect(page_, &QPlainTextEdit::textChanged, this, [this] { session_.Edited(); });
+  connect(page_, &QPlainTextEdit::selectionChanged, this, [this] { session_.Selected(); });
+  connect(page_, &QPlainTextEdit::cursorPositionChanged, this, [this] { session_.Selected(); });
 }
 
 QWidget* MemoView::Widget() const { return page_; }
@@ -78,10 +74,10 @@ void MemoView::Mirror(ui::Aspect aspect) {
   ControlView::Mirror(aspect);
   switch (aspect) {
     case ui::Aspect::Text:
-      ShowText();
+      session_.ShowText();
       return;
     case ui::Aspect::Selection:
-      ShowSelection();
+      session_.ShowSelection();
       return;
     case ui::Aspect::Locked: {
       page_->setReadOnly(!box_.TakesText());
@@ -97,65 +93,38 @@ void MemoView::Mirror(ui::Aspect aspect) {
   }
 }
 
-bool MemoView::IsModelKey(const ui::Key& key) const {
-  // A new line is an edit like any other and comes in through the text.
-  return key.name != ui::Key::Name::Enter && IsFormKey(key);
-}
-
 void MemoView::CommitEdit() {
-  if (!editing_) CommitComposition();
+  if (!session_.Editing()) CommitComposition();
 }
 
-void MemoView::ShowText() {
-  const QString wanted = FromUtf8(box_.Text());
-  if (page_->toPlainText() == wanted) return;
+std::u16string MemoView::Text() const { return page_->toPlainText().toStdU16String(); }
+
+view::Stretch MemoView::Selection() const {
+  const QTextCursor cursor = page_->textCursor();
+  return {cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart()};
+}
+
+int32_t MemoView::Caret() const { return page_->textCursor().position(); }
+
+void MemoView::Show(const std::u16string& text) {
   const QSignalBlocker quiet(page_);
-  if (editing_) {
-    QTextCursor cursor(page_->document());
-    cursor.select(QTextCursor::Document);
-    cursor.insertText(wanted);  // an edit, so that it can be undone
-  } else {
-    page_->setPlainText(wanted);
-  }
-  ShowSelection();
+  page_->setPlainText(QString::fromStdU16String(text));
 }
 
-void MemoView::ShowSelection() {
-  const QString text = page_->toPlainText();
-  const int start = view::Utf16Position(Units(text), box_.SelStart());
-  const int end = view::Utf16Position(Units(text), box_.SelStart() + box_.SelLength());
+void MemoView::Select(view::Stretch stretch) {
   QTextCursor cursor = page_->textCursor();
-  if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
+  cursor.setPosition(stretch.start);
+  cursor.setPosition(stretch.start + stretch.length, QTextCursor::KeepAnchor);
   const QSignalBlocker quiet(page_);
-  cursor.setPosition(start);
-  cursor.setPosition(end, QTextCursor::KeepAnchor);
   page_->setTextCursor(cursor);
 }
 
-void MemoView::Edited() {
-  if (!Live() || editing_) return;
-  const QString text = page_->toPlainText();
-  const std::string utf8 = ToUtf8(text);
-  if (utf8 == box_.Text()) return;
-  editing_ = true;
-  const int32_t caret =
-      view::CharactersBefore(Units(text), static_cast<size_t>(page_->textCursor().position()));
-  Act([&] { return GetForm().UserEdited(box_, utf8, caret); });
-  if (Live()) ShowText();
-  editing_ = false;
-}
-
-void MemoView::Selected() {
-  if (!Live() || editing_) return;
-  const QString text = page_->toPlainText();
-  if (text != FromUtf8(box_.Text())) return;
-  const QTextCursor cursor = page_->textCursor();
-  const int32_t start =
-      view::CharactersBefore(Units(text), static_cast<size_t>(cursor.selectionStart()));
-  const int32_t end =
-      view::CharactersBefore(Units(text), static_cast<size_t>(cursor.selectionEnd()));
-  if (start == box_.SelStart() && end - start == box_.SelLength()) return;
-  GetForm().UserSelect(box_, start, end - start);
+void MemoView::Replace(view::Stretch stretch, const std::u16string& text) {
+  QTextCursor cursor(page_->document());
+  cursor.setPosition(stretch.start);
+  cursor.setPosition(stretch.start + stretch.length, QTextCursor::KeepAnchor);
+  const QSignalBlocker quiet(page_);
+  cursor.insertText(QString::fromStdU16String(text));
 }
 
 }  // namespace qvzj::qt

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frontends/qt/view.h"
+#include "frontends/view/edit_session.h"
 
 class QLineEdit;
 class QPlainTextEdit;
@@ -21,7 +22,6 @@ class LineView : public ControlView {
  protected:
   bool FocusesOnPress() const override { return true; }
   bool SwallowFocusingPress() const override;
-  bool IsModelKey(const ui::Key& key) const override;
   void SendKey(const ui::Key& key) override;
 
  private:
@@ -31,7 +31,7 @@ class LineView : public ControlView {
 };
 
 /// A text box of several lines.
-class MemoView : public ControlView {
+class MemoView : public ControlView, private view::NativeEditor {
  public:
   MemoView(FormWindow& window, ui::TextBox& box, QWidget* parent);
   QWidget* Widget() const override;
@@ -40,17 +40,20 @@ class MemoView : public ControlView {
 
  protected:
   bool FocusesOnPress() const override { return true; }
-  bool IsModelKey(const ui::Key& key) const override;
 
  private:
-  void ShowText();
-  void ShowSelection();
-  void Edited();
-  void Selected();
+  std::u16string Text() const override;
+  view::Stretch Selection() const override;
+  int32_t Caret() const override;
+  void Show(const std::u16string& text) override;
+  void Select(view::Stretch stretch) override;
+  void Replace(view::Stretch stretch, const std::u16string& text) override;
+  /// Not within its own change: there the page's history is still being written.
+  void Undo() override {}
 
   ui::TextBox& box_;
   QPlainTextEdit* page_;
-  bool editing_ = false;
+  view::EditSession session_;
 };
 
 }  // namespace qvzj::qt

@@ -13,6 +13,7 @@
 #include "frontends/qt/keys.h"
 #include "frontends/qt/text.h"
 #include "frontends/view/measure.h"
+#include "frontends/view/view_plan.h"
 
 namespace qvzj::qt {
 
@@ -48,12 +49,7 @@ void ControlView::Mirror(ui::Aspect aspect) {
 }
 
 void ControlView::MirrorAll() {
-  for (ui::Aspect aspect :
-       {ui::Aspect::Caption, ui::Aspect::Items, ui::Aspect::Tabs, ui::Aspect::Text,
-        ui::Aspect::Value, ui::Aspect::Locked, ui::Aspect::Enabled, ui::Aspect::Bounds,
-        ui::Aspect::Visible, ui::Aspect::GridContents, ui::Aspect::GridCurrent}) {
-    Mirror(aspect);
-  }
+  for (ui::Aspect aspect : view::AllAspects()) Mirror(aspect);
 }
 
 void ControlView::Adopt(QWidget* widget, QWidget* also) {
@@ -64,8 +60,6 @@ void ControlView::Adopt(QWidget* widget, QWidget* also) {
     watched->installEventFilter(this);
   }
 }
-
-bool ControlView::IsModelKey(const ui::Key& key) const { return IsFormKey(key); }
 
 bool ControlView::Live() const { return window_.Live(); }
 
@@ -85,11 +79,9 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Wheel: {
       // The wheel scrolls what has the focus; over anything else it must not change a value.
       const bool focused = FocusWidget()->hasFocus();
-      const bool scrolls = control_->GetKind() == ui::Kind::Grid ||
-                           control_->GetKind() == ui::Kind::ListBox ||
-                           control_->GetKind() == ui::Kind::TextBox;
-      if (!focused && !scrolls) event->ignore();
-      return !focused && !scrolls;
+      const bool passes_over = !focused && !view::ScrollsByWheel(*control_);
+      if (passes_over) event->ignore();
+      return passes_over;
     }
     case QEvent::FocusOut:
       FocusWidget()->update();  // its frame tells the focus
@@ -104,22 +96,18 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool ControlView::HandleKey(QKeyEvent& event, bool only_ask) {
-  if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier) {
-    // The other key for the menu, for keyboards that lack the one.
-    if (only_ask) {
-      event.accept();
-    } else {
-      AskForMenu();
-    }
-    return true;
-  }
   const std::optional<ui::Key> key = KeyOf(event);
-  if (!key || !IsModelKey(*key)) return false;
+  const view::KeyRoute route = key ? view::RouteOf(control_, *key) : view::KeyRoute::Native;
+  if (route == view::KeyRoute::Native) return false;
   if (composition_.UnderWay()) return true;
   if (only_ask) {
     event.accept();
-  } else {
+  } else if (route == view::KeyRoute::Form) {
     SendKey(*key);
+  } else if (route == view::KeyRoute::ShowMenu) {
+    AskForMenu();
+  } else {
+    DoOwn(route);
   }
   return true;
 }

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "frontends/view/composition.h"
+#include "frontends/view/key_route.h"
 #include "platform/ui/form.h"
 
 class QContextMenuEvent;
@@ -55,10 +56,10 @@ class ControlView : public QObject {
   /// To be called once by each view's constructor: watches the widget (and `also`, an editor
   /// inside it) and takes away its own ways of getting the focus.
   void Adopt(QWidget* widget, QWidget* also = nullptr);
-  /// True when the form handles the key rather than the widget.
-  virtual bool IsModelKey(const ui::Key& key) const;
   /// Sends a key to the form.
   virtual void SendKey(const ui::Key& key);
+  /// Does what a key asks of the window.
+  virtual void DoOwn(view::KeyRoute) {}
   /// True for widgets that take the focus when the mouse is pressed on them; the others take it
   /// with the click that they report.
   virtual bool FocusesOnPress() const { return false; }

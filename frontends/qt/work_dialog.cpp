@@ -1,7 +1,8 @@
 #include "frontends/qt/work_dialog.h"
 
-#include "frontends/qt/native_texts.h"
+#include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
+#include "frontends/view/texts.h"
 
 namespace qvzj::qt {
 namespace {
@@ -13,7 +14,7 @@ constexpr int kWidth = 360;
 }  // namespace
 
 WorkDialog::WorkDialog(QWidget* parent, const QString& title, const QString& what, bool traditional)
-    : dialog_(what, TextsOf(traditional ? 1 : 0).cancel, 0, kSteps, parent) {
+    : dialog_(what, FromUtf8(view::TextsOf(traditional).cancel), 0, kSteps, parent) {
   dialog_.setWindowTitle(title);
   dialog_.setWindowModality(Qt::ApplicationModal);
   dialog_.setMinimumDuration(kPatience);

@@ -3,10 +3,10 @@
 #include <QApplication>
 
 #include "frontends/qt/print/paint_page.h"
-#include "frontends/qt/print/preview_texts.h"
 #include "frontends/qt/print/preview_window.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
+#include "frontends/view/texts.h"
 
 namespace qvzj::qt {
 
@@ -27,7 +27,8 @@ bool QtPageOutput::ShowProgress(int64_t done, int64_t total) {
   if (!work_) {
     QWidget* owner = QApplication::activeWindow();
     work_ = std::make_unique<WorkDialog>(owner, owner == nullptr ? QString() : owner->windowTitle(),
-                                         PreviewTextsOf(traditional_()).laying_out, traditional_());
+                                         FromUtf8(view::PreviewTextsOf(traditional_()).laying_out),
+                                         traditional_());
   }
   const bool goes_on = work_->Step(done, total);
   if (!goes_on) work_.reset();

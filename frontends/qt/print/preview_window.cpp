@@ -15,7 +15,6 @@
 #include "frontends/qt/ask_file.h"
 #include "frontends/qt/print/page_desk.h"
 #include "frontends/qt/print/paint_page.h"
-#include "frontends/qt/print/preview_texts.h"
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
 #include "frontends/qt/work_dialog.h"
@@ -41,7 +40,7 @@ PreviewWindow::PreviewWindow(const PageSource& pages, const QString& title, cons
       title_(title),
       font_(font),
       traditional_(traditional),
-      texts_(PreviewTextsOf(traditional)),
+      texts_(view::PreviewTextsOf(traditional)),
       bar_(new QWidget),
       desk_(new PageDesk(pages, font)) {
   setWindowTitle(title);
@@ -80,11 +79,12 @@ bool PreviewWindow::event(QEvent* event) {
   return QDialog::event(event);
 }
 
-QPushButton* PreviewWindow::AddButton(QHBoxLayout& row, const QString& text, const QString& keys) {
-  auto* button = new QPushButton(text);
+QPushButton* PreviewWindow::AddButton(QHBoxLayout& row, std::string_view text,
+                                      const QString& keys) {
+  auto* button = new QPushButton(FromUtf8(text));
   // Enter in the page's number must not press a button.
   button->setAutoDefault(false);
-  QString plain = text;
+  QString plain = button->text();
   plain.remove(QChar('&'));
   button->setFixedSize(button->fontMetrics().horizontalAdvance(plain) + kButtonMargin,
                        kButtonHeight);
@@ -120,9 +120,10 @@ void PreviewWindow::AddLeafing(QHBoxLayout& row) {
   number_->setKeyboardTracking(false);  // a number half typed is none
   number_->setAlignment(Qt::AlignCenter);
   number_->setFixedSize(kNumberWidth, kButtonHeight);
-  number_->setAccessibleName(texts_.page);
+  number_->setAccessibleName(FromUtf8(texts_.page));
   row.addWidget(number_);
-  row.addWidget(new QLabel(texts_.of_pages.arg(pages_.PageCount())));
+  row.addWidget(
+      new QLabel(FromUtf8(view::Fill(texts_.of_pages, {std::to_string(pages_.PageCount())}))));
   next_ = AddButton(row, texts_.next, "PgDn");
   last_ = AddButton(row, texts_.last, "End");
   const auto go = [this](auto page) {
@@ -136,14 +137,14 @@ void PreviewWindow::AddLeafing(QHBoxLayout& row) {
 }
 
 void PreviewWindow::AddSizes(QHBoxLayout& row) {
-  QPushButton* smaller = AddButton(row, QStringLiteral("−"), "Ctrl+-");
-  smaller->setAccessibleName(texts_.smaller);
+  QPushButton* smaller = AddButton(row, "−", "Ctrl+-");
+  smaller->setAccessibleName(FromUtf8(texts_.smaller));
   connect(smaller, &QPushButton::clicked, desk_, &PageDesk::ZoomOut);
-  zoom_ = AddButton(row, QStringLiteral("100%"), texts_.real_size + " (Ctrl+0)");
+  zoom_ = AddButton(row, "100%", FromUtf8(texts_.real_size) + " (Ctrl+0)");
   zoom_->setFixedWidth(kPercentWidth);
   connect(zoom_, &QPushButton::clicked, desk_, [this] { desk_->SetZoom(1); });
-  QPushButton* larger = AddButton(row, QStringLiteral("+"), "Ctrl++");
-  larger->setAccessibleName(texts_.larger);
+  QPushButton* larger = AddButton(row, "+", "Ctrl++");
+  larger->setAccessibleName(FromUtf8(texts_.larger));
   connect(larger, &QPushButton::clicked, desk_, &PageDesk::ZoomIn);
   for (QPushButton* sign : {smaller, larger}) sign->setFixedWidth(kButtonHeight);
   width_ = AddButton(row, texts_.width, {});
@@ -192,10 +193,10 @@ void PreviewWindow::ShowSize() {
 
 void PreviewWindow::ChooseFit(view::PageFit fit) { desk_->SetFit(fit); }
 
-void PreviewWindow::Say(const QString& text) { said_->setText(text); }
+void PreviewWindow::Say(std::string_view text) { said_->setText(FromUtf8(text)); }
 
-void PreviewWindow::Complain(const QString& text, const std::exception& error) {
-  Around().boxes->Error(ToUtf8(text.arg(QString::fromUtf8(error.what()))), ToUtf8(title_));
+void PreviewWindow::Complain(std::string_view text, const std::exception& error) {
+  Around().boxes->Error(view::Fill(text, {error.what()}), ToUtf8(title_));
 }
 
 void PreviewWindow::Print() {
@@ -215,27 +216,29 @@ void PreviewWindow::Print() {
   const int first = all ? 0 : printer.fromPage() - 1;
   const int last = all ? pages_.PageCount() - 1 : printer.toPage() - 1;
   try {
-    WorkDialog work(this, title_, texts_.printing, traditional_);
+    WorkDialog work(this, title_, FromUtf8(texts_.printing), traditional_);
     const bool done =
         PaintPages(printer, printer.resolution(), pages_, first, last, font_, work.AsProgress());
     if (!done) printer.abort();
-    Say(done ? texts_.printed.arg(last - first + 1) : texts_.cancelled);
+    Say(done ? view::Fill(texts_.printed, {std::to_string(last - first + 1)})
+             : std::string(texts_.cancelled));
   } catch (const std::exception& error) {
     Complain(texts_.not_printed, error);
   }
 }
 
 void PreviewWindow::SavePdf() {
-  const FileAnswer answer =
-      AskSaveFile(*this, {texts_.save_pdf, title_, {{"PDF", "pdf"}}}, traditional_);
-  if (!answer.path.isEmpty()) WritePdfTo(answer.path);
+  const view::FileQuestion question{std::string(texts_.save_pdf), ToUtf8(title_), {{"PDF", "pdf"}}};
+  const view::FileAnswer answer = AskSaveFile(*this, question, traditional_);
+  if (!answer.path.empty()) WritePdfTo(FromUtf8(answer.path));
 }
 
 void PreviewWindow::WritePdfTo(const QString& path) {
   try {
-    WorkDialog work(this, title_, texts_.painting, traditional_);
+    WorkDialog work(this, title_, FromUtf8(texts_.painting), traditional_);
     const bool done = WritePdf(pages_, path, title_, font_, work.AsProgress());
-    Say(done ? texts_.saved.arg(QFileInfo(path).fileName()) : texts_.cancelled);
+    Say(done ? view::Fill(texts_.saved, {ToUtf8(QFileInfo(path).fileName())})
+             : std::string(texts_.cancelled));
   } catch (const std::exception& error) {
     Complain(texts_.not_written, error);
   }

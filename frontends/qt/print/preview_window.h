@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "frontends/view/page_fit.h"
+#include "frontends/view/texts.h"
 #include "platform/pages.h"
 
 class QHBoxLayout;
@@ -15,7 +16,6 @@ class QSpinBox;
 namespace qvzj::qt {
 
 class PageDesk;
-struct PreviewTexts;
 
 /// The print preview: pages to leaf through, to print and to save as a PDF file. Page up, page
 /// down, Home and End leaf; the arrows scroll; Ctrl with plus, minus and 0 sizes; Ctrl+P prints,
@@ -37,21 +37,21 @@ class PreviewWindow : public QDialog {
   void AddLeafing(QHBoxLayout& row);
   void AddSizes(QHBoxLayout& row);
   void AddKeys();
-  QPushButton* AddButton(QHBoxLayout& row, const QString& text, const QString& keys);
+  QPushButton* AddButton(QHBoxLayout& row, std::string_view text, const QString& keys);
   void Colour();
   void ShowPage();
   void ShowSize();
   void ChooseFit(view::PageFit fit);
   void Print();
   void SavePdf();
-  void Say(const QString& text);
-  void Complain(const QString& text, const std::exception& error);
+  void Say(std::string_view text);
+  void Complain(std::string_view text, const std::exception& error);
 
   const PageSource& pages_;
   QString title_;
   QFont font_;
   bool traditional_;
-  const PreviewTexts& texts_;
+  const view::PreviewTexts& texts_;
   QWidget* bar_;
   PageDesk* desk_;
   QSpinBox* number_ = nullptr;

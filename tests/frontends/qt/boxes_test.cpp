@@ -12,8 +12,8 @@
 #include <QSettings>
 #include <QTimer>
 
-#include "frontends/qt/native_texts.h"
 #include "frontends/qt/services.h"
+#include "frontends/qt/translator.h"
 #include "tests/frontends/qt/window_world.h"
 
 namespace qvzj::test {

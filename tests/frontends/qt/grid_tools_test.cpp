@@ -15,10 +15,9 @@
 #include <QToolTip>
 
 #include "frontends/qt/ask_file.h"
+#include "frontends/qt/column_keeper.h"
 #include "frontends/qt/export_grid.h"
-#include "frontends/qt/find_text.h"
 #include "frontends/qt/layout_store.h"
-#include "frontends/qt/native_texts.h"
 #include "suite/export/suite_exporter.h"
 #include "tests/frontends/qt/window_world.h"
 #include "tests/support/temporary_folder.h"
@@ -191,7 +190,8 @@ TEST_F(Tools, ExportTheGridAndSayHowManyRows) {
   exports::SuiteExporter exporter;
   Around().exporter = &exporter;
   const QString file = QString::fromStdString((world_.folder.Path() / "out.csv").string());
-  qt::WriteGrid(world_.Window(), form_.Grid2, {}, qt::TextsOf(0), file, ExportFormat::CsvUtf8);
+  qt::WriteGrid(world_.Window(), view::RequestOf(form_.Grid2, {}, file.toStdString()),
+                ExportFormat::CsvUtf8, view::TextsOf(false));
   QFile written(file);
   ASSERT_TRUE(written.open(QIODevice::ReadOnly));
   EXPECT_TRUE(QString::fromUtf8(written.readAll()).contains("XP3"));
@@ -260,13 +260,13 @@ TEST(AskFile, GivesWhateverIsTypedTheEndingOfItsType) {
   for (const QString typed : {"list", "list.csv", "list.xlsx"}) {
     QWidget owner;
     QTimer::singleShot(50, [&] { SaveAs(place + typed); });
-    const qt::FileQuestion question{"t", "n", {{"Book", "xlsx"}, {"List", "csv"}}};
-    EXPECT_EQ(qt::AskSaveFile(owner, question, false).path, place + "list.xlsx")
+    const view::FileQuestion question{"t", "n", {{"Book", "xlsx"}, {"List", "csv"}}};
+    EXPECT_EQ(qt::FromUtf8(qt::AskSaveFile(owner, question, false).path), place + "list.xlsx")
         << typed.toStdString();
   }
   QWidget owner;
   QTimer::singleShot(50, [&] { SaveAs(place + "No. 1.5"); });
-  EXPECT_EQ(qt::AskSaveFile(owner, {"t", "n", {{"Book", "xlsx"}}}, false).path,
+  EXPECT_EQ(qt::FromUtf8(qt::AskSaveFile(owner, {"t", "n", {{"Book", "xlsx"}}}, false).path),
             place + "No. 1.5.xlsx");
 }
 
@@ -284,7 +284,7 @@ TEST(AskFile, ComesAgainWithTheNameOfTheFileThatItWouldReplace) {
     proposed = dialog->selectedFiles().value(0);
     dialog->reject();
   });
-  const qt::FileQuestion question{"t", "n", {{"Book", "xlsx"}, {"List", "csv"}}};
+  const view::FileQuestion question{"t", "n", {{"Book", "xlsx"}, {"List", "csv"}}};
   EXPECT_EQ(qt::AskSaveFile(owner, question, false).path, "");
   EXPECT_EQ(proposed, place + "list.xlsx");
 }
@@ -292,21 +292,9 @@ TEST(AskFile, ComesAgainWithTheNameOfTheFileThatItWouldReplace) {
 TEST_F(Tools, SayWhyAnExportFailed) {
   exports::SuiteExporter exporter;
   Around().exporter = &exporter;
-  qt::WriteGrid(world_.Window(), form_.Grid2, {}, qt::TextsOf(0), "/nowhere/out.csv",
-                ExportFormat::CsvUtf8);
+  qt::WriteGrid(world_.Window(), view::RequestOf(form_.Grid2, {}, "/nowhere/out.csv"),
+                ExportFormat::CsvUtf8, view::TextsOf(false));
   EXPECT_EQ(world_.headless.boxes.TakeErrors().size(), 1U);
-}
-
-TEST(FindText, LooksIntoNumbersAsTheyAreShown) {
-  ui::Form form("frm");
-  ui::Grid grid(form, "Grid1");
-  grid.SetColumnCount(1);
-  grid.SetRowCount(3);
-  grid.SetColumnDecimals(1, 2);
-  grid.SetCellNumber(1, 2, 12.5);
-  const auto found = qt::FindText(grid, "12.50", false);
-  ASSERT_TRUE(found.has_value());
-  EXPECT_EQ(found->row, 2);
 }
 
 class Columns : public ::testing::Test {
@@ -370,7 +358,7 @@ TEST_F(Columns, AreKeptApartByWhatTheyStandFor) {
 }
 
 TEST_F(Columns, IgnoreWhatWasKeptBeforeTheyHadAName) {
-  store_.KeepColumns("frm.Grid1", {{50, 60, 70}, {1, 0, 2}});
+  view::KeepColumns(store_, "frm.Grid1", {{50, 60, 70}, {1, 0, 2}});
   grid_.offers.columns = [] { return "customers"; };
   const auto window = Window();
   EXPECT_EQ(View(*window).Table()->columnWidth(0), 100);
@@ -391,14 +379,14 @@ TEST_F(Columns, GoBackToTheDesignOnRequest) {
   {
     const auto window = Window();
     View(*window).Table()->setColumnWidth(1, 180);
-    View(*window).ResetColumns();
+    View(*window).Columns().Reset();
     EXPECT_EQ(View(*window).Table()->columnWidth(1), 100);
   }
-  EXPECT_FALSE(store_.Columns("frm.Grid1", 3).has_value());
+  EXPECT_FALSE(view::KeptColumns(store_, "frm.Grid1", 3).has_value());
 }
 
 TEST_F(Columns, IgnoreWhatWasKeptForAnotherNumberOfThem) {
-  store_.KeepColumns("frm.Grid1", {{50, 60}, {1, 0}});
+  view::KeepColumns(store_, "frm.Grid1", {{50, 60}, {1, 0}});
   const auto window = Window();
   EXPECT_EQ(View(*window).Table()->columnWidth(0), 100);
 }

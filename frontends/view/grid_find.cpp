@@ -1,10 +1,10 @@
-#include "frontends/qt/find_text.h"
+#include "frontends/view/grid_find.h"
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
-namespace qvzj::qt {
+namespace qvzj::view {
 
 namespace {
 
@@ -27,19 +27,16 @@ bool CellContains(const ui::Grid& grid, FoundCell cell, std::string_view text) {
 
 }  // namespace
 
-std::optional<FoundCell> FindText(const ui::Grid& grid, std::string_view text, bool backwards) {
-  std::vector<int32_t> columns;
-  for (int32_t column = 1; column <= grid.ColumnCount(); ++column) {
-    if (!grid.ColumnHidden(column)) columns.push_back(column);
-  }
+std::optional<FoundCell> FindText(const ui::Grid& grid, const std::vector<int32_t>& columns,
+                                  std::string_view text, bool backwards) {
   if (columns.empty() || text.empty() || grid.RowCount() == 0) return std::nullopt;
 
   // Cells are numbered row by row; the walk goes once around from the active one.
   const auto width = static_cast<int64_t>(columns.size());
   const int64_t cells = width * grid.RowCount();
-  const auto place = std::lower_bound(columns.begin(), columns.end(), grid.ActiveColumn());
+  const auto place = std::find(columns.begin(), columns.end(), grid.ActiveColumn());
   const int64_t start = int64_t{std::max(grid.ActiveRow(), 1) - 1} * width +
-                        std::min(place - columns.begin(), width - 1);
+                        (place == columns.end() ? 0 : place - columns.begin());
   for (int64_t step = 1; step < cells; ++step) {
     const int64_t at = (start + (backwards ? cells - step : step)) % cells;
     const FoundCell cell{columns[static_cast<size_t>(at % width)],
@@ -49,4 +46,4 @@ std::optional<FoundCell> FindText(const ui::Grid& grid, std::string_view text, b
   return std::nullopt;
 }
 
-}  // namespace qvzj::qt
+}  // namespace qvzj::view
