@@ -104,20 +104,29 @@ void DrawOption(const QStyleOption& option, QPainter& painter) {
   painter.restore();
 }
 
-void DrawField(const QStyleOption& option, QPainter& painter, bool read_only) {
+bool IsReadOnly(const QWidget* widget) {
+  return widget != nullptr && widget->property("qvReadOnly").toBool();
+}
+
+bool HasRefused(const QWidget* widget) {
+  return widget != nullptr && widget->property(kRefused).toBool();
+}
+
+void DrawField(const QStyleOption& option, QPainter& painter, bool read_only, bool refused) {
   const view::Colors& colors = ColorsFor(option.palette);
   const bool enabled = Has(option, QStyle::State_Enabled);
   const bool focused = Has(option, QStyle::State_HasFocus) && enabled;
   DrawRounded(painter, option.rect, enabled && !read_only ? colors.base : colors.read_only,
-              focused   ? colors.accent
+              refused   ? colors.negative
+              : focused ? colors.accent
               : enabled ? colors.strong_border
                         : colors.border);
 }
 
 void DrawDropDown(const QStyleOptionComplex& option, QPainter& painter, const QRect& arrow,
-                  bool read_only) {
+                  bool read_only, bool refused) {
   const view::Colors& colors = ColorsFor(option.palette);
-  DrawField(option, painter, read_only);
+  DrawField(option, painter, read_only, refused);
   DrawChevron(painter, arrow,
               Has(option, QStyle::State_Enabled) && !read_only ? colors.text : colors.border);
 }
@@ -191,10 +200,6 @@ void DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter) {
               held || under ? colors.muted : colors.strong_border, Qt::transparent, 3);
 }
 
-bool IsReadOnly(const QWidget* widget) {
-  return widget != nullptr && widget->property("qvReadOnly").toBool();
-}
-
 }  // namespace
 
 void DrawRounded(QPainter& painter, const QRect& rect, const QColor& fill, const QColor& outline,
@@ -229,7 +234,7 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_PanelLineEdit: {
       const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
       if (frame != nullptr && frame->lineWidth <= 0) return;  // inside a drop-down field
-      DrawField(*option, *painter, Has(*option, State_ReadOnly));
+      DrawField(*option, *painter, Has(*option, State_ReadOnly), HasRefused(widget));
       return;
     }
     case PE_IndicatorCheckBox:
@@ -246,6 +251,13 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
       }
       return;
     case PE_FrameDefaultButton:
+      return;
+    case PE_IndicatorHeaderArrow:
+      if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option)) {
+        // Upwards while the values rise from the top, as the register's captions have it.
+        DrawChevron(*painter, option->rect, ColorsFor(option->palette).accent,
+                    header->sortIndicator == QStyleOptionHeader::SortDown);
+      }
       return;
     case PE_Frame:
       painter->setPen(Has(*option, State_HasFocus) ? ColorsFor(option->palette).accent
@@ -302,12 +314,12 @@ void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
                                    QPainter* painter, const QWidget* widget) const {
   if (control == CC_ComboBox) {
     const QRect arrow = subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
-    DrawDropDown(*option, *painter, arrow, IsReadOnly(widget));
+    DrawDropDown(*option, *painter, arrow, IsReadOnly(widget), HasRefused(widget));
     return;
   }
   const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
   if (control == CC_SpinBox && spin != nullptr) {
-    DrawField(*option, *painter, false);
+    DrawField(*option, *painter, false, HasRefused(widget));
     if (spin->buttonSymbols == QAbstractSpinBox::NoButtons) return;
     const QColor color = ColorsFor(option->palette).text;
     DrawChevron(*painter, subControlRect(control, option, SC_SpinBoxUp, widget), color, true);
@@ -331,6 +343,17 @@ QRect CalmStyle::subControlRect(ComplexControl control, const QStyleOptionComple
 
 QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option,
                                 const QWidget* widget) const {
+  const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+  if (element == SE_HeaderArrow && header != nullptr) {
+    // Over the text: beside it, it would take the room of a caption that just fits.
+    const QRect section = option->rect;
+    return {section.center().x() - 4, section.top() + 1, 9, 5};
+  }
+  if (element == SE_HeaderLabel && header != nullptr) {
+    QStyleOptionHeader unsorted(*header);
+    unsorted.sortIndicator = QStyleOptionHeader::None;
+    return QProxyStyle::subElementRect(element, &unsorted, widget);
+  }
   const QRect rect = QProxyStyle::subElementRect(element, option, widget);
   // Chinese fonts stand low in their lines.
   return element == SE_LineEditContents ? rect.adjusted(1, -1, -1, -1) : rect;

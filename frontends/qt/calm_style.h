@@ -4,6 +4,9 @@
 
 namespace qvzj::qt {
 
+/// The property of a field that has just refused a key; its outline shows it.
+inline constexpr const char* kRefused = "qvRefused";
+
 /// Flat, quiet drawing on top of Qt's own Fusion style: thin rounded outlines, one accent colour
 /// for the focus and what is chosen, no gradients. All colours come from the theme, so it follows
 /// light and dark palettes, and every line is drawn, so it stays sharp at any scaling.

@@ -6,10 +6,12 @@
 #include <QDateEdit>
 #include <QEvent>
 #include <QHeaderView>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStyleOption>
 #include <QTableView>
@@ -189,15 +191,26 @@ void ListView::ShowItems() {
   native_->setCurrentRow(list_.ListIndex());
 }
 
-namespace {
-
 /// A date field that makes its calendar when it is first dropped: a calendar takes longer to make
 /// than all the other fields of a screen together. F4 and Alt+Down drop it, as they drop lists.
 class DateEdit : public QDateEdit {
  public:
   using QDateEdit::QDateEdit;
+  /// True while the field reads its own text, as it does whenever the focus comes or goes: what it
+  /// makes of a date half typed is no word of the user's.
+  bool Settling() const { return settling_; }
+  /// The focus came or went.
+  std::function<void()> onFocus;
 
  protected:
+  bool event(QEvent* event) override {
+    const bool focus = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
+    if (!focus) return QDateEdit::event(event);
+    const QScopedValueRollback<bool> settling(settling_, true);
+    const bool done = QDateEdit::event(event);
+    onFocus();
+    return done;
+  }
   void mousePressEvent(QMouseEvent* event) override {
     if (!calendar_) MakeCalendar();
     ColourCalendar();
@@ -246,23 +259,22 @@ class DateEdit : public QDateEdit {
   }
 
   QCalendarWidget* calendar_ = nullptr;
+  bool settling_ = false;
 };
-
-}  // namespace
 
 DateView::DateView(FormWindow& window, ui::DatePicker& picker, QWidget* parent)
     : ControlView(window, picker), picker_(picker), native_(new DateEdit(parent)) {
   native_->setDisplayFormat("yyyy-MM-dd");
   native_->setCalendarPopup(true);
-  native_->setKeyboardTracking(false);  // a date half typed is no date
   native_->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
   native_->setLocale(QLocale(QLocale::Chinese));
   Adopt(native_, native_->findChild<QLineEdit*>());
+  native_->onFocus = [this] {
+    if (Live()) ShowKeyed();
+  };
   connect(native_, &QDateEdit::userDateChanged, this, [this](QDate date) {
-    if (!Live() || !date.isValid()) return;
-    reporting_ = true;
+    if (!Live() || native_->Settling() || !date.isValid()) return;
     Act([&] { return GetForm().UserDate(picker_, FromNative(date)); });
-    reporting_ = false;
     if (Live()) Mirror(ui::Aspect::Value);
   });
 }
@@ -271,15 +283,51 @@ QWidget* DateView::Widget() const { return native_; }
 
 void DateView::Mirror(ui::Aspect aspect) {
   ControlView::Mirror(aspect);
-  if (aspect != ui::Aspect::Value) return;
-  const QDate wanted = ToNative(picker_.Value());
-  if (native_->date() == wanted) return;
-  const QSignalBlocker quiet(native_);
-  native_->setDate(wanted);
+  if (aspect == ui::Aspect::Value) {
+    const QSignalBlocker quiet(native_);
+    native_->setDate(ToNative(picker_.Value()));
+  }
+  if (aspect == ui::Aspect::Value || aspect == ui::Aspect::Text) ShowKeyed();
 }
 
-void DateView::CommitEdit() {
-  if (!reporting_) native_->interpretText();
+void DateView::ShowKeyed() {
+  auto& line = *native_->findChild<QLineEdit*>();
+  const QSignalBlocker quiet(line);
+  const ui::DateKeys& keyed = picker_.Keyed();
+  line.setText(FromUtf8(keyed.Shown()));
+  if (!native_->hasFocus()) {
+    line.setCursorPosition(0);
+  } else if (keyed.SelLength() == 0) {
+    line.setCursorPosition(keyed.SelStart());
+  } else {
+    line.setSelection(keyed.SelStart(), keyed.SelLength());
+  }
+}
+
+void DateView::TakeComposed(const QString& text) {
+  for (char32_t character : text.toUcs4()) SendKey(ui::Key::Character(character));
+}
+
+void DateView::PointAtPart() {
+  const QDateTimeEdit::Section at = native_->currentSection();
+  const ui::DatePart part = at == QDateTimeEdit::YearSection    ? ui::DatePart::Year
+                            : at == QDateTimeEdit::MonthSection ? ui::DatePart::Month
+                                                                : ui::DatePart::Day;
+  Act([&] { return GetForm().UserDatePart(picker_, part); });
+  if (Live()) ShowKeyed();
+}
+
+bool DateView::eventFilter(QObject* watched, QEvent* event) {
+  if (ControlView::eventFilter(watched, event)) return true;
+  if (!Live()) return false;
+  if (event->type() == QEvent::InputMethod) {
+    // What is composed comes in as typed characters do.
+    TakeComposed(static_cast<QInputMethodEvent*>(event)->commitString());
+    return true;
+  }
+  // The press has put the native caret where the user points.
+  if (event->type() == QEvent::MouseButtonRelease && watched != native_) PointAtPart();
+  return false;
 }
 
 }  // namespace qvzj::qt

@@ -3,12 +3,12 @@
 #include "frontends/qt/view.h"
 
 class QComboBox;
-class QDateEdit;
 class QListWidget;
 
 /// The views of combo boxes, list boxes and date pickers.
 namespace qvzj::qt {
 
+class DateEdit;
 class LineLink;
 
 class ComboView : public ControlView {
@@ -54,15 +54,18 @@ class DateView : public ControlView {
   DateView(FormWindow& window, ui::DatePicker& picker, QWidget* parent);
   QWidget* Widget() const override;
   void Mirror(ui::Aspect aspect) override;
-  void CommitEdit() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
   bool FocusesOnPress() const override { return true; }
 
  private:
+  void ShowKeyed();
+  void TakeComposed(const QString& text);
+  void PointAtPart();
+
   ui::DatePicker& picker_;
-  QDateEdit* native_;
-  bool reporting_ = false;
+  DateEdit* native_;
 };
 
 }  // namespace qvzj::qt

@@ -176,6 +176,10 @@ void FormWindow::PopUpMenu(ui::Form&, ui::MenuItem& menu, int32_t left, int32_t 
       mapToGlobal(QPoint(view::ToPixels(left, logicalDpiX()), view::ToPixels(top, logicalDpiY()))));
 }
 
+void FormWindow::KeyRefused(ui::Control& control) {
+  if (ControlView* view = ViewOf(control)) view->TellRefusal();
+}
+
 void FormWindow::FillMenu(QMenu& native, ui::MenuItem& menu) {
   for (ui::Control* control : view::MenuEntries(GetForm(), menu)) {
     if (view::IsSeparator(*control)) {

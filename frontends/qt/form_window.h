@@ -67,6 +67,7 @@ class FormWindow : public QWidget, private ui::FormObserver {
   void ControlChanged(ui::Control& control, ui::Aspect aspect) override;
   void FormChanged(ui::Form& form, ui::Aspect aspect) override;
   void PopUpMenu(ui::Form& form, ui::MenuItem& menu, int32_t left, int32_t top) override;
+  void KeyRefused(ui::Control& control) override;
 
   /// Makes the views of what is on the screen. The rest waits until it is first seen: most of a
   /// form lies on other tab pages and in hidden panels.

@@ -2,7 +2,6 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QMenu>
 
 #include "frontends/qt/column_keeper.h"
@@ -19,14 +18,8 @@
 
 namespace qvzj::qt {
 
-GridTools::GridTools(GridView& view) : view_(view), summary_(new QLabel(view.Table())) {
-  GridTable* table = view_.Table();
-  summary_->setAutoFillBackground(true);
-  summary_->setMargin(4);
-  summary_->setFrameShape(QFrame::StyledPanel);
-  summary_->setBackgroundRole(QPalette::Button);
-  summary_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  summary_->hide();
+GridTools::GridTools(GridView& view) : view_(view) {
+  const GridTable* table = view_.Table();
   connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           [this] { ShowSummary(); });
   connect(table, &QWidget::customContextMenuRequested, this,
@@ -96,16 +89,7 @@ QString GridTools::Summary() const {
   return FromUtf8(view::SelectionSummary(view_.GetGrid(), ShownColumns(), SelectedRows(), Texts()));
 }
 
-void GridTools::ShowSummary() {
-  const QString text = view_.IsLive() ? Summary() : QString();
-  summary_->setText(text);
-  summary_->setVisible(!text.isEmpty());
-  if (text.isEmpty()) return;
-  summary_->adjustSize();
-  const QRect room = view_.Table()->viewport()->geometry();
-  summary_->move(room.right() - summary_->width() - 6, room.bottom() - summary_->height() - 4);
-  summary_->raise();
-}
+void GridTools::ShowSummary() { view_.Pane()->Say(view_.IsLive() ? Summary() : QString()); }
 
 bool GridTools::Find(const QString& text, bool backwards) {
   ui::Grid& grid = view_.GetGrid();

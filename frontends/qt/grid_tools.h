@@ -6,7 +6,6 @@
 
 #include "frontends/view/grid_menu.h"
 
-class QLabel;
 class QPoint;
 
 namespace qvzj::qt {
@@ -25,6 +24,8 @@ class GridTools : public QObject {
   QString SelectedText() const;
   /// "3 rows, sum of …"; empty while fewer than two rows are selected.
   QString Summary() const;
+  /// Shows it anew: the selection or the amounts have changed.
+  void ShowSummary();
   /// Moves the active cell to the next cell that contains the text (ASCII case does not count),
   /// around at the end. False when there is none, or the form kept the cell.
   bool Find(const QString& text, bool backwards);
@@ -33,7 +34,6 @@ class GridTools : public QObject {
 
  private:
   void ShowMenu(const QPoint& at);
-  void ShowSummary();
   void Copy();
   void OpenFind();
   /// The bar, made when it is first asked for.
@@ -45,7 +45,6 @@ class GridTools : public QObject {
   const view::Texts& Texts() const;
 
   GridView& view_;
-  QLabel* summary_;
   FindBar* find_bar_ = nullptr;
 };
 

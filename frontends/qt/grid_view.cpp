@@ -1,13 +1,10 @@
 #include "frontends/qt/grid_view.h"
 
 #include <QHeaderView>
-#include <QHelpEvent>
-#include <QKeyEvent>
-#include <QPainter>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
-#include <QToolTip>
 #include <algorithm>
+#include <utility>
 
 #include "frontends/qt/column_keeper.h"
 #include "frontends/qt/form_window.h"
@@ -20,83 +17,11 @@
 
 namespace qvzj::qt {
 
-namespace {
-
-/// Paints the chosen rows softly, so that a text keeps its colour on them.
-class CellDelegate : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  /// A text that does not fit its cell, or runs out of sight, is shown whole as a tool tip.
-  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-                 const QModelIndex& index) override {
-    if (event->type() != QEvent::ToolTip) {
-      return QStyledItemDelegate::helpEvent(event, view, option, index);
-    }
-    const QString text = index.data().toString();
-    const int margins = 2 * (view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
-    const int needed = option.fontMetrics.horizontalAdvance(text) + margins;
-    // Of several lines a cell shows the first.
-    const bool cut = text.contains(QLatin1Char('\n'));
-    const QRect seen = option.rect.intersected(view->viewport()->rect());
-    QToolTip::showText(event->globalPos(), cut || needed > seen.width() ? text : QString(), view);
-    return true;
-  }
-
- protected:
-  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-    QStyledItemDelegate::initStyleOption(option, index);
-    const view::Colors& colors = ColorsFor(option->palette);
-    const bool focused = option->widget != nullptr && option->widget->hasFocus();
-    const QColor text = index.data(Qt::ForegroundRole).isValid()
-                            ? index.data(Qt::ForegroundRole).value<QBrush>().color()
-                            : colors.text;
-    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-      option->palette.setColor(group, QPalette::Highlight,
-                               focused ? colors.soft_accent : colors.faint_accent);
-      option->palette.setColor(group, QPalette::HighlightedText, text);
-    }
-    option->state &= ~QStyle::State_HasFocus;
-  }
-};
-
-}  // namespace
-
-GridTable::GridTable(QWidget* parent) : QTableView(parent) {
-  setItemDelegate(new CellDelegate(this));
-  setSelectionBehavior(SelectRows);
-  setSelectionMode(ExtendedSelection);
-  setEditTriggers(NoEditTriggers);
-  setTabKeyNavigation(false);
-  setWordWrap(false);
-  setCornerButtonEnabled(false);
-  setHorizontalScrollMode(ScrollPerPixel);
-  setVerticalScrollMode(ScrollPerItem);
-  setFrameShape(QFrame::StyledPanel);
-  setContextMenuPolicy(Qt::CustomContextMenu);
-  horizontalHeader()->setSectionsClickable(true);
-  horizontalHeader()->setSectionsMovable(true);
-  horizontalHeader()->setHighlightSections(false);
-  horizontalHeader()->setMinimumSectionSize(24);
-  horizontalHeader()->setTextElideMode(Qt::ElideRight);
-  verticalHeader()->setHighlightSections(false);
-  verticalHeader()->setSectionsClickable(true);
-}
-
-void GridTable::paintEvent(QPaintEvent* event) {
-  QTableView::paintEvent(event);
-  if (!currentIndex().isValid()) return;
-  // The current row has a mark at its left edge, so that it stays clear among selected rows.
-  QPainter painter(viewport());
-  const int row = currentIndex().row();
-  // The line under the row is not repainted with it.
-  painter.fillRect(0, rowViewportPosition(row), 3, rowHeight(row) - 1, ColorsFor(palette()).accent);
-}
-
 GridView::GridView(FormWindow& window, ui::Grid& grid, QWidget* parent)
     : ControlView(window, grid),
       grid_(grid),
-      table_(new GridTable(parent)),
+      pane_(new GridPane(parent)),
+      table_(pane_->Table()),
       model_(std::make_unique<GridModel>(grid)) {
   table_->setModel(model_.get());
   Adopt(table_, table_->viewport());
@@ -134,22 +59,31 @@ void GridView::ConnectTable() {
           });
 }
 
-QWidget* GridView::Widget() const { return table_; }
+QWidget* GridView::Widget() const { return pane_; }
+
+QWidget* GridView::FocusWidget() const { return table_; }
 
 void GridView::Mirror(ui::Aspect aspect) {
   switch (aspect) {
     case ui::Aspect::GridContents:
     case ui::Aspect::GridCurrent:
+    case ui::Aspect::GridMarked:
     case ui::Aspect::Visible:
       // Filling a grid hides it, changes it many times and shows it again, all in one act.
       contents_stale_ = contents_stale_ || aspect == ui::Aspect::GridContents;
+      sight_stale_ = sight_stale_ || aspect == ui::Aspect::GridCurrent;
+      marked_stale_ = marked_stale_ || aspect == ui::Aspect::GridMarked;
       current_stale_ = true;
       window_.Pump().PutOff(grid_);
       return;
-    case ui::Aspect::Bounds:
+    case ui::Aspect::Bounds: {
+      // What makes the grid smaller (the editor that opens) leaves the current row in sight.
+      const bool seen = CurrentInSight();
       ControlView::Mirror(aspect);
       CountPageRows();
+      if (seen) table_->scrollTo(table_->currentIndex());
       return;
+    }
     default:
       ControlView::Mirror(aspect);
   }
@@ -159,6 +93,8 @@ void GridView::Refresh() {
   const QScopedValueRollback<bool> echo(showing_, true);
   if (contents_stale_) {
     contents_stale_ = false;
+    // Rows that were selected may be other ones now.
+    table_->selectionModel()->clearSelection();
     model_->SetPalette(table_->palette(), ColorsFor(table_->palette()).negative);
     model_->SetHeaderLook(table_->horizontalHeader()->font(),
                           table_->style()->pixelMetric(QStyle::PM_HeaderMargin));
@@ -167,11 +103,16 @@ void GridView::Refresh() {
     ShowColumns();
     ShowSortIndicator();
   }
-  table_->setVisible(grid_.Visible());
+  pane_->setVisible(grid_.Visible());
   if (current_stale_) {
     current_stale_ = false;
     ShowCurrent();
   }
+  if (marked_stale_) {
+    marked_stale_ = false;
+    ShowMarked();
+  }
+  tools_->ShowSummary();
 }
 
 void GridView::Detach() {
@@ -198,13 +139,9 @@ void GridView::ShowRowHeight() {
 
 void GridView::ShowSortIndicator() {
   QHeaderView* header = table_->horizontalHeader();
-  const int column = grid_.SortColumn();
-  const bool sorted =
-      column >= 1 && column <= grid_.ColumnCount() && grid_.GetSortOrder() != ui::SortOrder::None;
-  // Where the form writes the arrow into the caption, a second one would only be noise.
-  const bool shown = sorted && grid_.PlainHeader(column) == grid_.Header(column);
-  header->setSortIndicatorShown(shown);
-  if (shown) {
+  const int column = grid_.SortedColumn();
+  header->setSortIndicatorShown(column > 0);
+  if (column > 0) {
     header->setSortIndicator(column - 1, grid_.GetSortOrder() == ui::SortOrder::Ascending
                                              ? Qt::AscendingOrder
                                              : Qt::DescendingOrder);
@@ -218,15 +155,29 @@ void GridView::ShowCurrent() {
     selection->clear();
     return;
   }
-  if (selection->currentIndex() == wanted && selection->isRowSelected(wanted.row())) return;
   const bool other_row = selection->currentIndex().row() != wanted.row();
-  selection->setCurrentIndex(wanted,
-                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  if (other_row) table_->scrollTo(wanted);
+  if (selection->currentIndex() != wanted || !selection->isRowSelected(wanted.row())) {
+    anchor_.Put(grid_.ActiveRow());
+    selection->setCurrentIndex(wanted,
+                               QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  }
+  if (std::exchange(sight_stale_, false) || other_row) table_->scrollTo(wanted);
+}
+
+void GridView::ShowMarked() {
+  const int row = grid_.MarkedRow() - 1;
+  table_->Mark(row);
+  if (row >= 0) table_->scrollTo(model_->index(row, std::max(grid_.ActiveColumn() - 1, 0)));
+}
+
+bool GridView::CurrentInSight() const {
+  const QModelIndex current = table_->currentIndex();
+  return current.isValid() && table_->viewport()->rect().intersects(table_->visualRect(current));
 }
 
 void GridView::CurrentMoved(const QModelIndex& current) {
   if (showing_ || !Live() || !current.isValid()) return;
+  if (!table_->Dragging()) anchor_.Put(current.row() + 1);
   const int column = current.column() + 1;
   const int row = current.row() + 1;
   if (column == grid_.ActiveColumn() && row == grid_.ActiveRow()) return;
@@ -251,13 +202,16 @@ QPoint GridView::MenuPlace() const {
                                : room.center();
 }
 
-void GridView::DoOwn(view::KeyRoute route) {
+void GridView::DoOwn(view::KeyRoute route, const ui::Key& key) {
   switch (route) {
     case view::KeyRoute::StepLeft:
       StepSideways(-1);
       return;
     case view::KeyRoute::StepRight:
       StepSideways(1);
+      return;
+    case view::KeyRoute::Extend:
+      ExtendTo(grid_.ActiveColumn(), view::ExtensionTarget(grid_, key.name));
       return;
     case view::KeyRoute::CopyRows:
       tools_->Do(view::GridAct::CopyRows);
@@ -279,12 +233,40 @@ void GridView::StepSideways(int step) {
   Act([&] { return GetForm().UserCell(grid_, column, grid_.ActiveRow()); });
 }
 
+void GridView::ExtendTo(int32_t column, int32_t row) {
+  if (row < 1) return;
+  const view::SelectionAnchor anchor = anchor_;
+  if (row != grid_.ActiveRow() || column != grid_.ActiveColumn()) {
+    Act([&] { return GetForm().UserCell(grid_, column, row); });
+    if (!Live()) return;
+  }
+  anchor_ = anchor;
+  const view::RowRange rows = anchor.To(grid_.ActiveRow());
+  const QScopedValueRollback<bool> echo(showing_, true);
+  table_->selectionModel()->select(
+      QItemSelection(model_->index(rows.first - 1, 0),
+                     model_->index(rows.last - 1, model_->columnCount() - 1)),
+      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  table_->scrollTo(table_->currentIndex());
+}
+
+bool GridView::ExtendByMouse(const QMouseEvent& press) {
+  const bool extends = press.button() == Qt::LeftButton && press.modifiers() == Qt::ShiftModifier;
+  const QModelIndex cell = table_->indexAt(press.position().toPoint());
+  if (!extends || !cell.isValid()) return false;
+  ExtendTo(cell.column() + 1, cell.row() + 1);
+  return true;
+}
+
 bool GridView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize && Live()) CountPageRows();
   if (event->type() == QEvent::PaletteChange) {
     model_->SetPalette(table_->palette(), ColorsFor(table_->palette()).negative);
   }
-  return ControlView::eventFilter(watched, event);
+  if (ControlView::eventFilter(watched, event)) return true;
+  // The table would extend from the last row that was clicked, wherever the keys have gone since.
+  return Live() && watched == table_->viewport() && event->type() == QEvent::MouseButtonPress &&
+         ExtendByMouse(*static_cast<QMouseEvent*>(event));
 }
 
 }  // namespace qvzj::qt

@@ -132,8 +132,9 @@ CheckView::CheckView(FormWindow& window, ui::CheckBox& check, QWidget* parent)
     : ControlView(window, check), check_(check), native_(new QCheckBox(parent)) {
   Adopt(native_);
   connect(native_, &QCheckBox::clicked, this, [this] {
+    if (!Live()) return;
+    Mirror(ui::Aspect::Value);  // the native tick has run ahead, and the act may show a box first
     Act([this] { return GetForm().UserClick(check_); });
-    if (Live()) Mirror(ui::Aspect::Value);  // the native tick has run ahead
   });
 }
 
@@ -160,8 +161,9 @@ OptionView::OptionView(FormWindow& window, ui::OptionButton& option, QWidget* pa
   Adopt(native_);
   native_->setAutoExclusive(false);
   connect(native_, &QRadioButton::clicked, this, [this] {
+    if (!Live()) return;
+    Mirror(ui::Aspect::Value);  // no two options look chosen while the act shows a box
     Act([this] { return GetForm().UserClick(option_); });
-    if (Live()) Mirror(ui::Aspect::Value);
   });
 }
 

@@ -1,17 +1,23 @@
 #include "frontends/qt/view.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QInputMethod>
 #include <QKeyEvent>
+#include <QTimer>
+#include <QToolTip>
 
+#include "frontends/qt/calm_style.h"
 #include "frontends/qt/composition.h"
 #include "frontends/qt/form_window.h"
 #include "frontends/qt/keys.h"
 #include "frontends/qt/text.h"
+#include "frontends/view/look.h"
 #include "frontends/view/measure.h"
 #include "frontends/view/view_plan.h"
 
@@ -83,6 +89,8 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
       if (passes_over) event->ignore();
       return passes_over;
     }
+    case QEvent::ToolTip:
+      return ShowReason(static_cast<QHelpEvent*>(event)->globalPos());
     case QEvent::FocusOut:
       FocusWidget()->update();  // its frame tells the focus
       return false;
@@ -107,7 +115,7 @@ bool ControlView::HandleKey(QKeyEvent& event, bool only_ask) {
   } else if (route == view::KeyRoute::ShowMenu) {
     AskForMenu();
   } else {
-    DoOwn(route);
+    DoOwn(route, *key);
   }
   return true;
 }
@@ -126,6 +134,24 @@ void ControlView::AskForMenu() {
 }
 
 QPoint ControlView::MenuPlace() const { return FocusWidget()->rect().center(); }
+
+void ControlView::TellRefusal() {
+  QApplication::beep();
+  QWidget* field = Widget();
+  if (ShowReason(field->mapToGlobal(QPoint(0, field->height())))) return;
+  field->setProperty(kRefused, true);
+  field->update();
+  QTimer::singleShot(view::kRefusalShownFor, field, [field] {
+    field->setProperty(kRefused, false);
+    field->update();
+  });
+}
+
+bool ControlView::ShowReason(const QPoint& at) {
+  if (control_->Usable() || control_->DisabledReason().empty()) return false;
+  QToolTip::showText(at, FromUtf8(control_->DisabledReason()), Widget());
+  return true;
+}
 
 void ControlView::SendKey(const ui::Key& key) {
   Act([&] { return GetForm().UserKey(key); });

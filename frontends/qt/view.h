@@ -45,6 +45,8 @@ class ControlView : public QObject {
   virtual void Refresh() {}
   /// Hands over an edit that the native editor still keeps to itself (a date half typed).
   virtual void CommitEdit() {}
+  /// A key did nothing here: makes that heard and seen, and says why where there is a reason.
+  void TellRefusal();
   /// The form goes away: nothing of the control may be touched afterwards.
   virtual void Detach() {}
   /// How the control's shown texts fit; null room when it shows none.
@@ -59,7 +61,7 @@ class ControlView : public QObject {
   /// Sends a key to the form.
   virtual void SendKey(const ui::Key& key);
   /// Does what a key asks of the window.
-  virtual void DoOwn(view::KeyRoute) {}
+  virtual void DoOwn(view::KeyRoute, const ui::Key&) {}
   /// True for widgets that take the focus when the mouse is pressed on them; the others take it
   /// with the click that they report.
   virtual bool FocusesOnPress() const { return false; }
@@ -83,6 +85,7 @@ class ControlView : public QObject {
   bool HandleKey(QKeyEvent& event, bool only_ask);
   bool HandlePress();
   void AskForMenu();
+  bool ShowReason(const QPoint& at);
   void HandleFocusIn(Qt::FocusReason reason);
 
   ui::Control* control_;

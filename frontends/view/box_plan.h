@@ -23,6 +23,9 @@ struct BoxPlan {
   Answer rejected = Answer::Ok;  ///< also when the box is closed otherwise
 };
 
+/// The style of a question of the window's own that is answered with Yes or No.
+inline constexpr int kQuestionYesNo = 36;
+
 /// `style` as in platform/boxes.h.
 BoxPlan PlanBox(int style, const Texts& texts);
 

@@ -30,6 +30,23 @@ std::string WithEnding(const std::string& path, const FileQuestion& question, si
   return (other ? path.substr(0, path.size() - suffix.size() - 1) : path) + '.' + wanted.ending;
 }
 
+std::optional<size_t> OtherTypeTyped(const std::string& given, const FileQuestion& question,
+                                     size_t chosen) {
+  const std::string suffix = basic::Lower(SuffixOf(given));
+  if (suffix == basic::Lower(question.types[chosen].ending)) return std::nullopt;
+  for (size_t type = 0; type < question.types.size(); ++type) {
+    if (suffix == basic::Lower(question.types[type].ending)) return type;
+  }
+  return std::nullopt;
+}
+
+std::string OtherTypeQuestion(const FileQuestion& question, size_t typed, size_t chosen,
+                              const Texts& texts) {
+  const FileType& by_name = question.types[typed];
+  const FileType& by_choice = question.types[chosen];
+  return Fill(texts.other_type, {by_name.ending, by_choice.label, by_name.label});
+}
+
 bool MustAskAgain(const std::string& given, const std::string& whole,
                   const std::function<bool(const std::string&)>& exists) {
   return whole != given && exists(whole);

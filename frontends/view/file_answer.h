@@ -1,8 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "frontends/view/texts.h"
 
 /// Questions for a file to save, and what an answer means. Texts and paths are UTF-8.
 namespace qvzj::view {
@@ -28,6 +31,15 @@ std::string FilterText(const FileType& type);
 
 /// The path, or name alone, with the ending of the chosen type instead of another type's.
 std::string WithEnding(const std::string& path, const FileQuestion& question, size_t chosen);
+
+/// The type that the ending of a typed name belongs to when that is another ending than the chosen
+/// type's; empty when the name agrees with the choice or bears no type's ending. Which of the two
+/// is meant only the user knows.
+std::optional<size_t> OtherTypeTyped(const std::string& given, const FileQuestion& question,
+                                     size_t chosen);
+/// The question which of them is meant: yes for the one that the name says.
+std::string OtherTypeQuestion(const FileQuestion& question, size_t typed, size_t chosen,
+                              const Texts& texts);
 
 /// True when the file that would be written is there and is another one than the dialog has asked
 /// about: the dialog comes again with that one's name.

@@ -36,7 +36,7 @@ std::string GridCells::Text(int32_t column, int32_t row) const {
 
 std::string GridCells::Header(int32_t column) const {
   if (grid_ == nullptr || column < 1 || column > grid_->ColumnCount()) return {};
-  return grid_->Header(column);
+  return grid_->PlainHeader(column);
 }
 
 bool GridCells::IsNumeric(int32_t column) const {

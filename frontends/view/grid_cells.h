@@ -26,6 +26,8 @@ class GridCells {
   int32_t Columns() const { return columns_; }
 
   std::string Text(int32_t column, int32_t row) const;
+  /// Without the arrow that the form may have written into it: a window draws its own, which
+  /// stands by the column that the rows are sorted by and goes when they no longer are.
   std::string Header(int32_t column) const;
   /// True for a column of numbers, which stand to the right.
   bool IsNumeric(int32_t column) const;

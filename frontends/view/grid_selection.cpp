@@ -37,6 +37,38 @@ std::string Simplified(std::string_view text) {
 
 }  // namespace
 
+RowRange SelectionAnchor::To(int32_t row) const {
+  const int32_t from = row_ > 0 ? row_ : row;
+  return {std::min(from, row), std::max(from, row)};
+}
+
+int32_t ExtensionTarget(const ui::Grid& grid, ui::Key::Name key) {
+  int32_t to = grid.ActiveRow();
+  switch (key) {
+    case ui::Key::Name::Up:
+      --to;
+      break;
+    case ui::Key::Name::Down:
+      ++to;
+      break;
+    case ui::Key::Name::PageUp:
+      to -= grid.PageRows();
+      break;
+    case ui::Key::Name::PageDown:
+      to += grid.PageRows();
+      break;
+    case ui::Key::Name::Home:
+      to = 1;
+      break;
+    case ui::Key::Name::End:
+      to = grid.RowCount();
+      break;
+    default:
+      break;
+  }
+  return std::clamp(to, std::min(1, grid.RowCount()), grid.RowCount());
+}
+
 std::vector<int32_t> RowsOf(const std::vector<RowRange>& ranges) {
   std::vector<int32_t> rows;
   for (const RowRange& range : ranges) {

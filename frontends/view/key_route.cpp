@@ -28,21 +28,28 @@ bool IsStep(const ui::Key& key) {
          key.name == Name::PageDown;
 }
 
-/// The keys that move within a list. With Shift or Ctrl they are the widget's, which selects.
-bool IsListKey(const ui::Key& key) {
-  const bool moves = IsStep(key) || key.name == Name::Home || key.name == Name::End;
-  return moves && Plain(key) && !key.shift;
+bool MovesInList(const ui::Key& key) {
+  return IsStep(key) || key.name == Name::Home || key.name == Name::End;
 }
+
+/// The keys that move within a list. With Shift or Ctrl they select.
+bool IsListKey(const ui::Key& key) { return MovesInList(key) && Plain(key) && !key.shift; }
 
 bool IsCtrl(const ui::Key& key, char32_t letter) {
   return key.ctrl && !key.alt && !key.shift && key.name == Name::Character &&
          (key.character | 0x20) == letter;
 }
 
+bool IsFunctionKey(const ui::Key& key) { return key.name >= Name::F1 && key.name <= Name::F12; }
+
+bool IsClipboardKey(const ui::Key& key) {
+  return IsCtrl(key, U'c') || IsCtrl(key, U'v') || IsCtrl(key, U'x');
+}
+
 /// Keys that change the text of a line, and the clipboard's.
 bool IsEditKey(const ui::Key& key) {
   if (key.alt) return false;
-  if (key.ctrl) return IsCtrl(key, U'c') || IsCtrl(key, U'v') || IsCtrl(key, U'x');
+  if (key.ctrl) return IsClipboardKey(key);
   return key.name == Name::Character || key.name == Name::Space || key.name == Name::Backspace ||
          (key.name == Name::Delete && !key.shift);
 }
@@ -64,13 +71,14 @@ bool IsComboKey(const ui::ComboBox& combo, const ui::Key& key) {
   if (combo.Editable()) return IsEditKey(key) || (IsStep(key) && Plain(key));
   const bool typed =
       key.name == Name::Character || key.name == Name::Delete || key.name == Name::Backspace;
-  return (typed && Plain(key)) || IsListKey(key);
+  return (typed && Plain(key)) || IsListKey(key) || IsClipboardKey(key);
 }
 
 KeyRoute GridRoute(const ui::Key& key) {
   if (IsCtrl(key, U'c')) return KeyRoute::CopyRows;
   if (IsCtrl(key, U'f')) return KeyRoute::Find;
   if (key.name == Name::F3) return KeyRoute::FindAgain;
+  if (MovesInList(key) && key.shift && !key.alt) return KeyRoute::Extend;
   const bool unmodified = Plain(key) && !key.shift;
   if (unmodified && key.name == Name::Left) return KeyRoute::StepLeft;
   if (unmodified && key.name == Name::Right) return KeyRoute::StepRight;
@@ -93,7 +101,8 @@ bool IsControlKey(const ui::Control& control, const ui::Key& key) {
     case ui::Kind::Tabs:
       return key.name == Name::Left || key.name == Name::Right;
     case ui::Kind::DatePicker:
-      return IsStep(key) && IsListKey(key);
+      // A date is typed in the form, and its native field only shows it and drops a calendar.
+      return !key.alt && !IsFunctionKey(key);
     default:
       return false;
   }

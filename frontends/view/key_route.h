@@ -13,6 +13,7 @@ enum class KeyRoute {
   CopyRows,   ///< the window's: the selected rows of a grid to the clipboard
   Find,       ///< the window's: opens the line that finds texts in a grid
   FindAgain,  ///< the window's: the next place of the same text
+  Extend,     ///< the window's: extends the selected rows of a grid; see grid_selection.h
   StepLeft,   ///< the window's: one column to the left as the user has arranged them
   StepRight,  ///< the same to the right
 };

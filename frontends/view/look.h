@@ -42,4 +42,9 @@ std::vector<std::string_view> FontFamilies(bool traditional);
 inline constexpr double kFontPoints = 9;
 inline constexpr double kHeadingMore = 2;
 
+/// How long a row that something has just happened to stays marked, in milliseconds.
+inline constexpr int kMarkedFor = 1500;
+/// How long a field that refused a key shows it, in milliseconds.
+inline constexpr int kRefusalShownFor = 300;
+
 }  // namespace qvzj::view

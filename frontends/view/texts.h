@@ -13,9 +13,10 @@ struct Texts {
   std::string_view save, folder, file_name, file_type;  ///< of the question for a file
   std::string_view undo, redo, cut, copy, paste, erase, select_all;
   std::string_view copy_rows, find, find_next, export_grid, print, reset_columns;
-  std::string_view selected;   ///< how many rows are selected: %1
-  std::string_view sum;        ///< of the selected rows: %1 column, %2 sum
-  std::string_view find_here;  ///< stands in the empty find line
+  std::string_view other_type;  ///< %1 typed ending, %2 chosen type, %3 the ending's type
+  std::string_view selected;    ///< how many rows are selected: %1
+  std::string_view sum;         ///< of the selected rows: %1 column, %2 sum
+  std::string_view find_here;   ///< stands in the empty find line
   std::string_view not_found;
   std::string_view exporting;  ///< while it takes long
   std::string_view excel_file, csv_utf8_file, csv_gb_file;

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -222,6 +223,16 @@ bool SuiteWindow::event(QEvent* event) {
     Colour();
   }
   return QWidget::event(event);
+}
+
+void SuiteWindow::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  auto* button = qobject_cast<QPushButton*>(focusWidget());
+  if (enter && button != nullptr) {
+    button->click();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 void SuiteWindow::closeEvent(QCloseEvent* event) {

@@ -24,6 +24,8 @@ class SuiteWindow : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
   bool event(QEvent* event) override;
+  /// Enter presses the button that has the focus, as Space does.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void AddHead(QBoxLayout& column);

@@ -94,6 +94,20 @@ TEST(FormWindow, LetsTheFormUndoAnOptionItRefuses) {
   EXPECT_FALSE(static_cast<QRadioButton*>(window.ViewOf(second)->Widget())->isChecked());
 }
 
+TEST(FormWindow, ShowsNoTwoOptionsChosenWhileTheActWaits) {
+  WindowWorld world;
+  frmZj& form = world.Show();
+  auto& chosen = world.Native<QRadioButton>(form.OptSelect(0));
+  auto& pressed = world.Native<QRadioButton>(form.OptSelect(1));
+  int ticked = 0;
+  form.OptSelect(1).onGotFocus = [&] { ticked = chosen.isChecked() + pressed.isChecked(); };
+  if (form.OptSelect(1).Selected()) form.OptSelect(0).Select();
+  pressed.click();
+  EXPECT_EQ(ticked, 1);
+  EXPECT_TRUE(pressed.isChecked());
+  EXPECT_FALSE(chosen.isChecked());
+}
+
 TEST(FormWindow, TurnsTabsAndTheirPages) {
   WindowWorld world;
   frmZj& form = world.Show();

@@ -9,10 +9,12 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QInputMethodEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QSettings>
 #include <QTimer>
 #include <QToolTip>
+#include <QTreeView>
 
 #include "frontends/qt/ask_file.h"
 #include "frontends/qt/column_keeper.h"
@@ -77,6 +79,54 @@ TEST_F(Tools, AddUpTheAmountsOfTheSelectedRows) {
 TEST_F(Tools, SayNothingOfASingleRow) {
   SelectRows(1, 1);
   EXPECT_EQ(view_.Tools().Summary(), "");
+}
+
+TEST_F(Tools, ExtendTheSelectionFromWhereTheArrowsWent) {
+  form_.UserFocus(form_.Grid2);
+  world_.Settle();
+  const QPoint first = table_.visualRect(table_.model()->index(0, 1)).center();
+  QTest::mouseClick(table_.viewport(), Qt::LeftButton, {}, first);
+  QTest::keyClick(&table_, Qt::Key_Down);
+  QTest::keyClick(&table_, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(form_.Grid2.ActiveRow(), 3);
+  EXPECT_TRUE(view_.Tools().Summary().contains("合计 120.25"))
+      << qPrintable(view_.Tools().Summary());
+  QTest::keyClick(&table_, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text().count('\n'), 3) << "the header and two rows";
+  QTest::keyClick(&table_, Qt::Key_Home, Qt::ShiftModifier);
+  EXPECT_TRUE(view_.Tools().Summary().contains("合计 150.75"))
+      << "around the anchor to the other side: " << qPrintable(view_.Tools().Summary());
+}
+
+TEST_F(Tools, ExtendTheSelectionByShiftAndMouseFromWhereTheArrowsWent) {
+  form_.UserFocus(form_.Grid2);
+  world_.Settle();
+  const auto at = [&](int row) {
+    return table_.visualRect(table_.model()->index(row, 1)).center();
+  };
+  QTest::mouseClick(table_.viewport(), Qt::LeftButton, {}, at(0));
+  QTest::keyClick(&table_, Qt::Key_Down);
+  QTest::mouseClick(table_.viewport(), Qt::LeftButton, Qt::ShiftModifier, at(2));
+  EXPECT_TRUE(view_.Tools().Summary().startsWith("已选 2 行"))
+      << qPrintable(view_.Tools().Summary());
+}
+
+TEST_F(Tools, TellTheSumsBelowTheRowsAndTakeThemAwayWithThem) {
+  auto* sums = view_.Pane()->findChild<QLabel*>("sums");
+  ASSERT_NE(sums, nullptr);
+  EXPECT_FALSE(sums->isVisible());
+  SelectRows(0, 2);
+  ASSERT_TRUE(sums->isVisible());
+  EXPECT_FALSE(sums->geometry().intersects(table_.geometry())) << "it hides no rows";
+  EXPECT_EQ(sums->geometry().bottom(), view_.Pane()->rect().bottom());
+  form_.UserClick(form_.cmdAction(1));
+  world_.Settle();
+  form_.UserClick(form_.cmdAction(0));
+  world_.Settle();
+  EXPECT_EQ(sums->geometry().bottom(), view_.Pane()->rect().bottom());
+  form_.UserTab(form_.SSTab2, 1);
+  world_.Settle();
+  EXPECT_FALSE(sums->isVisible()) << "other amounts, other rows";
 }
 
 TEST_F(Tools, FindTheNextCellAndGoThere) {
@@ -255,24 +305,65 @@ void SaveAs(const QString& path) {
 }
 
 TEST(AskFile, GivesWhateverIsTypedTheEndingOfItsType) {
-  const TemporaryFolder folder;
-  const QString place = QString::fromStdString(folder.Path().string()) + "/";
-  for (const QString typed : {"list", "list.csv", "list.xlsx"}) {
+  World world;
+  const QString place = QString::fromStdString(world.folder.Path().string()) + "/";
+  for (const QString typed : {"list", "list.xlsx", "No. 1.5"}) {
     QWidget owner;
     QTimer::singleShot(50, [&] { SaveAs(place + typed); });
     const view::FileQuestion question{"t", "n", {{"Book", "xlsx"}, {"List", "csv"}}};
-    EXPECT_EQ(qt::FromUtf8(qt::AskSaveFile(owner, question, false).path), place + "list.xlsx")
+    const QString name = typed.startsWith("list") ? "list.xlsx" : "No. 1.5.xlsx";
+    EXPECT_EQ(qt::FromUtf8(qt::AskSaveFile(owner, question, false).path), place + name)
         << typed.toStdString();
   }
+  EXPECT_TRUE(world.headless.boxes.TakeShown().empty());
+}
+
+TEST(AskFile, AsksWhichTypeIsMeantWhenTheNameSaysAnotherOne) {
+  World world;
+  const QString place = QString::fromStdString(world.folder.Path().string()) + "/";
+  const view::FileQuestion question{"t", "n", {{"Book", "xlsx"}, {"List", "csv"}}};
+  for (const std::string answer : {"yes", "no"}) {
+    QWidget owner;
+    world.Answer(answer);
+    QTimer::singleShot(50, [&] { SaveAs(place + "out3.csv"); });
+    const view::FileAnswer file = qt::AskSaveFile(owner, question, false);
+    const bool by_name = answer == "yes";
+    EXPECT_EQ(qt::FromUtf8(file.path), place + (by_name ? "out3.csv" : "out3.xlsx"));
+    EXPECT_EQ(file.type, by_name ? 1U : 0U);
+  }
+  const auto shown = world.headless.boxes.TakeShown();
+  ASSERT_EQ(shown.size(), 2U);
+  EXPECT_EQ(shown[0].text, "文件名以 .csv 结尾，所选类型却是“Book”。\n要保存为“List”吗？");
+}
+
+TEST(AskFile, ShowsTheDatesOfFilesWhole) {
+  World world;
+  QFile there(QString::fromStdString((world.folder.Path() / "list.xlsx").string()));
+  ASSERT_TRUE(there.open(QIODevice::WriteOnly));
   QWidget owner;
-  QTimer::singleShot(50, [&] { SaveAs(place + "No. 1.5"); });
-  EXPECT_EQ(qt::FromUtf8(qt::AskSaveFile(owner, {"t", "n", {{"Book", "xlsx"}}}, false).path),
-            place + "No. 1.5.xlsx");
+  int needed = 0;
+  int width = 0;
+  QTimer::singleShot(300, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    dialog->setDirectory(QString::fromStdString(world.folder.Path().string()));
+    QTimer::singleShot(300, dialog, [&, dialog] {
+      auto* list = dialog->findChild<QTreeView*>();
+      const QModelIndex date = list->model()->index(0, 3, list->rootIndex());
+      needed = list->fontMetrics().horizontalAdvance(date.data().toString());
+      width = list->columnWidth(3);
+      dialog->reject();
+    });
+  });
+  qt::AskSaveFile(owner, {"t", "n", {{"Book", "xlsx"}}}, false);
+  EXPECT_GT(needed, 0);
+  EXPECT_GE(width, needed);
 }
 
 TEST(AskFile, ComesAgainWithTheNameOfTheFileThatItWouldReplace) {
-  const TemporaryFolder folder;
-  const QString place = QString::fromStdString(folder.Path().string()) + "/";
+  World world;
+  world.Answer("no");
+  const QString place = QString::fromStdString(world.folder.Path().string()) + "/";
   QFile there(place + "list.xlsx");
   ASSERT_TRUE(there.open(QIODevice::WriteOnly));
   QWidget owner;

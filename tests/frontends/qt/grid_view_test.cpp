@@ -97,6 +97,61 @@ TEST_F(LedgerTable, KeepsTheSelectionOnItsPlaceAfterASort) {
   EXPECT_EQ(table_.currentIndex().row(), 1);
 }
 
+TEST_F(LedgerTable, KeepsTheWholeCaptionOfASortedColumn) {
+  const QHeaderView* header = table_.horizontalHeader();
+  const auto room = [&] {
+    QStyleOptionHeader option;
+    option.initFrom(header);
+    option.rect = QRect(0, 0, header->sectionSize(1), header->height());
+    option.section = 1;
+    option.sortIndicator =
+        header->isSortIndicatorShown() ? QStyleOptionHeader::SortDown : QStyleOptionHeader::None;
+    return header->style()->subElementRect(QStyle::SE_HeaderLabel, &option, header).width();
+  };
+  const int before = room();
+  form_.UserHeader(form_.Grid2, 2);
+  world_.Settle();
+  ASSERT_TRUE(header->isSortIndicatorShown());
+  EXPECT_EQ(room(), before);
+}
+
+TEST_F(LedgerTable, TakesTheArrowAwayWhenTheOrderHasGone) {
+  form_.UserHeader(form_.Grid2, 2);
+  world_.Settle();
+  ASSERT_TRUE(table_.horizontalHeader()->isSortIndicatorShown());
+  form_.Grid2.SetCellText(2, 1, "another");
+  world_.Window().Flush();
+  EXPECT_FALSE(table_.horizontalHeader()->isSortIndicatorShown());
+}
+
+TEST(GridTable, KeepsTheCurrentRowInSightWhenTheEditorOpens) {
+  WindowWorld world;
+  for (int i = 10; i < 70; ++i) {
+    world.AddEntry("2024-01-02", "P" + std::to_string(i), 100, 30);
+  }
+  frmZj& form = world.Show();
+  const qt::GridTable& table = *world.GridOf(form.Grid2).Table();
+  form.UserFocus(form.Grid2);
+  form.UserCell(form.Grid2, 1, 1);
+  form.UserCell(form.Grid2, 1, 1 + form.Grid2.PageRows());
+  world.Settle();
+  const int before = table.viewport()->height();
+  form.UserClick(form.cmdAction(1));
+  world.Settle();
+  ASSERT_LT(table.viewport()->height(), before);
+  const QRect row = table.visualRect(table.currentIndex());
+  EXPECT_TRUE(table.viewport()->rect().contains(row.center()));
+}
+
+TEST_F(LedgerTable, MarksARowForAMomentAndBringsItIntoSight) {
+  form_.Grid2.MarkRow(form_.Grid2.RowCount());
+  world_.Window().Flush();
+  EXPECT_EQ(table_.MarkedRow(), form_.Grid2.RowCount() - 1);
+  const QRect row = table_.visualRect(table_.model()->index(table_.MarkedRow(), 1));
+  EXPECT_TRUE(table_.viewport()->rect().contains(row.center()));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return table_.MarkedRow() == -1; }));
+}
+
 TEST_F(LedgerTable, OpensTheEntryByDoubleClick) {
   const QRect cell = table_.visualRect(table_.model()->index(1, 1));
   QTest::mouseClick(table_.viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());

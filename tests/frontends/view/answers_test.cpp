@@ -13,7 +13,7 @@ TEST(BoxPlan, GivesEveryStyleItsButtonsAndAnswers) {
   EXPECT_EQ(question.accept, "确定");
   EXPECT_EQ(question.reject, "取消");
   EXPECT_EQ(question.rejected, Answer::Cancel);
-  const BoxPlan yes_no = PlanBox(32 + 4, texts);
+  const BoxPlan yes_no = PlanBox(kQuestionYesNo, texts);
   EXPECT_EQ(yes_no.accept, "是");
   EXPECT_EQ(yes_no.accepted, Answer::Yes);
   EXPECT_EQ(yes_no.rejected, Answer::No);
@@ -32,6 +32,13 @@ TEST(FileAnswer, GivesWhateverIsTypedTheEndingOfItsType) {
   }
   EXPECT_EQ(WithEnding("No. 1.5", kQuestion, 1), "No. 1.5.csv");
   EXPECT_EQ(WithEnding("LIST.XLSX", kQuestion, 0), "LIST.XLSX");
+}
+
+TEST(FileAnswer, SeesWhenANameSaysAnotherTypeThanTheChoice) {
+  EXPECT_EQ(OtherTypeTyped("/a/out3.CSV", kQuestion, 0), 1U);
+  EXPECT_EQ(OtherTypeTyped("/a/out3.csv", kQuestion, 1), std::nullopt);
+  EXPECT_EQ(OtherTypeTyped("/a.csv/out", kQuestion, 0), std::nullopt);
+  EXPECT_EQ(OtherTypeTyped("No. 1.5", kQuestion, 0), std::nullopt);
 }
 
 TEST(FileAnswer, ListsATypeWithItsEnding) {

@@ -80,6 +80,31 @@ TEST_F(GridWork, TakesEveryRowOfOverlappingRangesOnce) {
   EXPECT_EQ(RowsOf({{3, 4}, {1, 3}}), (std::vector<int32_t>{1, 2, 3, 4}));
 }
 
+TEST_F(GridWork, SelectsFromTheAnchorToEitherSide) {
+  SelectionAnchor anchor;
+  EXPECT_EQ(anchor.To(2).first, 2) << "no anchor yet";
+  anchor.Put(2);
+  EXPECT_EQ(anchor.To(3).first, 2);
+  EXPECT_EQ(anchor.To(3).last, 3);
+  EXPECT_EQ(anchor.To(1).first, 1);
+  EXPECT_EQ(anchor.To(1).last, 2);
+}
+
+TEST_F(GridWork, ExtendsNoFurtherThanItsRows) {
+  grid_.SetActive(1, 3);
+  EXPECT_EQ(ExtensionTarget(grid_, ui::Key::Name::Down), 3);
+  EXPECT_EQ(ExtensionTarget(grid_, ui::Key::Name::PageUp), 1);
+  EXPECT_EQ(ExtensionTarget(grid_, ui::Key::Name::Home), 1);
+  grid_.SetRowCount(0);
+  EXPECT_EQ(ExtensionTarget(grid_, ui::Key::Name::End), 0);
+}
+
+TEST_F(GridWork, LeavesTheArrowOfAHeaderToTheWindow) {
+  grid_.SetHeader(1, "编号↓");
+  const GridCells cells(grid_);
+  EXPECT_EQ(cells.Header(1), "编号");
+}
+
 TEST_F(GridWork, LooksIntoNumbersAsTheyAreShown) {
   grid_.SetCellNumber(2, 2, 12.5);
   const auto found = FindText(grid_, {1, 2, 3}, "12.50", false);

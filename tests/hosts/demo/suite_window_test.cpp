@@ -118,6 +118,16 @@ TEST_F(Suite, OpensTheCustomers) {
   EXPECT_EQ(Shared().Title, kCustomersTitle);
 }
 
+TEST_F(Suite, PressesTheButtonInFocusWithEnter) {
+  Start();
+  auto& button = Part<QPushButton>("accounts");
+  button.setFocus();
+  QTest::keyClick(&button, Qt::Key_Return);
+  QApplication::processEvents();
+  ASSERT_TRUE(Opened());
+  EXPECT_EQ(Names(), (Texts{"现金"}));
+}
+
 TEST_F(Suite, OpensTheMoneyAccounts) {
   Start();
   Press("accounts");
