@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "forms/startup.h"
+#include "platform/basic/errors.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "platform/data/details.h"
@@ -34,6 +35,13 @@ bool LedgerIsThere() {
   return CountRows("tAccountDetail", "1=2") != -1;
 }
 
+// A refused connection and a missing table show the same box; its detail tells them apart.
+DataError WhyLedgerIsNotThere() {
+  const auto failure =
+      Data().State() == 1 ? Data().LastFailure() : Around().connections->LastFailure();
+  return failure.value_or(DataError("OpenConnection: False"));
+}
+
 }  // namespace
 
 qvJxc_Zj::~qvJxc_Zj() {
@@ -46,7 +54,7 @@ void qvJxc_Zj::refresh(int16_t MfRunMode, int16_t myShowMode) {
   try {
     Open(MfRunMode, myShowMode);
   } catch (const std::exception& error) {
-    Around().boxes->Error(error.what(), Shared().Title);
+    ReportError(error);
   }
 }
 
@@ -63,10 +71,11 @@ void qvJxc_Zj::Open(int16_t run_mode, int16_t show_mode) {
   TakePathOfUser();
   shared.Title = LoadText(run_mode == 0 ? text_id::kCustomersTitle : text_id::kAccountsTitle);
   if (!LedgerIsThere()) {
+    const DataError reason = WhyLedgerIsNotThere();
     CloseData();
     Message("系统数据库 " + data::WithoutPasswords(shared.UserPath) + " 属早期版本，无 [" +
                 shared.Title + "] 功能。请升级系统！",
-            box::kCritical);
+            box::kCritical, reason);
     return;
   }
   shared.showmode = show_mode;

@@ -7,6 +7,7 @@
 #include "platform/surroundings.h"
 #include "services/connect.h"
 #include "services/context.h"
+#include "services/messages.h"
 #include "services/strings.h"
 #include "services/text_ids.h"
 
@@ -47,7 +48,7 @@ frmList::frmList() : ui::Form("frmList") {
     if (kind_ > 3) Shared().myName.clear();
     Unload();
   };
-  onError = [](const std::string& text) { Around().boxes->Error(text, Shared().Title); };
+  onError = ReportError;
   onUnload = [this] { Around().presenter->Closed(*this); };
 }
 

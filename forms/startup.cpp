@@ -22,6 +22,7 @@
 #include "screen/layout.h"
 #include "services/connect.h"
 #include "services/context.h"
+#include "services/messages.h"
 #include "services/numbering.h"
 #include "services/query.h"
 
@@ -34,7 +35,7 @@ void CloseForm(frmZj& form) {
 }
 
 void ConnectForm(frmZj& form) {
-  form.onError = [](const std::string& text) { Around().boxes->Error(text, Shared().Title); };
+  form.onError = ReportError;
   form.onResize = [&form] { LayoutForm(form); };
   form.onUnload = [&form] { CloseForm(form); };
   form.readClipboard = [] { return Around().clipboard->Text(); };

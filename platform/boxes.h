@@ -19,16 +19,23 @@ inline constexpr int kButtonsMask = 15;
 
 enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 
-/// Modal boxes. A call returns when the user has answered.
+/// Modal boxes. A call returns when the user has answered. A box may have a detail, lines of plain
+/// text that say more than its text and that the user opens when he wants them; "" is none.
 class Boxes {
  public:
   virtual ~Boxes() = default;
-  virtual Answer Show(const std::string& text, int style, const std::string& title) = 0;
+  Answer Show(const std::string& text, int style, const std::string& title) {
+    return Show(text, style, title, {});
+  }
+  virtual Answer Show(const std::string& text, int style, const std::string& title,
+                      const std::string& detail) = 0;
   /// Asks for a line of text; empty optional when the user cancels.
   virtual std::optional<std::string> Input(const std::string& prompt, const std::string& title,
                                            const std::string& preset) = 0;
   /// Reports an error that the behaviour did not catch: a critical box in a window.
-  virtual void Error(const std::string& text, const std::string& title) = 0;
+  void Error(const std::string& text, const std::string& title) { Error(text, title, {}); }
+  virtual void Error(const std::string& text, const std::string& title,
+                     const std::string& detail) = 0;
 };
 
 }  // namespace qvzj

@@ -1,5 +1,6 @@
 #include "services/messages.h"
 
+#include "platform/advice.h"
 #include "platform/surroundings.h"
 #include "services/context.h"
 
@@ -9,6 +10,14 @@ Answer Message(const std::string& text, int style) { return Message(text, style,
 
 Answer Message(const std::string& text, int style, const std::string& title) {
   return Around().boxes->Show(text, style, title);
+}
+
+Answer Message(const std::string& text, int style, const std::exception& cause) {
+  return Around().boxes->Show(text, style, Shared().Title, Advice(cause, Shared().Language));
+}
+
+void ReportError(const std::exception& error) {
+  Around().boxes->Error(error.what(), Shared().Title, Advice(error, Shared().Language));
 }
 
 }  // namespace qvzj

@@ -41,7 +41,51 @@ OdbcError ErrorOf(SQLSMALLINT type, SQLHANDLE handle) {
   return {first_state, first_native, said};
 }
 
+/// Drivers report a connection that did not come about with one state; the text tells why.
+DataCause CauseOfConnecting(std::string_view text) {
+  const auto says = [text](std::string_view words) { return text.find(words) != text.npos; };
+  if (says("authentication failed") || says("no password supplied") || says("Login failed")) {
+    return DataCause::LoginRefused;
+  }
+  const bool database = says("database \"") || says("Cannot open database");
+  if (database && (says("does not exist") || says("Cannot open database"))) {
+    return DataCause::NoServerData;
+  }
+  return DataCause::NoServer;
+}
+
+DataCause CauseOf(std::string_view state, std::string_view text) {
+  struct Meaning {
+    std::string_view state;  // or its beginning
+    DataCause cause;
+  };
+  // SQLSTATEs of the standard, of PostgreSQL (letters within) and of the driver manager (IM, HY).
+  static constexpr Meaning kMeanings[] = {
+      {"28", DataCause::LoginRefused}, {"3D000", DataCause::NoServerData},
+      {"IM002", DataCause::NoDriver},  {"IM003", DataCause::NoDriver},
+      {"01000", DataCause::NoDriver},  {"57P0", DataCause::NoServer},
+      {"57014", DataCause::TimedOut},  {"HYT0", DataCause::TimedOut},
+      {"42501", DataCause::NoRights},  {"42P01", DataCause::Missing},
+      {"42703", DataCause::Missing},   {"42S02", DataCause::Missing},
+      {"42S22", DataCause::Missing},   {"25006", DataCause::ReadOnly},
+      {"53100", DataCause::DiskFull},  {"58030", DataCause::DiskFailed},
+      {"55P03", DataCause::Locked},    {"40P01", DataCause::Locked},
+      {"40001", DataCause::Locked},    {"XX001", DataCause::Damaged},
+      {"XX002", DataCause::Damaged},
+  };
+  if (state.starts_with("08")) return CauseOfConnecting(text);
+  for (const Meaning& meaning : kMeanings) {
+    if (state.starts_with(meaning.state)) return meaning.cause;
+  }
+  return DataCause::Unknown;
+}
+
 }  // namespace
+
+OdbcError::OdbcError(std::string state, int native, const std::string& text)
+    : DataError(text + " (SQLSTATE " + state + ")", CauseOf(state, text)),
+      state_(std::move(state)),
+      native_(native) {}
 
 bool OdbcError::ConnectionLost() const {
   const std::string_view kind = std::string_view(state_).substr(0, 2);

@@ -18,8 +18,7 @@ namespace qvzj {
 /// server's own number for it.
 class OdbcError : public DataError {
  public:
-  OdbcError(std::string state, int native, const std::string& text)
-      : DataError(text + " (SQLSTATE " + state + ")"), state_(std::move(state)), native_(native) {}
+  OdbcError(std::string state, int native, const std::string& text);
   const std::string& State() const { return state_; }
   /// True when the state alone says that the connection is gone.
   bool ConnectionLost() const;

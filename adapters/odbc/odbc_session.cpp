@@ -136,12 +136,13 @@ void OdbcSession::End(Patience patience) {
   } catch (const OdbcError& error) {
     if (!error.Cancelled()) throw;
     const auto text = patience.reads ? odbc_texts::ReadStopped : odbc_texts::WriteStopped;
-    throw DataError(text(Language(), patience.limit) + "\n" + WithoutSecrets(error.what()));
+    throw DataError(text(Language(), patience.limit) + "\n" + WithoutSecrets(error.what()),
+                    DataCause::TimedOut);
   }
   calls_.reset();
   connection_.reset();
   const auto text = patience.reads ? odbc_texts::ReadGivenUp : odbc_texts::WriteGivenUp;
-  throw DataError(text(Language(), patience.limit));
+  throw DataError(text(Language(), patience.limit), DataCause::TimedOut);
 }
 
 void OdbcSession::Prepare() {
@@ -195,7 +196,8 @@ data::Recordset OdbcSession::Run(const std::string& sql, Patience patience) {
     if (!MayReconnectAfter(error)) Refuse(error);
     connection_.reset();
     if (!IsRead(sql)) {
-      throw DataError(odbc_texts::OutcomeUnknown(Language()) + "\n" + WithoutSecrets(error.what()));
+      throw DataError(odbc_texts::OutcomeUnknown(Language()) + "\n" + WithoutSecrets(error.what()),
+                      error.Cause());
     }
   }
   Connect();
@@ -265,7 +267,8 @@ void OdbcSession::Commit() {
     connection_->SetAutocommit(true);
   } catch (const OdbcError& error) {
     if (!error.ConnectionLost() && !connection_->Dead()) Refuse(error);
-    throw DataError(odbc_texts::OutcomeUnknown(Language()) + "\n" + WithoutSecrets(error.what()));
+    throw DataError(odbc_texts::OutcomeUnknown(Language()) + "\n" + WithoutSecrets(error.what()),
+                    error.Cause());
   }
   in_transaction_ = false;
 }
@@ -313,7 +316,7 @@ std::string OdbcSession::WithoutSecrets(std::string text) const {
 void OdbcSession::Refuse(const OdbcError& error) const {
   const std::string said = WithoutSecrets(error.what());
   if (const auto rule = error.BrokenRule()) throw data::ConstraintError(*rule, said);
-  throw DataError(said);
+  throw DataError(said, error.Cause());
 }
 
 }  // namespace qvzj

@@ -62,7 +62,7 @@ std::unique_ptr<SqliteSession> OpenSqlite(const std::string& file, const SqliteO
     ChooseJournal(handle, file);
     session->NativeScript("pragma synchronous=full; pragma cache_size=-65536");
   } catch (const DataError& error) {
-    throw DataError(file + ": " + error.what());
+    throw DataError(file + ": " + error.what(), error.Cause());
   }
   return session;
 }

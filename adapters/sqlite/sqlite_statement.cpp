@@ -2,8 +2,8 @@
 
 #include <sqlite3.h>
 
+#include "platform/basic/errors.h"
 #include "platform/basic/text.h"
-#include "platform/data/errors.h"
 
 namespace qvzj {
 namespace {
@@ -73,32 +73,7 @@ void AppendValue(sqlite3_value* value, bool is_date, Column& column) {
   column.AppendText(text);
 }
 
-data::Rule BrokenRule(int code) {
-  switch (code) {
-    case SQLITE_CONSTRAINT_UNIQUE:
-    case SQLITE_CONSTRAINT_PRIMARYKEY:
-    case SQLITE_CONSTRAINT_ROWID:
-      return data::Rule::Unique;
-    case SQLITE_CONSTRAINT_FOREIGNKEY:
-      return data::Rule::Reference;
-    case SQLITE_CONSTRAINT_NOTNULL:
-      return data::Rule::NotNull;
-    default:
-      return data::Rule::Other;
-  }
-}
-
-/// `code` with its extension, as the engine gave it.
-[[noreturn]] void Throw(int code, const std::string& said) {
-  if ((code & 0xFF) == SQLITE_CONSTRAINT) throw data::ConstraintError(BrokenRule(code), said);
-  throw DataError(said);
-}
-
 }  // namespace
-
-void ThrowSqlite(sqlite3* database) {
-  Throw(sqlite3_extended_errcode(database), sqlite3_errmsg(database));
-}
 
 void SqliteStatement::Finalizer::operator()(sqlite3_stmt* statement) const {
   sqlite3_finalize(statement);
@@ -159,9 +134,12 @@ bool SqliteStatement::Step() {
   const int result = sqlite3_step(statement_.get());
   if (result == SQLITE_ROW) return true;
   if (result == SQLITE_DONE) return false;
-  const std::string said = sqlite3_errmsg(database_);
-  Reset();  // which forgets what was said
-  Throw(result, said);
+  try {
+    ThrowSqlite(database_);
+  } catch (const DataError&) {
+    Reset();  // which forgets what was said
+    throw;
+  }
 }
 
 void SqliteStatement::Run() {

@@ -36,8 +36,10 @@ void QueuedBoxes::Problem(const std::string& text) {
   if (on_error) on_error(text);
 }
 
-Answer QueuedBoxes::Show(const std::string& text, int style, const std::string& title) {
+Answer QueuedBoxes::Show(const std::string& text, int style, const std::string& title,
+                         const std::string& detail) {
   ShownBox shown{false, style, title, text, "ok"};
+  shown.detail = detail;
   if (on_box) on_box(shown);
   Answer answer = Answer::Ok;
   const int buttons = style & box::kButtonsMask;
@@ -74,9 +76,28 @@ std::optional<std::string> QueuedBoxes::Input(const std::string& prompt, const s
   return answer;
 }
 
-void QueuedBoxes::Error(const std::string& text, const std::string&) { Problem(text); }
+void QueuedBoxes::Error(const std::string& text, const std::string& title,
+                        const std::string& detail) {
+  ShownBox shown{false, box::kCritical, title, text, "ok"};
+  shown.detail = detail;
+  shown.error = true;
+  shown_.push_back(std::move(shown));
+  Problem(text);
+}
 
-std::vector<ShownBox> QueuedBoxes::TakeShown() { return std::exchange(shown_, {}); }
+std::vector<ShownBox> QueuedBoxes::Shown() const {
+  std::vector<ShownBox> boxes = shown_;
+  std::erase_if(boxes, [](const ShownBox& shown) { return shown.error; });
+  return boxes;
+}
+
+std::vector<ShownBox> QueuedBoxes::TakeShown() {
+  std::vector<ShownBox> boxes = Shown();
+  shown_.clear();
+  return boxes;
+}
+
+std::vector<ShownBox> QueuedBoxes::TakeShownAndErrors() { return std::exchange(shown_, {}); }
 
 std::vector<std::string> QueuedBoxes::TakeErrors() { return std::exchange(errors_, {}); }
 

@@ -22,12 +22,14 @@ namespace qvzj {
 
 /// A box that was shown, and what was answered.
 struct ShownBox {
-  bool input = false;
-  int style = 0;  ///< message boxes only
+  bool input = false;  ///< else a message, or an error that was reported
+  int style = 0;       ///< message boxes only
   std::string title;
   std::string text;        ///< message text, or prompt
   std::string answer;      ///< "ok", "cancel", "yes", "no", or the text put in
   bool cancelled = false;  ///< an input box without an answer
+  std::string detail{};    ///< what the box tells besides; messages and errors only
+  bool error = false;
 };
 
 /// An answer waiting for its box: one of "ok", "cancel", "yes", "no", or a text to put in.
@@ -38,18 +40,24 @@ struct QueuedAnswer {
 
 class QueuedBoxes : public Boxes {
  public:
-  Answer Show(const std::string& text, int style, const std::string& title) override;
+  using Boxes::Error;
+  using Boxes::Show;
+  Answer Show(const std::string& text, int style, const std::string& title,
+              const std::string& detail) override;
   std::optional<std::string> Input(const std::string& prompt, const std::string& title,
                                    const std::string& preset) override;
-  void Error(const std::string& text, const std::string& title) override;
+  void Error(const std::string& text, const std::string& title, const std::string& detail) override;
 
   void Queue(QueuedAnswer answer) { queue_.push_back(std::move(answer)); }
   size_t Waiting() const { return queue_.size(); }
   void ClearQueue() { queue_.clear(); }
-  /// Every box since the last call, oldest first.
+  /// Every box but reported errors since the last call of a Take…, oldest first.
   std::vector<ShownBox> TakeShown();
-  const std::vector<ShownBox>& Shown() const { return shown_; }
-  /// Every reported error since the last call.
+  /// The same, reported errors among them.
+  std::vector<ShownBox> TakeShownAndErrors();
+  /// What TakeShown would answer.
+  std::vector<ShownBox> Shown() const;
+  /// The text of every reported error since the last call.
   std::vector<std::string> TakeErrors();
 
   /// A box came up; called before it is answered.

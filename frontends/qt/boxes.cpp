@@ -49,7 +49,8 @@ void QtBoxes::DressBox(QDialog& dialog) const {
   for (QPushButton* button : dialog.findChildren<QPushButton*>()) button->setMinimumSize(80, 28);
 }
 
-Answer QtBoxes::Show(const std::string& text, int style, const std::string& title) {
+Answer QtBoxes::Show(const std::string& text, int style, const std::string& title,
+                     const std::string& /*detail*/) {
   const view::BoxPlan plan = view::PlanBox(style, view::TextsOf(language_() == 1));
   const QPointer<QWidget> owner = Owner();
   QMessageBox box(owner);
@@ -96,8 +97,8 @@ std::optional<std::string> QtBoxes::Input(const std::string& prompt, const std::
   return ToUtf8(dialog.textValue());
 }
 
-void QtBoxes::Error(const std::string& text, const std::string& title) {
-  Show(text, box::kCritical, title);
+void QtBoxes::Error(const std::string& text, const std::string& title, const std::string& detail) {
+  Show(text, box::kCritical, title, detail);
 }
 
 }  // namespace qvzj::qt

@@ -15,10 +15,13 @@ class QtBoxes : public Boxes {
   /// `language` answers 0 for simplified and 1 for traditional Chinese.
   explicit QtBoxes(std::function<int()> language) : language_(std::move(language)) {}
 
-  Answer Show(const std::string& text, int style, const std::string& title) override;
+  using Boxes::Error;
+  using Boxes::Show;
+  Answer Show(const std::string& text, int style, const std::string& title,
+              const std::string& detail) override;
   std::optional<std::string> Input(const std::string& prompt, const std::string& title,
                                    const std::string& preset) override;
-  void Error(const std::string& text, const std::string& title) override;
+  void Error(const std::string& text, const std::string& title, const std::string& detail) override;
 
  private:
   void DressBox(QDialog& dialog) const;

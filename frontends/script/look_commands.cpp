@@ -81,14 +81,24 @@ void Color(Script& script, const Arguments& arguments) {
   script.Print(target.name + " " + std::to_string(row) + " color=" + text);
 }
 
-void Messages(Script& script, const Arguments&) {
-  for (const ShownBox& box : script.Around().boxes.TakeShown()) {
-    const std::string texts = JsonText(box.title) + " " + JsonText(box.text) + " -> ";
-    if (box.input) {
-      script.Print("input " + texts + (box.cancelled ? "cancel" : JsonText(box.answer)));
-    } else {
-      script.Print("message " + std::to_string(box.style) + " " + texts + box.answer);
-    }
+std::string BoxText(const ShownBox& box) {
+  const std::string texts = JsonText(box.title) + " " + JsonText(box.text);
+  if (box.error) return "error " + texts;
+  if (box.input) {
+    return "input " + texts + " -> " + (box.cancelled ? "cancel" : JsonText(box.answer));
+  }
+  return "message " + std::to_string(box.style) + " " + texts + " -> " + box.answer;
+}
+
+void Messages(Script& script, const Arguments& arguments) {
+  QueuedBoxes& boxes = script.Around().boxes;
+  if (arguments.Count() == 0) {
+    for (const ShownBox& box : boxes.TakeShown()) script.Print(BoxText(box));
+    return;
+  }
+  if (arguments[0].text != "details") throw ScriptError("usage: messages [details]");
+  for (const ShownBox& box : boxes.TakeShownAndErrors()) {
+    script.Print(BoxText(box) + (box.detail.empty() ? "" : " detail " + JsonText(box.detail)));
   }
 }
 
@@ -121,7 +131,7 @@ constexpr std::array kCommands = {
     Command{"show", "CONTROL[.MEMBER] ...", 1, kAnyNumber, Show},
     Command{"grid", "GRID [FIRST [LAST]]", 1, 3, PrintGrid},
     Command{"color", "GRID ROW", 2, 2, Color},
-    Command{"messages", "", 0, 0, Messages},
+    Command{"messages", "[details]", 0, 1, Messages},
     Command{"statements", "", 0, 0, Statements},
     Command{"prints", "", 0, 0, Prints},
     Command{"components", "", 0, 0, Components},

@@ -4,8 +4,9 @@
 
 namespace qvzj::demo {
 
-Answer SayingBoxes::Show(const std::string& text, int style, const std::string& title) {
-  Say(text, title);
+Answer SayingBoxes::Show(const std::string& text, int style, const std::string& title,
+                         const std::string& detail) {
+  Say(text, title, detail);
   switch (style & box::kButtonsMask) {
     case 0:
       return Answer::Ok;
@@ -18,15 +19,20 @@ Answer SayingBoxes::Show(const std::string& text, int style, const std::string& 
 
 std::optional<std::string> SayingBoxes::Input(const std::string& prompt, const std::string& title,
                                               const std::string&) {
-  Say(prompt, title);
+  Say(prompt, title, {});
   return std::nullopt;
 }
 
-void SayingBoxes::Error(const std::string& text, const std::string& title) { Say(text, title); }
+void SayingBoxes::Error(const std::string& text, const std::string& title,
+                        const std::string& detail) {
+  Say(text, title, detail);
+}
 
-void SayingBoxes::Say(const std::string& text, const std::string& title) {
+void SayingBoxes::Say(const std::string& text, const std::string& title,
+                      const std::string& detail) {
   said_ = true;
   std::fprintf(stderr, "qvzj-demo: %s: %s\n", title.c_str(), text.c_str());
+  if (!detail.empty()) std::fprintf(stderr, "%s\n", detail.c_str());
 }
 
 }  // namespace qvzj::demo

@@ -20,13 +20,16 @@ class SayingBoxes : public Boxes {
   /// The boxes that were in force before.
   Boxes& Before() const { return *before_; }
 
-  Answer Show(const std::string& text, int style, const std::string& title) override;
+  using Boxes::Error;
+  using Boxes::Show;
+  Answer Show(const std::string& text, int style, const std::string& title,
+              const std::string& detail) override;
   std::optional<std::string> Input(const std::string& prompt, const std::string& title,
                                    const std::string& preset) override;
-  void Error(const std::string& text, const std::string& title) override;
+  void Error(const std::string& text, const std::string& title, const std::string& detail) override;
 
  private:
-  void Say(const std::string& text, const std::string& title);
+  void Say(const std::string& text, const std::string& title, const std::string& detail);
 
   Boxes* before_;
   bool said_ = false;

@@ -32,10 +32,37 @@ class ResourceNotFoundError : public Error {
       : Error("Resource with identifier " + std::to_string(id) + " not found") {}
 };
 
+/// Why an engine refused or failed, as far as it lets that be known. It decides what the user is
+/// told besides the engine's own words (see platform/advice.h).
+enum class DataCause {
+  Unknown,
+  NoFile,        ///< no data file where it should lie
+  NoDatabase,    ///< the file is something else
+  Damaged,       ///< the file's contents are
+  Missing,       ///< a table or a column
+  DiskFull,      ///< the disk, or the room granted on it
+  DiskFailed,    ///< reading or writing it did
+  ReadOnly,      ///< file, disk or server
+  NoRights,      ///< of the system's user to the file, or of the server's to the table
+  Locked,        ///< by another program or session, for longer than is waited
+  Replaced,      ///< the file that is open is no longer the one that is there
+  NoServer,      ///< not reached, or lost
+  LoginRefused,  ///< user or password
+  NoServerData,  ///< no database of that name on the server
+  NoDriver,      ///< the program lacks what speaks to that server
+  TimedOut,      ///< the server did not answer in time
+  Duplicate,     ///< what must be there once is there already
+};
+
 /// The database engine refused or failed; what() is what the engine said.
 class DataError : public Error {
  public:
-  using Error::Error;
+  explicit DataError(const std::string& said, DataCause cause = DataCause::Unknown)
+      : Error(said), cause_(cause) {}
+  DataCause Cause() const { return cause_; }
+
+ private:
+  DataCause cause_;
 };
 
 }  // namespace qvzj

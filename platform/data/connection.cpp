@@ -1,21 +1,27 @@
 #include "platform/data/connection.h"
 
-#include "platform/basic/errors.h"
-
 namespace qvzj::data {
 
-Session& Connection::Running(StatementKind kind, std::string_view statement) {
+template <class Act>
+auto Connection::Run(StatementKind kind, std::string_view statement, const Act& act) {
   if (watcher_) watcher_(kind, statement);
-  if (!session_) throw DataError("Operation is not allowed when the connection is closed");
-  return *session_;
+  last_failure_.reset();
+  try {
+    if (!session_) throw DataError("Operation is not allowed when the connection is closed");
+    return act(*session_);
+  } catch (const DataError& error) {
+    last_failure_ = error;
+    throw;
+  }
 }
 
 void Connection::Execute(std::string_view statement) {
-  Running(StatementKind::Execute, statement).Execute(statement);
+  Run(StatementKind::Execute, statement, [&](Session& session) { session.Execute(statement); });
 }
 
 Recordset Connection::Open(std::string_view statement) {
-  return Running(StatementKind::Open, statement).Query(statement);
+  return Run(StatementKind::Open, statement,
+             [&](Session& session) { return session.Query(statement); });
 }
 
 }  // namespace qvzj::data

@@ -3,9 +3,11 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "platform/basic/errors.h"
 #include "platform/data/recordset.h"
 
 namespace qvzj::data {
@@ -37,6 +39,9 @@ class Connection {
   int State() const { return session_ ? 1 : 0; }
   void Attach(std::unique_ptr<Session> session) { session_ = std::move(session); }
   void Close() { session_.reset(); }
+  /// What the last statement failed with; empty when it went well or none ran. For who was told of
+  /// the failure only as a missing answer.
+  const std::optional<DataError>& LastFailure() const { return last_failure_; }
 
   /// Runs a statement without rows. Throws DataError when closed or when the engine refuses.
   void Execute(std::string_view statement);
@@ -44,10 +49,13 @@ class Connection {
   Recordset Open(std::string_view statement);
 
  private:
-  Session& Running(StatementKind kind, std::string_view statement);
+  /// Runs `act` on the session and remembers how it failed.
+  template <class Act>
+  auto Run(StatementKind kind, std::string_view statement, const Act& act);
 
   StatementWatcher watcher_;
   std::unique_ptr<Session> session_;
+  std::optional<DataError> last_failure_;
 };
 
 /// The host suite's connection component: knows where the data lies and how to reach it.
@@ -60,6 +68,9 @@ class ConnectionComponent {
   virtual bool OpenConnection(uint8_t kind, Connection& connection, const std::string& path,
                               const std::string& password, const std::string& user_id,
                               const std::string& default_database) = 0;
+  /// Why the last OpenConnection answered false, free of credentials; empty after one that answered
+  /// true, and from a component that does not tell.
+  virtual std::optional<DataError> LastFailure() const { return std::nullopt; }
 };
 
 }  // namespace qvzj::data

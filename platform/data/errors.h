@@ -18,7 +18,9 @@ enum class Rule {
 class ConstraintError : public DataError {
  public:
   ConstraintError(Rule broken, const std::string& what_was_said)
-      : DataError(what_was_said), broken_(broken) {}
+      : DataError(what_was_said,
+                  broken == Rule::Unique ? DataCause::Duplicate : DataCause::Unknown),
+        broken_(broken) {}
   Rule Broken() const { return broken_; }
 
  private:

@@ -4,6 +4,8 @@
 #include <cassert>
 #include <exception>
 
+#include "platform/basic/errors.h"
+
 namespace qvzj::ui {
 
 Form::~Form() { *life_ = Life::Destroyed; }
@@ -69,9 +71,9 @@ bool Form::Guard(const std::function<void()>& act) {
   const std::shared_ptr<Life> life = life_;
   depth_ = 1;
   bool done = true;
-  const auto failed = [&](const char* text) {
+  const auto failed = [&](const std::exception& error) {
     done = false;
-    if (*life != Life::Destroyed) Report(text);
+    if (*life != Life::Destroyed) Report(error);
   };
   const auto guarded = [&](const std::function<void()>& step) {
     try {
@@ -79,9 +81,9 @@ bool Form::Guard(const std::function<void()>& act) {
     } catch (const Closed&) {
       // The act ends here, as it should.
     } catch (const std::exception& error) {
-      failed(error.what());
+      failed(error);
     } catch (...) {
-      failed("Unknown error");
+      failed(Error("Unknown error"));
     }
   };
   guarded(act);
@@ -90,12 +92,12 @@ bool Form::Guard(const std::function<void()>& act) {
   return done;
 }
 
-void Form::Report(const char* text) const {
+void Form::Report(const std::exception& error) const {
   assert(onError && "an error escaped and the form has nobody to report it to");
   if (!onError) return;
   try {
     const auto report = onError;
-    report(text);
+    report(error);
   } catch (...) {
     // The report itself failed: there is no further place to turn to, and the host must not see it.
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
@@ -129,8 +130,8 @@ class Form {
   /// it just runs: the outermost one catches and reports.
   bool Guard(const std::function<void()>& act);
 
-  /// An error escaped a user's act or the load; the text is the engine's or the module's.
-  std::function<void(const std::string& text)> onError;
+  /// An error escaped a user's act or the load; what() is the engine's or the module's text.
+  std::function<void(const std::exception& error)> onError;
   std::function<void()> onResize;
   std::function<void()> onUnload;
   /// Clipboard access for Ctrl+C, Ctrl+X and Ctrl+V in text boxes.
@@ -149,7 +150,7 @@ class Form {
   void Notify(Aspect aspect);
   /// Tells the front ends of a key that did nothing; answers true, for the key is used up.
   bool Refuse(Control& control);
-  void Report(const char* text) const;
+  void Report(const std::exception& error) const;
 
   /// Raises an event. The handler runs from a copy, so that it may replace or destroy itself.
   template <class Handler, class... Args>

@@ -1,14 +1,17 @@
 #pragma once
 
+#include "platform/advice.h"
 #include "platform/surroundings.h"
 #include "platform/ui/form.h"
 
 namespace qvzj::dialogues {
 
-/// Connects what every form of the suite needs: error box, clipboard, and the presenter's notice
-/// when it is closed.
-inline void WireForm(ui::Form& form) {
-  form.onError = [&form](const std::string& text) { Around().boxes->Error(text, form.Caption()); };
+/// Connects what every form of the suite needs: error box in `language`, clipboard, and the
+/// presenter's notice when it is closed.
+inline void WireForm(ui::Form& form, int language) {
+  form.onError = [&form, language](const std::exception& error) {
+    Around().boxes->Error(error.what(), form.Caption(), Advice(error, language));
+  };
   form.onUnload = [&form] { Around().presenter->Closed(form); };
   form.readClipboard = [] { return Around().clipboard->Text(); };
   form.writeClipboard = [](const std::string& text) { Around().clipboard->SetText(text); };

@@ -50,12 +50,12 @@ bool SuiteConnections::OpenConnection(uint8_t kind, data::Connection& connection
                                       const std::string& path, const std::string& password,
                                       const std::string& user_id,
                                       const std::string& default_database) {
-  last_error_.clear();
+  last_failure_.reset();
   try {
     Open(kind, connection, {path, user_id, password, default_database});
     return true;
   } catch (const DataError& error) {
-    last_error_ = error.what();
+    last_failure_ = error;
     return false;
   }
 }

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -44,9 +45,9 @@ class SuiteConnections : public data::ConnectionComponent {
   bool OpenConnection(uint8_t kind, data::Connection& connection, const std::string& path,
                       const std::string& password, const std::string& user_id,
                       const std::string& default_database) override;
-  /// Why the last OpenConnection answered false, without credentials; "" after one that answered
-  /// true.
-  const std::string& LastError() const { return last_error_; }
+  std::optional<DataError> LastFailure() const override { return last_failure_; }
+  /// Its text; "" when there is none.
+  std::string LastError() const { return last_failure_ ? last_failure_->what() : ""; }
 
   /// May be changed at any time; holds for connections opened afterwards.
   ConnectionOptions options;
@@ -54,7 +55,7 @@ class SuiteConnections : public data::ConnectionComponent {
  private:
   void Open(uint8_t kind, data::Connection& connection, ServerLogin login);
 
-  std::string last_error_;
+  std::optional<DataError> last_failure_;
   std::string last_server_;  // address of the last server that was opened
 };
 

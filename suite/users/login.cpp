@@ -44,7 +44,7 @@ frmLogin::frmLogin(int16_t language, AcceptLogin accept)
     : ui::Form("frmLogin"), accept_(std::move(accept)) {
   WriteCaptions(language);
   Place();
-  Connect();
+  Connect(language);
   SetFocus(txtUser);
 }
 
@@ -69,8 +69,8 @@ void frmLogin::Place() {
   cmdCancel.SetBounds({3030, 1575, 1470, 420});
 }
 
-void frmLogin::Connect() {
-  dialogues::WireForm(*this);
+void frmLogin::Connect(int16_t language) {
+  dialogues::WireForm(*this, language);
   for (ui::Control* control : Controls()) dialogues::MoveOnByEnter(*this, *control);
   // Enter on a button presses it; in the last field it logs in.
   const auto close_by_escape = [this](int& key) {

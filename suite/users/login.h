@@ -45,7 +45,7 @@ struct frmLogin : ui::Form {
  private:
   void WriteCaptions(int16_t language);
   void Place();
-  void Connect();
+  void Connect(int16_t language);
   void Accept();
 
   AcceptLogin accept_;

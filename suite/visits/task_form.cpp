@@ -64,7 +64,7 @@ void frmTask::Place() {
 }
 
 void frmTask::Connect() {
-  dialogues::WireForm(*this);
+  dialogues::WireForm(*this, language_);
   const auto unload = onUnload;
   onUnload = [this, unload] {
     // The window's close button cannot be refused any more: the text is saved or given up here.

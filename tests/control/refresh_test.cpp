@@ -134,6 +134,105 @@ TEST(Refresh, ReportsMissingDataByTheSameText) {
   EXPECT_EQ(world.Messages(), std::vector<std::string>{TooOld("/nowhere", "客户往来帐管理系统")});
 }
 
+/// The detail of the only box that a refresh shows, whose text is that of a database too old.
+std::string DetailOfRefusal(World& world) {
+  world.control.refresh(0, 0);
+  const auto shown = world.headless.boxes.TakeShown();
+  if (shown.size() != 1) return "boxes: " + std::to_string(shown.size());
+  EXPECT_EQ(shown[0].text, TooOld(Shared().UserPath, "客户往来帐管理系统"));
+  return shown[0].detail;
+}
+
+TEST(RefusedData, IsToldApartInTheDetailWhenTheFileIsMissing) {
+  World world;
+  world.control.setUserPath("/nowhere");
+  EXPECT_EQ(DetailOfRefusal(world),
+            "原因：数据文件不存在，或数据路径有误。\n"
+            "处理：请检查数据路径及移动盘、网络盘是否已连接；新帐套须先由管理员建立。\n"
+            "系统报告：/nowhere/qvjxc.db: unable to open database file");
+}
+
+TEST(RefusedData, IsToldApartInTheDetailWhenTheFileIsNoDatabase) {
+  World world;
+  test::TemporaryFolder other;
+  std::ofstream(other.Path() / "qvjxc.db") << std::string(2000, 'x');
+  world.control.setUserPath(other.Path().string());
+  EXPECT_NE(DetailOfRefusal(world).find("该文件不是数据库文件"), std::string::npos);
+}
+
+TEST(RefusedData, IsToldApartInTheDetailWhenTheFileIsDamaged) {
+  World world;
+  test::TemporaryFolder other;
+  std::filesystem::copy(world.DataFile(), other.Path() / "qvjxc.db");
+  std::fstream file(other.Path() / "qvjxc.db");
+  file.seekp(100);
+  file << std::string(4000, 'x');
+  file.close();
+  world.control.setUserPath(other.Path().string());
+  EXPECT_NE(DetailOfRefusal(world).find("数据文件已损坏"), std::string::npos);
+}
+
+TEST(RefusedData, IsToldApartInTheDetailWhenTheLedgerIsMissing) {
+  World world;
+  world.Sql("drop table tAccountDetail;");
+  EXPECT_EQ(DetailOfRefusal(world),
+            "原因：数据库缺少所需的数据表或字段，可能由早期版本建立。\n"
+            "处理：请检查是否选对了数据库；若确为早期版本，请由管理员升级（qvdb init）。\n"
+            "系统报告：no such table: tAccountDetail");
+}
+
+TEST(RefusedData, IsToldApartInTheDetailWhenAnotherProgramHoldsTheFile) {
+  World world;
+  world.connections.options.busy_timeout = std::chrono::milliseconds(20);
+  world.Sql("pragma journal_mode=delete; pragma locking_mode=exclusive; begin exclusive;");
+  EXPECT_NE(DetailOfRefusal(world).find("数据正被其它程序或用户占用"), std::string::npos);
+}
+
+TEST(RefusedData, IsToldApartInTheDetailInTraditionalChineseToo) {
+  World world;
+  world.control.setLanguage(1);
+  world.control.setUserPath("/nowhere");
+  world.control.refresh(0, 0);
+  const std::string detail = world.headless.boxes.TakeShown().at(0).detail;
+  EXPECT_EQ(detail.find("原因：資料檔案不存在"), 0u);
+  EXPECT_NE(detail.find("系統報告："), std::string::npos);
+}
+
+TEST(RefusedData, IsToldWithoutAReasonWhereTheConnectionComponentKnowsNone) {
+  struct Silent : data::ConnectionComponent {
+    bool OpenConnection(uint8_t, data::Connection&, const std::string&, const std::string&,
+                        const std::string&, const std::string&) override {
+      return false;
+    }
+  };
+  World world;
+  Silent silent;
+  Around().connections = &silent;
+  EXPECT_NE(DetailOfRefusal(world).find("未分类的错误"), std::string::npos);
+}
+
+TEST(ReportedErrors, BearWhatToDoAsTheirDetail) {
+  World world;
+  world.Sql("drop table Moneys;");
+  world.control.refresh(0, 0);
+  const auto boxes = world.headless.boxes.TakeShownAndErrors();
+  ASSERT_EQ(boxes.size(), 1u);
+  EXPECT_TRUE(boxes[0].error);
+  EXPECT_EQ(boxes[0].text, "no such table: Moneys");
+  EXPECT_NE(boxes[0].detail.find("处理：请检查是否选对了数据库"), std::string::npos);
+}
+
+TEST(ReportedErrors, OfTheFormBearADetailToo) {
+  World world;
+  frmZj& form = world.Open(0);
+  world.Sql("drop table cards;");
+  form.UserClick(form.cmdAcntRefresh);
+  const auto boxes = world.headless.boxes.TakeShownAndErrors();
+  ASSERT_EQ(boxes.size(), 1u);
+  EXPECT_EQ(boxes[0].text, "no such table: cards");
+  EXPECT_NE(boxes[0].detail.find("系统报告：no such table: cards"), std::string::npos);
+}
+
 TEST(Refresh, ShowsNoPasswordOfAServersDetails) {
   World world;
   world.control.setSQLData(1);

@@ -80,7 +80,7 @@ TEST_F(RegisterDetail, StoresTheTextAndSaysSo) {
   ASSERT_TRUE(form.UserClick(form.cmdSave));
   EXPECT_EQ(world.Statements(), (Texts{"select a.detail from cards a Where a.fID=2",
                                        "Update cards set detail='月结' Where fID=2"}));
-  const ShownBox& box = world.headless.boxes.Shown().back();
+  const ShownBox box = world.headless.boxes.Shown().back();
   EXPECT_EQ(box.text, "客户详情: [华东电子] 修改完毕 ！");
   EXPECT_EQ(box.style, box::kPlain);
   EXPECT_EQ(world.One("Select detail From cards Where fID=2"), "月结");

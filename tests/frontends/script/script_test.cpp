@@ -129,6 +129,24 @@ TEST_F(ScriptTest, PrintsAnErrorOfTheFormOnceAndNotAmongTheMessages) {
   EXPECT_EQ(Play("click cmdAcntRefresh\nmessages"), Lines{"error: no such table: cards"});
 }
 
+TEST_F(ScriptTest, ListsTheDetailsOfBoxesAndErrorsWhereTheyAreAskedFor) {
+  AddCustomer("1", "甲");
+  Play("refresh 0 0");
+  world.Sql("drop table cards;");
+  const Lines printed =
+      Play("click cmdAcntRefresh\nproperty myModel 0\nrefresh 0 0\nmessages details\nmessages");
+  ASSERT_EQ(printed.size(), 3u);
+  EXPECT_EQ(printed[1],
+            R"(error "客户往来帐管理系统" "no such table: cards" detail "原因：数据库缺少所需的)"
+            R"(数据表或字段，可能由早期版本建立。\n处理：请检查是否选对了数据库；若确为早期版本，)"
+            R"(请由管理员升级（qvdb init）。\n系统报告：no such table: cards")");
+  EXPECT_EQ(printed[2], R"(message 16 "客户往来帐管理系统" ": 您无权进行管理 !" -> ok)");
+}
+
+TEST_F(ScriptTest, KnowsNoOtherKindOfMessages) {
+  EXPECT_EQ(Play("messages all"), Lines{"error: usage: messages [details]"});
+}
+
 TEST_F(ScriptTest, ADisabledOrHiddenControlCannotBePressed) {
   AddCustomer("1", "甲");
   world.control.setUserName("nobody");

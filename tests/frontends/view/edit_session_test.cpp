@@ -47,7 +47,7 @@ class FakeEditor : public NativeEditor {
 class Session : public ::testing::Test {
  protected:
   Session() {
-    form_.onError = [](const std::string& text) { ADD_FAILURE() << text; };
+    form_.onError = [](const std::exception& error) { ADD_FAILURE() << error.what(); };
     form_.SetLoaded(true);
     form_.UserFocus(box_);
   }

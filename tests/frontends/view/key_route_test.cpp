@@ -48,7 +48,7 @@ struct Desk {
     form.SetLoaded(true);
     form.readClipboard = [] { return std::string("pasted"); };
     form.writeClipboard = [](const std::string&) {};
-    form.onError = [](const std::string& text) { ADD_FAILURE() << text; };
+    form.onError = [](const std::exception& error) { ADD_FAILURE() << error.what(); };
     Make(kind, memo_or_editable);
     neighbour = std::make_unique<ui::Button>(form, "cmdOther");
     neighbour->SetCaption("O(&Z)");

@@ -247,7 +247,7 @@ TEST(Guard, LetsAnErrorOfANestedActEndTheOuterOne) {
 
 TEST(Guard, SurvivesAReportThatFails) {
   Screen screen;
-  screen.onError = [](const std::string&) { throw std::runtime_error("no display"); };
+  screen.onError = [](const std::exception&) { throw std::runtime_error("no display"); };
   screen.button.onClick = [] { throw std::runtime_error("first"); };
   EXPECT_FALSE(screen.UserClick(screen.button));
 }

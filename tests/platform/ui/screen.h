@@ -12,7 +12,7 @@ namespace qvzj::ui {
 struct Screen : Form, FormObserver {
   Screen() : Form("Screen") {
     AddObserver(this);
-    onError = [this](const std::string& text) { errors.push_back(text); };
+    onError = [this](const std::exception& error) { errors.push_back(error.what()); };
     readClipboard = [this] { return clipboard; };
     writeClipboard = [this](const std::string& text) { clipboard = text; };
     check.SetCaption("审核(&K)");
