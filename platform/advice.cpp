@@ -134,8 +134,8 @@ const Words& WordsOf(const std::exception& error) {
 
 }  // namespace
 
-std::string Advice(const std::exception& error, int language) {
-  const size_t place = language == 1 ? 1 : 0;
+std::string Advice(const std::exception& error, Language language) {
+  const size_t place = language == Language::Traditional ? 1 : 0;
   const Words& words = WordsOf(error);
   const char* const reported[2] = {"系统报告：", "系統報告："};
   const char* const remedy[2] = {"处理：", "處理："};

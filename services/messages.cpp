@@ -13,11 +13,12 @@ Answer Message(const std::string& text, int style, const std::string& title) {
 }
 
 Answer Message(const std::string& text, int style, const std::exception& cause) {
-  return Around().boxes->Show(text, style, Shared().Title, Advice(cause, Shared().Language));
+  return Around().boxes->Show(text, style, Shared().Title,
+                              Advice(cause, LanguageOf(Shared().Language)));
 }
 
 void ReportError(const std::exception& error) {
-  Around().boxes->Error(error.what(), Shared().Title, Advice(error, Shared().Language));
+  Around().boxes->Error(error.what(), Shared().Title, Advice(error, LanguageOf(Shared().Language)));
 }
 
 }  // namespace qvzj

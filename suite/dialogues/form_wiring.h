@@ -8,9 +8,9 @@ namespace qvzj::dialogues {
 
 /// Connects what every form of the suite needs: error box in `language`, clipboard, and the
 /// presenter's notice when it is closed.
-inline void WireForm(ui::Form& form, int language) {
+inline void WireForm(ui::Form& form, int16_t language) {
   form.onError = [&form, language](const std::exception& error) {
-    Around().boxes->Error(error.what(), form.Caption(), Advice(error, language));
+    Around().boxes->Error(error.what(), form.Caption(), Advice(error, LanguageOf(language)));
   };
   form.onUnload = [&form] { Around().presenter->Closed(form); };
   form.readClipboard = [] { return Around().clipboard->Text(); };
