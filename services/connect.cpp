@@ -1,8 +1,10 @@
 #include "services/connect.h"
 
+#include "platform/basic/errors.h"
 #include "platform/basic/number.h"
 #include "platform/surroundings.h"
 #include "services/context.h"
+#include "services/messages.h"
 
 namespace qvzj {
 
@@ -23,9 +25,14 @@ data::Connection& Data() {
 }
 
 void CloseData() {
-  auto& connection = Shared().cnData;
-  if (connection && connection->State() == 1) connection->Close();
-  connection.reset();
+  // Whoever hears of it may open the data again.
+  const std::unique_ptr<data::Connection> connection = std::move(Shared().cnData);
+  if (!connection) return;
+  try {
+    connection->Close();
+  } catch (const DataError& error) {
+    ReportError(error);
+  }
 }
 
 std::string StripSlash(const std::string& path) {

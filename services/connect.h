@@ -13,7 +13,8 @@ namespace qvzj {
 bool OpenData();
 /// The shared connection object, created closed when there is none.
 data::Connection& Data();
-/// Closes the shared connection if it is open and releases it.
+/// Closes the shared connection if it is open and releases it. What the engine has to say of the
+/// end (see data::Session::CheckBeforeClose) is reported in a box.
 void CloseData();
 /// `path` without one trailing "\".
 std::string StripSlash(const std::string& path);

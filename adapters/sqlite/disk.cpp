@@ -1,9 +1,13 @@
 #include "adapters/sqlite/disk.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/vfs.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace qvzj {
 namespace {
@@ -33,6 +37,26 @@ bool OnLocalDisk(const std::string& file) {
   if (statfs(file.c_str(), &info) != 0) return false;
   const auto type = static_cast<unsigned long>(info.f_type) & 0xFFFFFFFFUL;
   return std::find(kRemote.begin(), kRemote.end(), type) == kRemote.end();
+}
+
+std::optional<FileIdentity> IdentityOf(const std::string& file) {
+  struct stat info {};
+  if (stat(file.c_str(), &info) != 0) return std::nullopt;
+  return FileIdentity{info.st_dev, info.st_ino};
+}
+
+ShortName::ShortName(const std::string& file) : text_(file) {
+  const size_t slash = file.rfind('/');
+  if (slash == std::string::npos) return;
+  folder_ = open(file.substr(0, slash + 1).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+  if (folder_ >= 0) text_ = "/proc/self/fd/" + std::to_string(folder_) + file.substr(slash);
+}
+
+ShortName::ShortName(ShortName&& other) noexcept
+    : text_(std::move(other.text_)), folder_(std::exchange(other.folder_, -1)) {}
+
+ShortName::~ShortName() {
+  if (folder_ >= 0) close(folder_);
 }
 
 }  // namespace qvzj

@@ -3,16 +3,28 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "adapters/dialect/translate.h"
+#include "adapters/sqlite/disk.h"
 #include "adapters/sqlite/sqlite_statement.h"
 #include "platform/data/store.h"
 
 namespace qvzj {
 
 class SqliteSchema;
+
+/// The engine's handle and the names of the file behind it.
+struct OpenedFile {
+  struct Closer {
+    void operator()(sqlite3* database) const;
+  };
+  std::string path;                     ///< absolute
+  std::optional<ShortName> short_name;  ///< where the engine does not take the path
+  std::unique_ptr<sqlite3, Closer> database;
+};
 
 /// How a data file is opened.
 struct SqliteOptions {
@@ -27,12 +39,15 @@ struct SqliteOptions {
 
 /// A data file of SQLite. On a local disk it is kept with a write-ahead log, elsewhere with a
 /// rollback journal; in both cases what a statement wrote is on the disk when the call returns.
+/// Once another file stands under the name of the one that is open, or none, every write is refused
+/// (DataCause::Replaced), and what the log still holds goes into the file that it belongs to.
 /// Not to be used from two threads at once.
 class SqliteSession : public data::Store {
  public:
   ~SqliteSession() override;
   void Execute(std::string_view statement) override;
   data::Recordset Query(std::string_view statement) override;
+  void CheckBeforeClose() override { CheckFileIsThere(); }
 
   data::Engine Speaks() const override { return data::Engine::Sqlite; }
   data::Recordset Native(std::string_view sql) override;
@@ -57,16 +72,16 @@ class SqliteSession : public data::Store {
   /// Looks at every page, index and row of the file.
   std::string CheckIntegrity() override;
   /// The engine's own handle, valid as long as the session.
-  sqlite3* Handle() const { return database_.get(); }
+  sqlite3* Handle() const { return file_.database.get(); }
 
  private:
   friend std::unique_ptr<SqliteSession> OpenSqlite(const std::string&, const SqliteOptions&);
-  SqliteSession(sqlite3* database, const SqliteOptions& options);
+  SqliteSession(OpenedFile file, const SqliteOptions& options);
+  /// Throws DataError when the file that is open is not the one that is there.
+  void CheckFileIsThere() const;
 
-  struct Closer {
-    void operator()(sqlite3* database) const;
-  };
-  std::unique_ptr<sqlite3, Closer> database_;
+  OpenedFile file_;
+  std::optional<FileIdentity> identity_;  // of the file at the start; empty while it is opened
   std::unique_ptr<SqliteSchema> schema_;
   std::function<int()> language_;
 };

@@ -103,6 +103,8 @@ void SqliteStatement::Check(int result) {
   if (result != SQLITE_OK) ThrowSqlite(database_);
 }
 
+bool SqliteStatement::ReadOnly() const { return sqlite3_stmt_readonly(statement_.get()) != 0; }
+
 int SqliteStatement::ParameterCount() const {
   return sqlite3_bind_parameter_count(statement_.get());
 }

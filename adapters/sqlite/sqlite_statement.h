@@ -28,6 +28,8 @@ class SqliteStatement {
 
   /// True when there was nothing but blanks and comments to prepare; it must not be run then.
   bool Empty() const { return !statement_; }
+  /// False when running it may change the file.
+  bool ReadOnly() const;
   /// Number of parameters.
   int ParameterCount() const;
   /// Gives a parameter its value for the next run; dates are stored as yyyy-mm-dd. A text is

@@ -15,6 +15,11 @@ auto Connection::Run(StatementKind kind, std::string_view statement, const Act& 
   }
 }
 
+void Connection::Close() {
+  const std::unique_ptr<Session> ending = std::move(session_);
+  if (ending) ending->CheckBeforeClose();
+}
+
 void Connection::Execute(std::string_view statement) {
   Run(StatementKind::Execute, statement, [&](Session& session) { session.Execute(statement); });
 }

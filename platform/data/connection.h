@@ -23,6 +23,9 @@ class Session {
   virtual void Execute(std::string_view statement) = 0;
   /// Runs a statement that answers rows and reads them all.
   virtual Recordset Query(std::string_view statement) = 0;
+  /// Throws DataError when the user must hear of something before the session ends, such as that
+  /// the data it worked on is no longer there.
+  virtual void CheckBeforeClose() {}
 };
 
 enum class StatementKind { Execute, Open };
@@ -38,7 +41,8 @@ class Connection {
   /// 0 = closed, 1 = open.
   int State() const { return session_ ? 1 : 0; }
   void Attach(std::unique_ptr<Session> session) { session_ = std::move(session); }
-  void Close() { session_.reset(); }
+  /// Throws DataError when the session had something to say; it is closed all the same.
+  void Close();
   /// What the last statement failed with; empty when it went well or none ran. For who was told of
   /// the failure only as a missing answer.
   const std::optional<DataError>& LastFailure() const { return last_failure_; }
