@@ -1,5 +1,6 @@
 #include "ledger/print.h"
 
+#include "ledger/subject.h"
 #include "platform/basic/errors.h"
 #include "platform/surroundings.h"
 #include "screen/frmZj.h"
@@ -68,6 +69,9 @@ void PrintGrid(frmZj& form, ui::Grid& grid, const std::string& title, const std:
   job.title = title;
   job.report = report;
   job.extra = extra;
+  if (job.kind == kLedgerPrint) {
+    job.facts = {form.ledgerShown.subject, LedgerInRenminbi(form)};
+  }
   Around().print->Print(job);
 }
 

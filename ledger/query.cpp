@@ -5,6 +5,7 @@
 #include "ledger/columns.h"
 #include "ledger/editor.h"
 #include "ledger/grid.h"
+#include "ledger/subject.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/number.h"
 #include "screen/current.h"
@@ -34,16 +35,13 @@ std::string WhereText(const frmZj& form, const std::string& condition, const std
   return condition + " And " + form.registerCondition;
 }
 
-std::string LedgerStatement(const frmZj& form, const std::string& condition,
-                            const std::string& record) {
+std::string LedgerStatement(const frmZj& form, const ReadyLedger& ledger) {
   std::string statement =
       "Select b.fDate,b.fAcntNo,a.CompName,b.fMoneyA,b.fMoneyB,0 as hh,b.fBrief,b.fInvID,"
       "b.fOrderID,b.fUser,b.fDoneman,b.fChecker,b.fMoneyRate,b.fType2,b.fInit,b.fCompID,b.fID,"
       "b.fID2 From ";
-  statement += form.mode == kCustomers ? "cards a" : "tAccounts a";
-  statement += " Right Join tAccountDetail b On b.fCompID=a.fID";
-  const std::string where = WhereText(form, condition, record);
-  if (!where.empty()) statement += " Where " + where;
+  statement += ledger.source;
+  if (!ledger.where.empty()) statement += " Where " + ledger.where;
   statement +=
       form.cboKhOrder.ListIndex() == 0 ? " Order By a.CompCode,a.CompName" : " Order By a.CompName";
   return statement + ",b.fDate,b.fAcntNo";
@@ -124,6 +122,7 @@ void ShowSelected(frmZj& form, const ReadyLedger& ledger) {
 }
 
 void ShowRows(frmZj& form, ReadyLedger& ledger, GridFilling& filling) {
+  form.ledgerShown = {ledger.source, ledger.where, LedgerSubject(form)};
   WriteTotals(form, ledger.rows);
   FillGrid(form.Grid2, ledger.rows, form.SSTab2.Tab() == LedgerTab::Out);
   if (ledger.selected > 0) ShowSelected(form, ledger);
@@ -134,7 +133,10 @@ void ShowRows(frmZj& form, ReadyLedger& ledger, GridFilling& filling) {
 
 ReadyLedger ReadLedger(const frmZj& form, const std::string& condition, const std::string& record) {
   ReadyLedger ledger;
-  ledger.rows = TakeRows(Data().Open(LedgerStatement(form, condition, record)));
+  ledger.source = form.mode == kCustomers ? "cards a" : "tAccounts a";
+  ledger.source += " Right Join tAccountDetail b On b.fCompID=a.fID";
+  ledger.where = WhereText(form, condition, record);
+  ledger.rows = TakeRows(Data().Open(LedgerStatement(form, ledger)));
   if (ledger.rows.Count() == 0) return ledger;
   ledger.missing = FindMissingAmounts(ledger.rows);
   if (ledger.missing.count > 0) {
@@ -165,6 +167,7 @@ void LoadLedger(frmZj& form, const std::string& condition) {
     const Hourglass hourglass(form);
     GridFilling filling(form.Grid2);
     WriteTotals(form, {});  // what an error leaves behind goes with the empty grid
+    form.ledgerShown = {};
     ledger = ReadLedger(form, condition, CurrentRecordId(form));
     ShowRows(form, ledger, filling);
   }

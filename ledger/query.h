@@ -12,6 +12,8 @@ struct frmZj;
 
 /// A ledger that was read and computed and only waits to be shown: nothing can fail any more.
 struct ReadyLedger {
+  std::string source;                   ///< the tables of its statement
+  std::string where;                    ///< the condition of its statement, "" for none
   LedgerRows rows;                      ///< none when amounts are missing
   MissingAmounts missing;               ///< what ShowLedger then reports
   int32_t selected = 0;                 ///< row of the entry shown last, else 1; 0 without rows

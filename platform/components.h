@@ -23,6 +23,13 @@ struct DataAccess {
   std::string default_database;  ///< on the server
 };
 
+/// What a printed list is about, for a component that can say it on the page. The component's own
+/// values know nothing of it.
+struct PrintFacts {
+  std::string subject;          ///< whose entries, which period, which filters; "" for all of them
+  bool local_currency = false;  ///< every entry printed is known to be in renminbi
+};
+
 /// What the print component is given, in the order in which it is set (see ledger/print).
 struct PrintJob {
   int16_t kind = 0;                 ///< 1: 1 ledger, 0 register
@@ -41,6 +48,7 @@ struct PrintJob {
   int16_t value18 = 0;              ///< 18
   int16_t value19 = 0;              ///< 19
   std::string extra;                ///< 20
+  PrintFacts facts{};               ///< beyond the twenty
 };
 
 /// Prints a grid as the suite prints its lists.

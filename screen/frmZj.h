@@ -52,6 +52,13 @@ struct frmZj : ui::Form {
   std::string registerCondition;    ///< set by the register search, "" until then
   int currentAction = kActionView;  ///< index of the action button pressed last
   int16_t printKind = 0;            ///< 1 ledger, 0 register
+  /// What the ledger grid holds, as it was loaded; the controls that chose it may say something
+  /// else by now. Empty while nothing is loaded.
+  struct LedgerShown {
+    std::string source;   ///< the tables of its statement
+    std::string where;    ///< the condition of its statement, "" for none
+    std::string subject;  ///< record, period and filters for a reader, "" for the whole ledger
+  } ledgerShown;
   /// The entry that was loaded into the editor, column by column as the texts of a statement: what
   /// the editor showed of it, and what the row really holds. A field that still shows what it
   /// showed is written back as the row holds it. Empty for a new entry.

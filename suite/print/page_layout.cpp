@@ -21,8 +21,14 @@ constexpr double kPadding = 0.7;      // both sides of a cell, in em
 constexpr double kNarrowestWrap = 5;  // room a wrapped column keeps, in em
 constexpr double kLine = 1.35;        // line height, in em
 constexpr int kTotalsLines = 2;       // the totals stand in two lines, as on the screen
-constexpr int32_t kRateColumn = 13;   // of the ledger grid: rate of the entry's currency
 constexpr int16_t kLedger = 1;
+
+std::string WithoutColon(std::string caption) {
+  for (const std::string colon : {":", "："}) {
+    if (caption.ends_with(colon)) caption.resize(caption.size() - colon.size());
+  }
+  return caption;
+}
 
 }  // namespace
 
@@ -33,6 +39,7 @@ PageLayout::PageLayout(const PrintJob& job, basic::Date print_date, const TextMe
   cancelled_ = !MeasureColumns(progress);
   if (cancelled_) return;
   FitWidths();
+  if (!job_.facts.subject.empty()) subject_ = Wrap(job_.facts.subject, InnerWidth(), kTextSize);
   BuildTotals();
   cancelled_ = !BreakPages(progress);
   if (cancelled_) starts_.clear();
@@ -114,15 +121,6 @@ void PageLayout::SpreadSlack() {
   for (PrintColumn& column : columns_) column.width *= stretch;
 }
 
-/// True when every entry listed is in the currency whose rate is 1.
-bool PageLayout::LedgerInLocalCurrency() const {
-  if (job_.kind != kLedger || grid_.ColumnCount() < kRateColumn) return false;
-  for (int32_t row = 1; row <= grid_.RowCount(); ++row) {
-    if (grid_.CellNumber(kRateColumn, row) != 1) return false;
-  }
-  return true;
-}
-
 void PageLayout::BuildTotals() {
   const PrintWords& words = WordsOf(job_.language);
   count_ = words.count_before + std::to_string(grid_.RowCount()) + words.count_after;
@@ -130,19 +128,20 @@ void PageLayout::BuildTotals() {
   for (size_t i = 0; i + 1 < job_.totals.size(); i += 2) {
     totals_.push_back(job_.totals[i] + " " + job_.totals[i + 1]);
   }
-  if (job_.totals.empty() || !LedgerInLocalCurrency()) return;
+  if (job_.totals.size() < 2 || !job_.facts.local_currency) return;
   const double last = basic::Val(job_.totals.back());
   if (std::fabs(last) >= kNoAmountInWords) return;
-  in_words_ = words.amount_in_words + AmountInWords(last, job_.language);
+  in_words_ = words.amount_in_words + "（" + WithoutColon(job_.totals[job_.totals.size() - 2]) +
+              "）: " + AmountInWords(last, job_.language);
 }
 
-std::vector<std::string> PageLayout::Wrap(const std::string& text, double room) const {
+std::vector<std::string> PageLayout::Wrap(const std::string& text, double room, double size) const {
   std::vector<std::string> lines;
   std::string line;
   double width = 0;
   for (char32_t code : basic::CodePoints(text)) {
     const std::string character = basic::FromCodePoint(code);
-    const double advance = metrics_.Width(character) * size_;
+    const double advance = metrics_.Width(character) * size;
     if (!line.empty() && width + advance > room) {
       const size_t blank = line.rfind(' ');
       std::string carried;
@@ -151,7 +150,7 @@ std::vector<std::string> PageLayout::Wrap(const std::string& text, double room) 
         line.erase(blank);
       }
       lines.push_back(std::exchange(line, carried));
-      width = metrics_.Width(line) * size_;
+      width = metrics_.Width(line) * size;
       if (code == U' ' && line.empty()) continue;
     }
     line += character;
@@ -167,7 +166,7 @@ int32_t PageLayout::RowLines(int32_t row) const {
   for (const PrintColumn& column : columns_) {
     const double room = column.width - kPadding * size_;
     if (column.number || column.needed * size_ <= room) continue;
-    lines = std::max(lines, Wrap(grid_.CellText(column.column, row), room).size());
+    lines = std::max(lines, Wrap(grid_.CellText(column.column, row), room, size_).size());
   }
   return static_cast<int32_t>(lines);
 }
@@ -175,7 +174,9 @@ int32_t PageLayout::RowLines(int32_t row) const {
 double PageLayout::RowHeight(int32_t lines) const { return (lines * kLine + kPadding / 2) * size_; }
 
 double PageLayout::RowsTop() const {
-  return paper_.margin + kTitleSize * kLine + kTextSize * (kLine + 0.5) + RowHeight(1);
+  const auto subject_lines = static_cast<double>(subject_.size());
+  return paper_.margin + kTitleSize * kLine + kTextSize * ((subject_lines + 1) * kLine + 0.5) +
+         RowHeight(1);
 }
 
 double PageLayout::RowsBottom() const {
@@ -241,6 +242,10 @@ void PageLayout::PlaceHead(Page& page) const {
   double y = paper_.margin;
   page.texts.push_back({left, y, InnerWidth(), kTitleSize, PrintAlign::Center, true, job_.title});
   y += kTitleSize * kLine;
+  for (const std::string& line : subject_) {
+    page.texts.push_back({left, y, InnerWidth(), kTextSize, PrintAlign::Center, false, line});
+    y += kTextSize * kLine;
+  }
   page.texts.push_back({left, y, InnerWidth(), kTextSize, PrintAlign::Left, false, job_.company});
   page.texts.push_back({left, y, InnerWidth(), kTextSize, PrintAlign::Right, false,
                         WordsOf(job_.language).print_date + basic::FormatIso(print_date_)});
@@ -266,7 +271,7 @@ double PageLayout::PlaceRow(Page& page, int32_t row, int32_t first_line, int32_t
     const double room = column.width - kPadding * size_;
     const std::string text = grid_.CellText(column.column, row);
     const std::vector<std::string> all =
-        column.number || !wraps_ ? std::vector<std::string>{text} : Wrap(text, room);
+        column.number || !wraps_ ? std::vector<std::string>{text} : Wrap(text, room, size_);
     for (int32_t i = 0; i < lines && first_line + i < std::ssize(all); ++i) {
       const std::string& line = all[static_cast<size_t>(first_line + i)];
       if (line.empty()) continue;

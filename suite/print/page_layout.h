@@ -57,9 +57,8 @@ class PageLayout final : public PageSource {
   bool WrapInto(double room, double size);
   void SpreadSlack();
   void BuildTotals();
-  bool LedgerInLocalCurrency() const;
   bool BreakPages(const Progress& progress);
-  std::vector<std::string> Wrap(const std::string& text, double room) const;
+  std::vector<std::string> Wrap(const std::string& text, double room, double size) const;
   int32_t RowLines(int32_t row) const;
   double RowHeight(int32_t lines) const;
   double InnerWidth() const { return PageWidth() - 2 * paper_.margin; }
@@ -83,10 +82,11 @@ class PageLayout final : public PageSource {
   bool wraps_ = false;
   double size_ = 0;
   std::vector<PrintColumn> columns_;
-  std::string count_;                // how many records there are
-  std::vector<std::string> totals_;  // captions with their values, in order
-  std::string in_words_;             // the last total in capital numerals, "" for none
-  std::vector<Start> starts_;        // of the pages; past the last row for totals alone
+  std::vector<std::string> subject_;  // what the list is about, in lines under the title
+  std::string count_;                 // how many records there are
+  std::vector<std::string> totals_;   // captions with their values, in order
+  std::string in_words_;              // the last total in capital numerals, "" for none
+  std::vector<Start> starts_;         // of the pages; past the last row for totals alone
 };
 
 }  // namespace qvzj::print

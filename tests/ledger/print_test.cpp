@@ -5,7 +5,14 @@
 namespace qvzj::test {
 namespace {
 
-class LedgerPrint : public LedgerTest {};
+class LedgerPrint : public LedgerTest {
+ protected:
+  PrintFacts FactsOf(frmZj& form) {
+    form.UserClick(form.cmdPrint);
+    if (world.headless.print.jobs.empty()) return {"nothing was printed"};
+    return world.headless.print.jobs.back().facts;
+  }
+};
 
 TEST_F(LedgerPrint, HandsTheLedgerAndItsTotalsToThePrintComponent) {
   Add({.a = "100", .b = "30"});
@@ -66,6 +73,88 @@ TEST_F(LedgerPrint, PrintsNothingAndSaysNothingForAnEmptyLedger) {
   form.UserClick(form.cmdPrint);
   EXPECT_TRUE(world.headless.print.jobs.empty());
   EXPECT_TRUE(world.Messages().empty());
+}
+
+TEST_F(LedgerPrint, TellsWhoseLedgerItPrints) {
+  Add({});
+  EXPECT_EQ(FactsOf(Open()).subject, "客户单位: 甲公司");
+}
+
+TEST_F(LedgerPrint, TellsThePeriodAndTheFilters) {
+  Add({.brief = "'货款'", .user = "'admin'"});
+  frmZj& form = Open();
+  form.UserClick(form.OptSelect(Selection::All));
+  form.UserClick(form.chkDate(FilterBox::From));
+  form.UserDate(form.dtpDate(FilterBox::From), basic::Date::FromYmd(2024, 1, 1));
+  form.UserClick(form.chkDate(FilterBox::To));
+  form.UserDate(form.dtpDate(FilterBox::To), basic::Date::FromYmd(2024, 3, 31));
+  form.UserClick(form.chkVerify(FilterBox::Checked));
+  form.UserClick(form.chkBrief);
+  world.Type(form.txtBrief, "货");
+  form.UserChoose(form.cboHb2, 0);
+  form.UserClick(form.cmdAcntRefresh);
+  EXPECT_EQ(FactsOf(form).subject,
+            "起始日期: 2024-01-01   终止日期: 2024-03-31   币种: RMB   未审核   摘要: 货");
+}
+
+TEST_F(LedgerPrint, TellsNothingOfTheWholeLedger) {
+  Add({});
+  frmZj& form = Open();
+  form.UserClick(form.OptSelect(Selection::All));
+  EXPECT_EQ(FactsOf(form).subject, "");
+}
+
+TEST_F(LedgerPrint, TellsWhatWasLoadedAndNotWhatIsTickedSince) {
+  Add({});
+  frmZj& form = Open();
+  form.UserClick(form.chkBrief);
+  world.Type(form.txtBrief, "货");
+  EXPECT_EQ(FactsOf(form).subject, "客户单位: 甲公司");
+}
+
+TEST_F(LedgerPrint, TellsNothingOfTheLedgerWithTheRegister) {
+  Add({});
+  frmZj& form = Open();
+  form.UserClick(form.cmdKhPrint);
+  const PrintFacts& facts = world.headless.print.jobs.at(0).facts;
+  EXPECT_EQ(facts.subject, "");
+  EXPECT_FALSE(facts.local_currency);
+}
+
+TEST_F(LedgerPrint, KnowsALedgerOfTheLocalCurrencyAlone) {
+  Add({.code = "'RMB'"});
+  Add({.comp = 2, .code = "'USD'", .rate = "1"});
+  EXPECT_TRUE(FactsOf(Open()).local_currency);
+}
+
+TEST_F(LedgerPrint, KnowsAForeignCurrencyByItsCodeWhateverItsRate) {
+  Add({.code = "'RMB'"});
+  Add({.code = "'USD'", .rate = "1"});
+  EXPECT_FALSE(FactsOf(Open()).local_currency);
+}
+
+TEST_F(LedgerPrint, TakesAnEntryWithoutACurrencyForNoneOfTheLocalOne) {
+  for (const char* code : {"null", "''"}) Add({.code = code});
+  EXPECT_FALSE(FactsOf(Open()).local_currency);
+}
+
+TEST_F(LedgerPrint, TakesTheLocalCurrencyWhateverItsRateIs) {
+  Add({.code = "'RMB'", .rate = "0"});
+  EXPECT_TRUE(FactsOf(Open()).local_currency);
+}
+
+TEST_F(LedgerPrint, KnowsNoRenminbiWhereTheFirstCurrencyIsAnother) {
+  world.Sql("update Moneys set MoneyType=10 where MoneyCode='USD';");
+  Add({.code = "'USD'", .rate = "1"});
+  EXPECT_FALSE(FactsOf(Open()).local_currency);
+}
+
+TEST_F(LedgerPrint, PrintsWithoutKnowingTheCurrencyWhenTheDatabaseIsGone) {
+  Add({});
+  frmZj& form = Open();
+  world.Sql("alter table tAccountDetail rename to elsewhere;");
+  EXPECT_FALSE(FactsOf(form).local_currency);
+  EXPECT_TRUE(world.headless.boxes.TakeErrors().empty());
 }
 
 TEST_F(LedgerPrint, SaysThatThereIsNoPrintComponent) {

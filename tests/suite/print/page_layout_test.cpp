@@ -29,6 +29,7 @@ class PageLayoutTest : public testing::Test {
     job.company = "总公司";
     job.user = "张三";
     job.totals = {"应收金额:", "100.00", "实收金额:", "30.00"};
+    job.facts.local_currency = true;
   }
 
   void Fill(int32_t rows, const std::string& text = "货款") {
@@ -38,7 +39,6 @@ class PageLayoutTest : public testing::Test {
       grid.SetCellText(2, row, "PZ" + std::to_string(row));
       grid.SetCellText(3, row, text);
       grid.SetCellNumber(4, row, row);
-      grid.SetCellNumber(13, row, 1);
     }
   }
 
@@ -218,7 +218,7 @@ TEST_F(PageLayoutTest, ClosesTheLedgerWithItsTotalsAndTheLastOneInWords) {
   const Page last = layout.MakePage(layout.PageCount() - 1);
   EXPECT_TRUE(Has(last, "应收金额: 100.00"));
   EXPECT_TRUE(Has(last, "实收金额: 30.00"));
-  EXPECT_TRUE(Has(last, "人民币大写: 叁拾元整"));
+  EXPECT_TRUE(Has(last, "人民币大写（实收金额）: 叁拾元整"));
   EXPECT_FALSE(Has(layout.MakePage(0), "应收金额: 100.00"));
 }
 
@@ -245,10 +245,46 @@ TEST_F(PageLayoutTest, SetsTheTotalsInTwoLinesAsOnTheScreen) {
 
 TEST_F(PageLayoutTest, GivesNoAmountInWordsWhenAForeignCurrencyIsAmongTheEntries) {
   Fill(3);
-  grid.SetCellNumber(13, 2, 7.2);
+  job.facts.local_currency = false;
   const Page page = Layout().MakePage(0);
-  EXPECT_FALSE(Has(page, "人民币大写: 叁拾元整"));
+  for (const std::string& text : Texts(page)) EXPECT_NE(text.rfind("人民币大写", 0), 0u) << text;
   EXPECT_TRUE(Has(page, "实收金额: 30.00"));
+}
+
+TEST_F(PageLayoutTest, SaysWhatTheListIsAboutUnderTheTitleOfEveryPage) {
+  Fill(100);
+  job.facts.subject = "客户: 甲公司   起始日期: 2024-03-01";
+  const PageLayout layout = Layout();
+  for (int number = 0; number < layout.PageCount(); ++number) {
+    const Page page = layout.MakePage(number);
+    ASSERT_GT(page.texts.size(), 2u);
+    EXPECT_EQ(page.texts[0].text, job.title);
+    EXPECT_EQ(page.texts[1].text, job.facts.subject);
+    EXPECT_EQ(page.texts[2].text, job.company);
+    EXPECT_GE(page.texts[1].y, page.texts[0].y + page.texts[0].size);
+    EXPECT_GE(page.texts[2].y, page.texts[1].y + page.texts[1].size);
+  }
+}
+
+TEST_F(PageLayoutTest, BreaksALongSubjectIntoLinesAboveTheTable) {
+  Fill(100);
+  for (int i = 0; i < 40; ++i) job.facts.subject += "摘要: 货款   ";
+  const PageLayout layout = Layout();
+  const Page page = layout.MakePage(0);
+  EXPECT_FALSE(Overflows(layout, page));
+  double head_bottom = 0;
+  for (const PlacedText& text : page.texts) {
+    if (text.text == job.company) head_bottom = text.y + text.size;
+  }
+  EXPECT_GT(head_bottom, 36 + 16 + 3 * 9);
+  EXPECT_GE(page.lines.front().y1, head_bottom);
+}
+
+TEST_F(PageLayoutTest, KeepsItsPlacesWhereThereIsNothingToSayOfTheList) {
+  Fill(1);
+  const double without = Layout().MakePage(0).lines.front().y1;
+  job.facts.subject = "客户: 甲公司";
+  EXPECT_GT(Layout().MakePage(0).lines.front().y1, without);
 }
 
 TEST_F(PageLayoutTest, PrintsATotalTooLargeForWordsInFiguresAlone) {
@@ -275,7 +311,8 @@ TEST_F(PageLayoutTest, NeverPutsTheTotalsOverTheFoot) {
     double totals_bottom = 0;
     const double foot = FootOf(last);
     for (const PlacedText& text : last.texts) {
-      if (text.text == "人民币大写: 叁拾元整") totals_bottom = text.y + text.size * 1.35;
+      if (text.text == "人民币大写（实收金额）: 叁拾元整")
+        totals_bottom = text.y + text.size * 1.35;
     }
     ASSERT_GT(totals_bottom, 0) << rows;
     EXPECT_LE(totals_bottom, foot) << rows;
@@ -310,7 +347,7 @@ TEST_F(PageLayoutTest, SpeaksTraditionalChinese) {
   const Page page = Layout().MakePage(0);
   EXPECT_TRUE(Has(page, "製表人: 张三"));
   EXPECT_TRUE(Has(page, "第 1 頁 共 1 頁"));
-  EXPECT_TRUE(Has(page, "人民幣大寫: 參拾元整"));
+  EXPECT_TRUE(Has(page, "人民幣大寫（实收金额）: 參拾元整"));
 }
 
 }  // namespace
