@@ -8,6 +8,7 @@
 #include "platform/basic/text.h"
 #include "platform/data/details.h"
 #include "platform/surroundings.h"
+#include "platform/ui/form.h"
 #include "services/connect.h"
 #include "services/context.h"
 #include "services/messages.h"
@@ -45,14 +46,20 @@ DataError WhyLedgerIsNotThere() {
 }  // namespace
 
 qvJxc_Zj::~qvJxc_Zj() {
-  if (Form()) form_->UserClose();
+  fate_->destroyed = true;
+  const std::shared_ptr<frmZj> form = std::move(form_);
+  if (!form || !form->Loaded()) return;
+  // The host is taking its screen down: no box may come up any more.
+  DropData();
+  form->UserClose();
 }
 
 frmZj* qvJxc_Zj::Form() const { return form_ && form_->Loaded() ? form_.get() : nullptr; }
 
 void qvJxc_Zj::refresh(int16_t MfRunMode, int16_t myShowMode) {
+  if (fate_->opening) return;
   try {
-    Open(MfRunMode, myShowMode);
+    ui::Form::ApartFromActs([&] { Open(MfRunMode, myShowMode); });
   } catch (const std::exception& error) {
     ReportError(error);
   }
@@ -82,30 +89,33 @@ void qvJxc_Zj::Open(int16_t run_mode, int16_t show_mode) {
   ShowForm(run_mode);
 }
 
-void qvJxc_Zj::ShowForm(int16_t run_mode) {
-  if (!Form()) {
-    DropForm();
-    form_ = std::make_unique<frmZj>();
-  }
+void qvJxc_Zj::Load(const std::shared_ptr<frmZj>& form, int16_t run_mode) {
+  const std::shared_ptr<Fate> fate = fate_;
+  fate->opening = true;
   try {
-    form_->State(run_mode);
-    LoadForm(*form_);
+    form->State(run_mode);
+    LoadForm(*form);
   } catch (...) {
-    if (!Form()) {
-      form_->Unload();
+    fate->opening = false;
+    if (!form->Loaded()) {
+      form->Unload();
       CloseData();
-      DropForm();
     }
     throw;
   }
-  Around().presenter->Show(*form_, Shared().showmode == 1);
-  if (form_ && !Form()) DropForm();  // a modal one is over
+  fate->opening = false;
 }
 
-void qvJxc_Zj::DropForm() {
-  // The host may open the control again from the very event that closed the form.
-  if (form_ && form_->Acting()) closed_form_ = std::move(form_);
-  form_.reset();
+void qvJxc_Zj::ShowForm(int16_t run_mode) {
+  if (!Form()) form_ = std::make_shared<frmZj>();
+  // From here on the host may destroy the control at any time: in a box or a login on the way, and
+  // while the form is modal.
+  const std::shared_ptr<Fate> fate = fate_;
+  const std::shared_ptr<frmZj> form = form_;
+  Load(form, run_mode);
+  if (fate->destroyed) return form->Unload();
+  Around().presenter->Show(*form, Shared().showmode == 1);
+  if (!fate->destroyed && !Form()) form_.reset();  // a modal one is over
 }
 
 void qvJxc_Zj::setMyTaskID(int32_t value) { Shared().myTaskID = value; }

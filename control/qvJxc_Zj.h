@@ -11,7 +11,9 @@ namespace qvzj {
 
 /// The control that a host places on its screen. The properties put the host's context into the
 /// shared values (one set per loaded component); `refresh` opens the main form. Property writes
-/// never fail. Most properties are write-only on purpose.
+/// never fail. Most properties are write-only on purpose. The host may destroy the control at any
+/// time, also while its form is modal, asks something or is being opened: the form is closed, no
+/// box comes up, and whatever was under way ends without touching the control again.
 class qvJxc_Zj {
  public:
   qvJxc_Zj() = default;
@@ -21,7 +23,8 @@ class qvJxc_Zj {
 
   /// Opens the component. `MfRunMode`: 0, 9, 10 customers (9 on the customer that the host named),
   /// 1, 11 and others money accounts. `myShowMode`: 0 modeless, 1 modal. Errors are reported in a
-  /// box; the host never sees an exception.
+  /// box; the host never sees an exception. A call that comes in while the form is still being
+  /// opened (out of a login window, say) does nothing.
   void refresh(int16_t MfRunMode, int16_t myShowMode);
 
   void setMyTaskID(int32_t value);
@@ -59,11 +62,17 @@ class qvJxc_Zj {
 
  private:
   void Open(int16_t run_mode, int16_t show_mode);
+  void Load(const std::shared_ptr<frmZj>& form, int16_t run_mode);
   void ShowForm(int16_t run_mode);
-  void DropForm();
 
-  std::unique_ptr<frmZj> form_;
-  std::unique_ptr<frmZj> closed_form_;  // still inside the event that closed it
+  /// What must be known of the control after a call in which the host may have destroyed it.
+  struct Fate {
+    bool opening = false;  ///< a form is being loaded
+    bool destroyed = false;
+  };
+
+  std::shared_ptr<frmZj> form_;
+  std::shared_ptr<Fate> fate_ = std::make_shared<Fate>();
 };
 
 }  // namespace qvzj

@@ -17,6 +17,10 @@ constexpr Words kUnknown{
     {"数据库或程序报告了一个未分类的错误。", "資料庫或程式報告了一個未分類的錯誤。"},
     {"请记下下面的系统报告，重试一次；若再次出现，请交给系统管理员。",
      "請記下下面的系統報告，重試一次；若再次出現，請交給系統管理員。"}};
+constexpr Words kClosed{
+    {"数据库连接已关闭，可能是随另一个窗口一起关闭的。",
+     "資料庫連接已關閉，可能是隨另一個視窗一起關閉的。"},
+    {"请关闭本窗口，再从主程序重新打开。", "請關閉本視窗，再從主程式重新打開。"}};
 constexpr Words kNoFile{{"数据文件不存在，或数据路径有误。", "資料檔案不存在，或資料路徑有誤。"},
                         {"请检查数据路径及移动盘、网络盘是否已连接；新帐套须先由管理员建立。",
                          "請檢查資料路徑及移動碟、網路碟是否已連接；新帳套須先由管理員建立。"}};
@@ -85,6 +89,8 @@ constexpr Words kMemory{
 
 const Words& WordsOf(DataCause cause) {
   switch (cause) {
+    case DataCause::Closed:
+      return kClosed;
     case DataCause::NoFile:
       return kNoFile;
     case DataCause::NoDatabase:

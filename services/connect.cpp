@@ -35,6 +35,8 @@ void CloseData() {
   }
 }
 
+void DropData() { Shared().cnData.reset(); }
+
 std::string StripSlash(const std::string& path) {
   return path.ends_with('\\') ? path.substr(0, path.size() - 1) : path;
 }

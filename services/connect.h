@@ -16,6 +16,8 @@ data::Connection& Data();
 /// Closes the shared connection if it is open and releases it. What the engine has to say of the
 /// end (see data::Session::CheckBeforeClose) is reported in a box.
 void CloseData();
+/// The same without a box, for when nobody is there any more to read it.
+void DropData();
 /// `path` without one trailing "\".
 std::string StripSlash(const std::string& path);
 

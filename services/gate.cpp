@@ -4,6 +4,7 @@
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "platform/surroundings.h"
+#include "platform/ui/form.h"
 #include "services/connect.h"
 #include "services/context.h"
 #include "services/messages.h"
@@ -15,9 +16,11 @@ namespace {
 
 constexpr int16_t kUnknown = -1000;  // no such function, or nobody logged in
 
-UserComponent& User() {
+// The component may show a window of its own, in which the host may close the form.
+void RunUser(UserCall& call) {
   if (!Around().user) throw Error("This program has no user component to log in with.");
-  return *Around().user;
+  Around().user->Run(call);
+  ui::Form::EndActOfClosedForm();
 }
 
 UserCall NewCall(int16_t action) {
@@ -45,7 +48,7 @@ bool LoggedIn() {
   call.zg_name = shared.ZgName;
   call.login_model = shared.LoginModel;
   call.login_info = shared.LoginInfo;
-  User().Run(call);
+  RunUser(call);
   shared.UserPath = shared.SQLData == 0 ? call.access.user_path : "SQL Server";
   shared.LoginModel = call.login_model;
   shared.CompName = call.comp_name;
@@ -106,8 +109,7 @@ int16_t GetModule(std::string& name, std::string& display, std::string& password
 
 bool PasswordGate(const std::string& password) {
   if (password.empty()) return true;
-  const std::string answer =
-      Around().boxes->Input("Please input the Model password !", Shared().Title, "").value_or("");
+  const std::string answer = AskText("Please input the Model password !").value_or("");
   if (basic::Trim(answer) == basic::Trim(password)) return true;
   Message("Deny Access: The Model password is not valid!", box::kExclamation);
   return false;
@@ -116,7 +118,7 @@ bool PasswordGate(const std::string& password) {
 void RecordAccess(const std::string& function) {
   UserCall call = NewCall(UserCall::kRecordAccess);
   call.function = function;
-  User().Run(call);
+  RunUser(call);
 }
 
 }  // namespace qvzj

@@ -4,6 +4,7 @@
 
 #include "platform/basic/text.h"
 #include "platform/ui/form.h"
+#include "platform/ui/grid.h"
 
 namespace qvzj {
 namespace {
@@ -129,7 +130,7 @@ ui::Form* HeadlessPresenter::Find(std::string_view name) const {
 }
 
 void RecordingPrint::Print(const PrintJob& job) {
-  jobs.push_back(job);
+  jobs.push_back({job, job.grid ? job.grid->FullName() : std::string()});
   if (inner) inner->Print(job);
 }
 

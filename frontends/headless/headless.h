@@ -127,12 +127,18 @@ class HeadlessPresenter : public Presenter {
   bool last_modal_ = false;
 };
 
+/// A print job as it was given, and what its grid was called: the form may be gone by the time the
+/// job is looked at, and its grid with it.
+struct RecordedJob : PrintJob {
+  std::string grid_name;
+};
+
 /// Records what a component was asked and passes it on to the real one, where there is one.
 class RecordingPrint : public PrintComponent {
  public:
   void Print(const PrintJob& job) override;
   PrintComponent* inner = nullptr;
-  std::vector<PrintJob> jobs;
+  std::vector<RecordedJob> jobs;
 };
 
 class RecordingUser : public UserComponent {

@@ -36,6 +36,23 @@ QPixmap Draw(const view::BoxSign& sign, const QWidget& on) {
   return pixmap;
 }
 
+/// A dialog for the time of a question. The host may destroy its owner while it is open, and the
+/// owner takes it along; it then was given up.
+template <class Dialog>
+class Asked {
+ public:
+  explicit Asked(QWidget* owner) : dialog_(new Dialog(owner)) {}
+  ~Asked() { delete dialog_.data(); }
+  Asked(const Asked&) = delete;
+  Asked& operator=(const Asked&) = delete;
+
+  Dialog& Get() { return *dialog_; }
+  bool Gone() const { return dialog_.isNull(); }
+
+ private:
+  QPointer<Dialog> dialog_;
+};
+
 /// The window that a box belongs to: the one in front, whichever part of it is active.
 QWidget* Owner() {
   QWidget* modal = QApplication::activeModalWidget();
@@ -53,7 +70,8 @@ Answer QtBoxes::Show(const std::string& text, int style, const std::string& titl
                      const std::string& /*detail*/) {
   const view::BoxPlan plan = view::PlanBox(style, view::TextsOf(language_() == 1));
   const QPointer<QWidget> owner = Owner();
-  QMessageBox box(owner);
+  Asked<QMessageBox> asked(owner);
+  QMessageBox& box = asked.Get();
   box.setWindowTitle(FromUtf8(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(FromUtf8(text));
@@ -75,7 +93,7 @@ Answer QtBoxes::Show(const std::string& text, int style, const std::string& titl
   box.exec();
   if (owner) owner->activateWindow();
 
-  const bool accepted = reject == nullptr || box.clickedButton() == accept;
+  const bool accepted = reject == nullptr || (!asked.Gone() && box.clickedButton() == accept);
   return accepted ? plan.accepted : plan.rejected;
 }
 
@@ -83,7 +101,8 @@ std::optional<std::string> QtBoxes::Input(const std::string& prompt, const std::
                                           const std::string& preset) {
   const view::Texts& texts = view::TextsOf(language_() == 1);
   const QPointer<QWidget> owner = Owner();
-  QInputDialog dialog(owner);
+  Asked<QInputDialog> asked(owner);
+  QInputDialog& dialog = asked.Get();
   dialog.setWindowTitle(FromUtf8(title));
   dialog.setLabelText(FromUtf8(prompt));
   dialog.setTextValue(FromUtf8(preset));
@@ -93,7 +112,7 @@ std::optional<std::string> QtBoxes::Input(const std::string& prompt, const std::
   DressBox(dialog);
   const bool accepted = dialog.exec() == QDialog::Accepted;
   if (owner) owner->activateWindow();
-  if (!accepted) return std::nullopt;
+  if (!accepted || asked.Gone()) return std::nullopt;
   return ToUtf8(dialog.textValue());
 }
 

@@ -39,11 +39,12 @@ void QtPresenter::Show(ui::Form& form, bool modal) {
   if (modal) window->setWindowModality(Qt::ApplicationModal);
   Place(*window, owner);
   QEventLoop loop;
-  shown_[&form] = {window, modal ? &loop : nullptr};
+  shown_[&form] = {window, modal ? QPointer(&loop) : nullptr};
   window->show();
   window->activateWindow();
   if (!modal) return;
-  // A host that deletes the owner takes the window along.
+  // A host that deletes the owner takes the window along. One that lets go of the control may take
+  // this presenter along: nothing of it is touched afterwards.
   QObject::connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
   loop.exec();
   if (owner) owner->activateWindow();
@@ -62,7 +63,7 @@ void QtPresenter::Closed(ui::Form& form) {
     shown.window->hide();
     shown.window->deleteLater();
   }
-  if (shown.loop != nullptr) shown.loop->quit();
+  if (shown.loop) shown.loop->quit();
 }
 
 }  // namespace qvzj::qt

@@ -25,7 +25,7 @@ class QtPresenter : public Presenter {
  private:
   struct Shown {
     QPointer<FormWindow> window;
-    QEventLoop* loop = nullptr;  // of a modal form
+    QPointer<QEventLoop> loop;  // of a modal form
   };
 
   void Place(FormWindow& window, const QWidget* owner) const;

@@ -2,7 +2,6 @@
 
 #include "frontends/script/json.h"
 #include "platform/basic/date.h"
-#include "platform/ui/grid.h"
 
 namespace qvzj::script {
 namespace {
@@ -45,12 +44,12 @@ class Object {
 
 }  // namespace
 
-std::string PrintText(const PrintJob& job) {
+std::string PrintText(const RecordedJob& job) {
   Numbered values;
   values.Number(job.kind);
   values.Number(job.language);
   values.Raw(JsonTexts(job.totals));
-  values.Raw(job.grid ? job.grid->FullName() : "none");
+  values.Raw(job.grid ? job.grid_name : "none");
   values.Number(job.value5);
   values.Text(job.access.user_path);
   values.Text(job.access.password);

@@ -110,7 +110,7 @@ void Statements(Script& script, const Arguments&) {
 }
 
 void Prints(Script& script, const Arguments&) {
-  for (const PrintJob& job : std::exchange(script.Around().print.jobs, {})) {
+  for (const RecordedJob& job : std::exchange(script.Around().print.jobs, {})) {
     script.Print(PrintText(job));
   }
 }

@@ -4,6 +4,7 @@
 #include <QJsonObject>
 #include <QPainter>
 #include <exception>
+#include <utility>
 
 #include "frontends/qt/text.h"
 #include "frontends/qt/theme.h"
@@ -38,8 +39,8 @@ double DaysOf(const QDateTime& moment) {
 
 }  // namespace
 
-ControlWidget::ControlWidget(QWidget* parent, bool designing)
-    : QWidget(parent), designing_(designing) {
+ControlWidget::ControlWidget(QWidget* parent, std::shared_ptr<void> component, bool designing)
+    : QWidget(parent), component_(std::move(component)), designing_(designing) {
   control_.InitProperties();
 }
 

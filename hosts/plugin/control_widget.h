@@ -4,6 +4,7 @@
 #include <QString>
 #include <QVariantMap>
 #include <QWidget>
+#include <memory>
 
 #include "control/qvJxc_Zj.h"
 
@@ -35,8 +36,9 @@ class ControlWidget : public QWidget {
   Q_PROPERTY(QString propertyBag READ PropertyBagText WRITE setPropertyBagText DESIGNABLE false)
 
  public:
-  /// `designing`: the widget lies on a form designer's desk.
-  explicit ControlWidget(QWidget* parent = nullptr, bool designing = false);
+  /// `component` is what the control works in; it stays loaded as long as the widget is there.
+  /// `designing`: the widget lies on a form designer's desk, and there is none.
+  ControlWidget(QWidget* parent, std::shared_ptr<void> component, bool designing);
 
   /// Saves the control into a store of the host's; values equal to their presets are left out.
   Q_INVOKABLE QVariantMap SaveProperties() const;
@@ -98,6 +100,7 @@ class ControlWidget : public QWidget {
   /// Keeps a value for the designer; the module's own values are shared by all controls.
   void Design(const char* property, const QVariant& value);
 
+  std::shared_ptr<void> component_;  // before the control, which works in it to its end
   qvJxc_Zj control_;
   bool designing_;
   QVariantMap designed_;

@@ -8,8 +8,8 @@ namespace qvzj {
 
 QWidget* Plugin::CreateControl(QWidget* parent) {
   // On a designer's desk nothing is opened, and the surroundings are the designer's own.
-  if (!designing_ && !component_) component_ = std::make_unique<Component>();
-  return new ::qvJxc_Zj(parent, designing_);
+  if (!designing_ && !component_) component_ = std::make_shared<Component>();
+  return new ::qvJxc_Zj(parent, designing_ ? nullptr : component_, designing_);
 }
 
 void Plugin::initialize(QDesignerFormEditorInterface* designer) {

@@ -34,7 +34,7 @@ class Plugin : public QObject, public QDesignerCustomWidgetInterface, public QvZ
   bool isContainer() const override { return false; }
 
  private:
-  std::unique_ptr<Component> component_;
+  std::shared_ptr<Component> component_;  // shared with the controls, which may outlive the plug-in
   bool designing_ = false;
 };
 

@@ -36,6 +36,7 @@ class ResourceNotFoundError : public Error {
 /// told besides the engine's own words (see platform/advice.h).
 enum class DataCause {
   Unknown,
+  Closed,        ///< the connection is not open
   NoFile,        ///< no data file where it should lie
   NoDatabase,    ///< the file is something else
   Damaged,       ///< the file's contents are

@@ -7,7 +7,8 @@ auto Connection::Run(StatementKind kind, std::string_view statement, const Act& 
   if (watcher_) watcher_(kind, statement);
   last_failure_.reset();
   try {
-    if (!session_) throw DataError("Operation is not allowed when the connection is closed");
+    if (!session_)
+      throw DataError("Operation is not allowed when the connection is closed", DataCause::Closed);
     return act(*session_);
   } catch (const DataError& error) {
     last_failure_ = error;

@@ -3,12 +3,46 @@
 #include <algorithm>
 #include <cassert>
 #include <exception>
+#include <utility>
 
 #include "platform/basic/errors.h"
 
 namespace qvzj::ui {
 
+namespace {
+
+/// Puts a value back when a scope ends.
+template <class Value>
+class Kept {
+ public:
+  Kept(Value& place, Value value)
+      : place_(place), before_(std::exchange(place, std::move(value))) {}
+  ~Kept() { place_ = std::move(before_); }
+  Kept(const Kept&) = delete;
+  Kept& operator=(const Kept&) = delete;
+
+ private:
+  Value& place_;
+  Value before_;
+};
+
+}  // namespace
+
 Form::~Form() { *life_ = Life::Destroyed; }
+
+std::shared_ptr<Form::Life>& Form::Running() {
+  static std::shared_ptr<Life> running;
+  return running;
+}
+
+void Form::EndActOfClosedForm() {
+  if (Running() && *Running() != Life::Open) throw Closed{};
+}
+
+void Form::ApartFromActs(const std::function<void()>& step) {
+  const Kept<std::shared_ptr<Life>> none(Running(), nullptr);
+  step();
+}
 
 void Form::SetCaption(std::string caption) {
   if (caption == caption_) return;
@@ -51,11 +85,13 @@ void Form::PopUp(MenuItem& menu, int32_t left, int32_t top) {
 
 void Form::Unload() {
   if (*life_ != Life::Open) return;
-  *life_ = Life::Unloaded;
+  const std::shared_ptr<Life> life = life_;
+  *life = Life::Unloading;
   loaded_ = false;
   Notify(Aspect::Closed);
   const std::function<void()> unload = onUnload;  // it may destroy the form
   if (unload) unload();
+  if (*life == Life::Unloading) *life = Life::Unloaded;
 }
 
 void Form::SetLoaded(bool loaded) {
@@ -68,12 +104,16 @@ bool Form::Guard(const std::function<void()>& act) {
     act();
     return true;
   }
+  const std::shared_ptr<Form> alive = weak_from_this().lock();
   const std::shared_ptr<Life> life = life_;
+  const Kept<std::shared_ptr<Life>> running(Running(), life);
   depth_ = 1;
   bool done = true;
   const auto failed = [&](const std::exception& error) {
     done = false;
-    if (*life != Life::Destroyed) Report(error);
+    // What fails on a form that was closed meanwhile fails because it was; the closing itself may
+    // fail too.
+    if (*life == Life::Open || *life == Life::Unloading) Report(error);
   };
   const auto guarded = [&](const std::function<void()>& step) {
     try {

@@ -44,8 +44,9 @@ enum class MousePointer { Default = 0, Hourglass = 11 };
 /// ended in an error.
 ///
 /// A handler may unload the form, and the owner may destroy it from onUnload: the act that was
-/// under way then ends at once.
-class Form {
+/// under way then ends at once. A form that a shared pointer owns may be let go of at any time,
+/// also by the host while a handler shows a box: it lives on until the act has ended.
+class Form : public std::enable_shared_from_this<Form> {
  public:
   explicit Form(std::string name) : name_(std::move(name)) {}
   virtual ~Form();
@@ -130,6 +131,13 @@ class Form {
   /// it just runs: the outermost one catches and reports.
   bool Guard(const std::function<void()>& act);
 
+  /// Ends the act that is running, if any, when its form has been closed meanwhile. For whatever
+  /// lets the host act (boxes, other components' windows): what a handler would do next belongs to
+  /// a screen that is no more. Throws what only the act itself catches.
+  static void EndActOfClosedForm();
+  /// Runs what the host asked for, possibly from within an act of a form that it is no part of.
+  static void ApartFromActs(const std::function<void()>& step);
+
   /// An error escaped a user's act or the load; what() is the engine's or the module's text.
   std::function<void(const std::exception& error)> onError;
   std::function<void()> onResize;
@@ -143,7 +151,9 @@ class Form {
 
   /// Thrown inside an act to end it when a handler has closed the form.
   struct Closed {};
-  enum class Life { Open, Unloaded, Destroyed };
+  enum class Life { Open, Unloading, Unloaded, Destroyed };
+  /// The form whose act runs, innermost first; null outside of acts.
+  static std::shared_ptr<Life>& Running();
 
   void Join(Control& control);
   void Notify(Control& control, Aspect aspect);

@@ -48,6 +48,25 @@ TEST(Boxes, BearSimplifiedButtonTexts) {
   EXPECT_EQ(texts, (QStringList{"取消", "确定"}));
 }
 
+TEST(Boxes, AreGivenUpWhenTheHostDestroysTheWindowBeneath) {
+  qt::QtBoxes boxes([] { return 0; });
+  for (const bool input : {false, true}) {
+    auto owner = std::make_unique<QWidget>();
+    owner->show();
+    owner->activateWindow();
+    QApplication::setActiveWindow(owner.get());
+    WhenBoxComes([&](QDialog& dialog) {
+      EXPECT_EQ(dialog.parentWidget(), owner.get());
+      owner.reset();
+    });
+    if (input) {
+      EXPECT_EQ(boxes.Input("a", "t", "preset"), std::nullopt);
+    } else {
+      EXPECT_EQ(boxes.Show("a", box::kQuestionOkCancel, "t"), Answer::Cancel);
+    }
+  }
+}
+
 TEST(Boxes, BearTraditionalButtonTexts) {
   qt::QtBoxes boxes([] { return 1; });
   QStringList texts;

@@ -143,6 +143,13 @@ TEST_F(ScriptTest, ListsTheDetailsOfBoxesAndErrorsWhereTheyAreAskedFor) {
   EXPECT_EQ(printed[2], R"(message 16 "客户往来帐管理系统" ": 您无权进行管理 !" -> ok)");
 }
 
+TEST_F(ScriptTest, ListsPrintJobsAfterTheirFormWasClosed) {
+  AddCustomer("1", "甲");
+  const Lines printed = Play("refresh 0 0\nclick cmdKhPrint\nclose\nrefresh 1 0\nprints");
+  ASSERT_FALSE(printed.empty());
+  EXPECT_NE(printed.back().find(" 4=Grid1 "), std::string::npos) << printed.back();
+}
+
 TEST_F(ScriptTest, KnowsNoOtherKindOfMessages) {
   EXPECT_EQ(Play("messages all"), Lines{"error: usage: messages [details]"});
 }

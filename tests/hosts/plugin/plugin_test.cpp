@@ -4,10 +4,14 @@
 #include <QBuffer>
 #include <QDir>
 #include <QPluginLoader>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
 #include <QUiLoader>
 #include <QVariantMap>
 #include <QWidget>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
+#include <algorithm>
 #include <memory>
 
 #include "hosts/plugin/qv_zj_factory.h"
@@ -124,6 +128,82 @@ TEST(Plugin, IsDroppedUnderANameThatIsNotItsClass) {
   ASSERT_TRUE(control);
   EXPECT_STREQ(control->metaObject()->className(), qPrintable(plugin->name()));
   EXPECT_NE(control->objectName(), plugin->name());
+}
+
+/// A data folder with empty tables.
+class DataFolder {
+ public:
+  DataFolder() {
+    QProcess qvdb;
+    qvdb.start(QStringLiteral(QV_QVDB), {"init", folder_.path()});
+    EXPECT_TRUE(qvdb.waitForFinished(60000) && qvdb.exitCode() == 0);
+  }
+  QString Path() const { return folder_.path(); }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+/// A control of a host that loads the plug-in itself, opened on a data folder.
+QWidget* OpenedControl(QPluginLoader& loader, const DataFolder& data, QWidget* screen,
+                       int show_mode = 0) {
+  auto* factory = qobject_cast<QvZjFactory*>(loader.instance());
+  if (!factory) return nullptr;
+  QWidget* control = factory->CreateControl(screen);
+  control->setProperty("UserPath", data.Path());
+  control->setProperty("myModel", "11111111111");
+  control->setProperty("UserName", "admin");
+  control->setProperty("ZgName", "admin");
+  QMetaObject::invokeMethod(control, "refresh", Q_ARG(int, 0), Q_ARG(int, show_mode));
+  return control;
+}
+
+bool MainFormIsShown() {
+  const QWidgetList shown = QApplication::topLevelWidgets();
+  return std::any_of(shown.begin(), shown.end(), [](const QWidget* window) {
+    return window->objectName() == "frmZj" && window->isVisible();
+  });
+}
+
+TEST(PluginLife, TheHostDestroysItsScreenWithTheFormOpen) {
+  DataFolder data;
+  QPluginLoader loader(QDir(QStringLiteral(QV_PLUGIN_DIR)).filePath("qv_Zj_Ocx.so"));
+  auto screen = std::make_unique<QWidget>();
+  ASSERT_TRUE(OpenedControl(loader, data, screen.get()));
+  EXPECT_TRUE(MainFormIsShown());
+  screen.reset();
+  EXPECT_FALSE(MainFormIsShown());
+}
+
+TEST(PluginLife, TheHostDestroysItsScreenWhileTheFormIsModal) {
+  DataFolder data;
+  QPluginLoader loader(QDir(QStringLiteral(QV_PLUGIN_DIR)).filePath("qv_Zj_Ocx.so"));
+  auto screen = std::make_unique<QWidget>();
+  screen->show();
+  bool was_shown = false;
+  QTimer::singleShot(100, [&] {
+    was_shown = MainFormIsShown();
+    screen.reset();
+  });
+  OpenedControl(loader, data, screen.get(), 1);
+  EXPECT_TRUE(was_shown);
+  EXPECT_FALSE(MainFormIsShown());
+}
+
+TEST(PluginLife, TheHostUnloadsThePluginWhileItHoldsAControl) {
+  DataFolder data;
+  QPluginLoader loader(QDir(QStringLiteral(QV_PLUGIN_DIR)).filePath("qv_Zj_Ocx.so"));
+  QWidget* control = OpenedControl(loader, data, nullptr);
+  ASSERT_TRUE(control);
+  loader.unload();
+  QApplication::processEvents();
+  EXPECT_TRUE(MainFormIsShown());
+  control->setProperty("Default", "erp");
+  EXPECT_EQ(control->property("Default").toString(), "erp");
+  QMetaObject::invokeMethod(control, "refresh", Q_ARG(int, 1), Q_ARG(int, 0));
+  EXPECT_TRUE(MainFormIsShown());
+  delete control;
+  EXPECT_FALSE(MainFormIsShown());
 }
 
 }  // namespace
