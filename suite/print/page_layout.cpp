@@ -131,7 +131,8 @@ void PageLayout::BuildTotals() {
   if (job_.totals.size() < 2 || !job_.facts.local_currency) return;
   const double last = basic::Val(job_.totals.back());
   if (std::fabs(last) >= kNoAmountInWords) return;
-  in_words_ = words.amount_in_words + "（" + WithoutColon(job_.totals[job_.totals.size() - 2]) +
+  in_words_ = std::string(words.amount_in_words) + "（" +
+              WithoutColon(job_.totals[job_.totals.size() - 2]) +
               "）: " + AmountInWords(last, job_.language);
 }
 
