@@ -26,12 +26,12 @@ class LongPath : public testing::Test {
     fs::create_directories(Folder());
     SqliteOptions options;
     options.create = true;
-    CreateSchema(*OpenSqlite(File(), options));
+    store::CreateSchema(*OpenSqlite(File(), options));
   }
   fs::path Folder() const {
     return outer_.Path() / Repeated("帐", 60) / Repeated("套", 60) / Repeated("册", 40);
   }
-  std::string File() const { return (Folder() / kDataFile).string(); }
+  std::string File() const { return (Folder() / store::kDataFile).string(); }
   std::set<std::string> Files() const {
     std::set<std::string> names;
     for (const auto& entry : fs::directory_iterator(Folder())) {
@@ -57,7 +57,7 @@ TEST_F(LongPath, IsSharedBySessionsThatNameItDifferently) {
   auto one = OpenSqlite(File(), {});
   const fs::path before = fs::current_path();
   fs::current_path(Folder());
-  auto other = OpenSqlite(kDataFile, {});
+  auto other = OpenSqlite(store::kDataFile, {});
   fs::current_path(before);
   one->NativeScript("insert into cards(compname) values('甲');");
   EXPECT_EQ(other->Query("select count(*) from cards").Text(0), "1");
@@ -91,7 +91,7 @@ TEST_F(LongPath, SaysThatAFileIsMissing) {
 
 TEST_F(LongPath, OpensAtEveryLengthAroundTheEnginesOwnLimit) {
   const fs::path outer = outer_.Path() / Repeated("深", 80);
-  const std::string name = std::string("/") + kDataFile;
+  const std::string name = std::string("/") + store::kDataFile;
   for (size_t length = 490; length <= 520; ++length) {
     const fs::path folder =
         outer / std::string(length - outer.string().size() - 1 - name.size(), 'y');

@@ -71,7 +71,7 @@ TEST_F(ReplacedFile, TakesNoWriteAfterItsFolderWasExchanged) {
   const std::string elsewhere = file_.Folder().string() + "-elsewhere";
   fs::rename(file_.Folder(), elsewhere);
   fs::create_directory(file_.Folder());
-  fs::copy_file(elsewhere + "/" + kDataFile, file_.File());
+  fs::copy_file(elsewhere + "/" + store::kDataFile, file_.File());
   EXPECT_EQ(CauseOfWriting(), DataCause::Replaced);
   session_.reset();
   fs::remove_all(elsewhere);
@@ -175,7 +175,7 @@ TEST_F(ReplacedFile, IsNotSeenInAFileThatAnotherSessionWritesAndEmptiesItsLog) {
 TEST_F(ReplacedFile, IsLookedForUnderItsOwnNameWhereverTheProgramGoes) {
   const fs::path before = fs::current_path();
   fs::current_path(file_.Folder());
-  auto session = OpenSqlite(kDataFile, {});
+  auto session = OpenSqlite(store::kDataFile, {});
   fs::current_path(before);
   EXPECT_NO_THROW(session->Execute("Update cards set compname='乙' Where fID=5"));
 }
