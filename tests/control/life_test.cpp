@@ -35,9 +35,11 @@ class ControlLife : public testing::Test {
   void Destroy() { control_.reset(); }
   /// What the host does while the next box is open.
   void InTheNextBox(const std::function<void()>& act) {
-    world_.headless.boxes.on_box = [this, act](const ShownBox&) {
-      world_.headless.boxes.on_box = {};
-      act();
+    QueuedBoxes& boxes = world_.headless.boxes;
+    boxes.on_box = [&boxes, act](const ShownBox&) {
+      const auto once = act;
+      boxes.on_box = {};  // and with it this closure
+      once();
     };
   }
   void ExpectNothingLeft() {
@@ -171,8 +173,7 @@ TEST_F(ControlLife, EndsWhileItsRecordsArePrinted) {
 }
 
 TEST_F(ControlLife, EndsWhileTheFormTurnsToTheOtherRegister) {
-  frmZj& form = Open();
-  form.onResize = {};
+  Open();
   world_.Sql("drop table tAccounts;");
   world_.headless.boxes.on_error = [this](const std::string&) { Destroy(); };
   control_->refresh(1, 0);
