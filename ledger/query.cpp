@@ -14,6 +14,7 @@
 #include "screen/loading.h"
 #include "services/connect.h"
 #include "services/form_texts.h"
+#include "services/ids.h"
 #include "services/messages.h"
 #include "services/strings.h"
 #include "services/text_ids.h"
@@ -129,6 +130,15 @@ void ShowRows(frmZj& form, ReadyLedger& ledger, GridFilling& filling) {
   filling.Show();
 }
 
+// What the editor writes back, or looks entries up by, as a bare number.
+void RequireEntryIds(const LedgerRows& rows) {
+  RequireIds(rows.At(col::kID), "tAccountDetail.fID");
+  RequireIds(rows.At(col::kCompID), "tAccountDetail.fCompID");
+  RequireIds(rows.At(col::kID2), "tAccountDetail.fID2");
+  RequireIds(rows.At(col::kType2), "tAccountDetail.fType2");
+  RequireIds(rows.At(col::kInit), "tAccountDetail.fInit");
+}
+
 }  // namespace
 
 ReadyLedger ReadLedger(const frmZj& form, const std::string& condition, const std::string& record) {
@@ -138,6 +148,7 @@ ReadyLedger ReadLedger(const frmZj& form, const std::string& condition, const st
   ledger.where = WhereText(form, condition, record);
   ledger.rows = TakeRows(Data().Open(LedgerStatement(form, ledger)));
   if (ledger.rows.Count() == 0) return ledger;
+  RequireEntryIds(ledger.rows);
   ledger.missing = FindMissingAmounts(ledger.rows);
   if (ledger.missing.count > 0) {
     ledger.rows = {};

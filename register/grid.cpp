@@ -8,6 +8,7 @@
 #include "ledger/filter.h"
 #include "ledger/grid.h"
 #include "ledger/query.h"
+#include "platform/basic/errors.h"
 #include "platform/basic/number.h"
 #include "register/detail.h"
 #include "screen/current.h"
@@ -19,10 +20,15 @@ namespace qvzj {
 namespace {
 
 // The option of the type code in a row; the first one for codes that none stands for, and in money
-// accounts. Throws OverflowError for what is no byte.
+// accounts. Throws Error that names the record for what is no byte.
 int TypeInRow(const frmZj& form, int32_t row) {
   if (form.mode != kCustomers) return CustomerType::Both;
-  const uint8_t code = basic::ToByte(form.Grid1.CellNumber(form.Grid1.ColumnCount() - 1, row));
+  const double stored = form.Grid1.CellNumber(form.Grid1.ColumnCount() - 1, row);
+  if (stored < 0 || stored > UINT8_MAX) {
+    throw Error("数据有误：" + form.Grid1.CellText(RecordBox::Name + 1, row) + " 的类别代码 " +
+                basic::NumberText(stored) + " 不在 0 至 255 之间。请检查数据！");
+  }
+  const uint8_t code = basic::ToByte(stored);
   return code < form.optKhType.Count() ? int{code} : int{CustomerType::Both};
 }
 

@@ -16,6 +16,7 @@
 #include "screen/keys.h"
 #include "screen/loading.h"
 #include "services/connect.h"
+#include "services/ids.h"
 #include "services/query.h"
 
 namespace qvzj {
@@ -83,8 +84,9 @@ int32_t RowOfRecord(const basic::Column& ids, const std::string& tag) {
 // Moves the records into the grid, whole columns at a time. Answers the row to select.
 int32_t FillRegister(frmZj& form, data::Recordset rows, const std::string& record) {
   ui::Grid& grid = form.Grid1;
-  grid.SetRowCount(rows.RecordCount());
   const int id_field = rows.FieldCount() - 1;
+  RequireIds(rows.ColumnAt(id_field), RegisterTable(form) + ".fID");
+  grid.SetRowCount(rows.RecordCount());
   const int32_t selected = RowOfRecord(rows.ColumnAt(id_field), record);
   for (int32_t column = 1; column <= grid.ColumnCount(); ++column) {
     grid.TakeColumn(column, rows.TakeColumn(column - 1));

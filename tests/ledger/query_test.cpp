@@ -16,6 +16,32 @@ class LedgerQuery : public LedgerTest {
   }
 };
 
+TEST_F(LedgerQuery, TakesNoIdThatIsNoNumberIntoAStatement) {
+  Add({.number = "N1"});
+  Add({.number = "N2"});
+  world.Sql(
+      "create table crafted as select * from tAccountDetail; drop table tAccountDetail;"
+      "alter table crafted rename to tAccountDetail;");
+  for (const char* column : {"fID", "fCompID", "fID2", "fType2", "fInit"}) {
+    frmZj& form = OpenAll();
+    world.Sql(std::string("update tAccountDetail set ") + column +
+              "='1 or 1=1' where fAcntNo='N2';");
+    form.UserClick(form.cmdAcntRefresh);
+    const Texts errors = world.headless.boxes.TakeErrors();
+    ASSERT_EQ(errors.size(), 1u) << column;
+    EXPECT_NE(errors[0].find(std::string("tAccountDetail.") + column + " 应为数字，现为“1 or 1=1”"),
+              std::string::npos)
+        << errors[0];
+    EXPECT_EQ(form.Grid2.RowCount(), 0);
+    form.UserClose();
+    world.Sql(std::string("update tAccountDetail set ") + column +
+              "=1;"
+              "update tAccountDetail set fID=rowid;");
+    world.Messages();
+  }
+  EXPECT_EQ(world.One("select count(*) from tAccountDetail"), "2");
+}
+
 TEST_F(LedgerQuery, SignsBalancesAndTotalsCustomers) {
   Add({.number = "N1", .a = "100", .b = "30"});
   Add({.type2 = "2", .number = "N2", .a = "50"});

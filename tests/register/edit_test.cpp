@@ -242,6 +242,29 @@ TEST_F(RegisterEdit, RefusesToDeleteInTheOrderOfItsChecks) {
   EXPECT_EQ(Count("cards"), "3");
 }
 
+TEST_F(RegisterEdit, KeepsARecordWithMoreWarehouseRowsThanACountCanSay) {
+  world.Sql(
+      "With Recursive n(i) As (Select 1 Union All Select i+1 From n Where i<32768)"
+      " Insert Into tJXC_CkDj01 (fKhID,fInvNo) Select 2,'D' || i From n;");
+  Customers();
+  GoTo("华东电子");
+  Arm(3);
+  Save();
+  EXPECT_EQ(world.Messages(),
+            (Texts{"华东电子：已有[仓库出入记录]存在，必须先删除所有相关记录！"}));
+  EXPECT_EQ(Count("cards"), "3");
+}
+
+TEST_F(RegisterEdit, DeletesARecordWhereTheSuiteHasNoWarehouse) {
+  world.Sql("Drop Table tJXC_CkDj01; Drop Table tJXC_CkHt01;");
+  Customers();
+  GoTo("华东电子");
+  Arm(3);
+  world.Answer("ok");
+  Save();
+  EXPECT_EQ(Count("cards"), "2");
+}
+
 TEST_F(RegisterEdit, CountsOnlyEntriesOfItsOwnKindBeforeADelete) {
   AddEntries(kCustomers, 1, 1);
   Accounts();

@@ -30,6 +30,34 @@ TEST_F(RegisterGrid, ShowsTheFirstTypeForATypeOfFourOrMoreOrNone) {
   EXPECT_TRUE(form.optKhType(0).Selected());
 }
 
+TEST_F(RegisterGrid, NamesTheRecordWhoseTypeIsNoByteAndKeepsTheOneBefore) {
+  for (const char* code : {"256", "-1"}) {
+    world.Sql(std::string("Update cards Set fType0=") + code + " Where fID=3;");
+    frmZj& form = Customers();
+    GoTo("北方贸易");
+    world.headless.boxes.TakeErrors();
+    form.UserCell(form.Grid1, 2, 2);
+    EXPECT_EQ(world.headless.boxes.TakeErrors(),
+              (Texts{std::string("数据有误：大地五金 的类别代码 ") + code +
+                     " 不在 0 至 255 之间。请检查数据！"}));
+    EXPECT_EQ(form.lblKhName.Caption(), "北方贸易");
+    EXPECT_EQ(form.txtAcnt(1).Text(), "北方贸易");
+    form.UserClose();
+  }
+}
+
+TEST_F(RegisterGrid, TakesNoRecordWhoseIdIsNoNumber) {
+  Customers();
+  world.Sql(
+      "Create Table crafted As Select * From cards; Drop Table cards;"
+      "Alter Table crafted Rename To cards; Update cards Set fID='2 or 1=1' Where fID=2;");
+  frmZj& form = world.Form();
+  form.UserClick(form.cmdAcntRefresh);
+  EXPECT_EQ(world.headless.boxes.TakeErrors(),
+            (Texts{"数据有误：cards.fID 应为数字，现为“2 or 1=1”。未执行任何操作，请检查数据！"}));
+  EXPECT_EQ(world.One("Select count(*) From cards"), "3");
+}
+
 TEST_F(RegisterGrid, StartsTheFirstSortDescendingAndFlipsItThen) {
   frmZj& form = Customers();
   ASSERT_TRUE(form.UserHeader(form.Grid1, 1));
