@@ -67,13 +67,14 @@ void QtBoxes::DressBox(QDialog& dialog) const {
 }
 
 Answer QtBoxes::Show(const std::string& text, int style, const std::string& title,
-                     const std::string& /*detail*/) {
+                     const std::string& detail) {
   const view::BoxPlan plan = view::PlanBox(style, view::TextsOf(language_() == 1));
   const QPointer<QWidget> owner = Owner();
   Asked<QMessageBox> asked(owner);
   QMessageBox& box = asked.Get();
   box.setWindowTitle(FromUtf8(title));
   box.setTextFormat(Qt::PlainText);
+  box.setDetailedText(FromUtf8(detail));  // shown by a button of its own, none for ""
   box.setText(FromUtf8(text));
   if (!plan.sign.mark.empty()) box.setIconPixmap(Draw(plan.sign, box));
 

@@ -11,18 +11,30 @@ namespace qvzj::qt {
 
 namespace {
 
-struct EditText {
+struct NativeText {
   std::string_view source;
   std::string_view view::Texts::*text;
 };
 
-constexpr std::array kEditTexts{EditText{"&Undo", &view::Texts::undo},
-                                EditText{"&Redo", &view::Texts::redo},
-                                EditText{"Cu&t", &view::Texts::cut},
-                                EditText{"&Copy", &view::Texts::copy},
-                                EditText{"&Paste", &view::Texts::paste},
-                                EditText{"Delete", &view::Texts::erase},
-                                EditText{"Select All", &view::Texts::select_all}};
+constexpr std::array kEditTexts{NativeText{"&Undo", &view::Texts::undo},
+                                NativeText{"&Redo", &view::Texts::redo},
+                                NativeText{"Cu&t", &view::Texts::cut},
+                                NativeText{"&Copy", &view::Texts::copy},
+                                NativeText{"&Paste", &view::Texts::paste},
+                                NativeText{"Delete", &view::Texts::erase},
+                                NativeText{"Select All", &view::Texts::select_all}};
+
+/// A box asks for these, whichever way its detail stands.
+constexpr std::array kBoxTexts{NativeText{"Show Details...", &view::Texts::show_detail},
+                               NativeText{"Hide Details...", &view::Texts::hide_detail}};
+
+/// The module's own text for one of the toolkit's; null when there is none.
+template <size_t count>
+const NativeText* Find(const std::array<NativeText, count>& texts, std::string_view source) {
+  const auto* found = std::find_if(texts.begin(), texts.end(),
+                                   [&](const NativeText& text) { return text.source == source; });
+  return found == texts.end() ? nullptr : found;
+}
 
 }  // namespace
 
@@ -36,11 +48,10 @@ NativeTranslator::NativeTranslator(std::function<int()> language) : language_(st
 QString NativeTranslator::translate(const char* context, const char* source,
                                     const char* disambiguation, int number) const {
   const std::string_view place = context == nullptr ? "" : context;
-  if (place == "QLineEdit" || place == "QWidgetTextControl") {
-    const auto* found = std::find_if(kEditTexts.begin(), kEditTexts.end(),
-                                     [&](const EditText& text) { return text.source == source; });
-    if (found != kEditTexts.end()) return FromUtf8(view::TextsOf(language_() != 0).*(found->text));
-  }
+  const NativeText* own = nullptr;
+  if (place == "QLineEdit" || place == "QWidgetTextControl") own = Find(kEditTexts, source);
+  if (place == "QMessageBox") own = Find(kBoxTexts, source);
+  if (own != nullptr) return FromUtf8(view::TextsOf(language_() != 0).*(own->text));
   return toolkit_[language_() == 0 ? 0 : 1].translate(context, source, disambiguation, number);
 }
 

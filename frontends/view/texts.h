@@ -10,6 +10,7 @@ namespace qvzj::view {
 
 struct Texts {
   std::string_view ok, cancel, yes, no;
+  std::string_view show_detail, hide_detail;            ///< of the part of a box that opens
   std::string_view save, folder, file_name, file_type;  ///< of the question for a file
   std::string_view undo, redo, cut, copy, paste, erase, select_all;
   std::string_view copy_rows, find, find_next, export_grid, print, reset_columns;

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSettings>
+#include <QTextEdit>
 #include <QTimer>
 
 #include "frontends/qt/services.h"
@@ -138,6 +139,37 @@ TEST(Boxes, TakeALineOfText) {
     dialog.accept();
   });
   EXPECT_EQ(boxes.Input("口令", "t", "preset"), "第二口令");
+}
+
+TEST(Boxes, OpenTheirDetailOnRequestAndHaveNoButtonForNone) {
+  qt::NativeTranslator translator([] { return 0; });
+  QApplication::installTranslator(&translator);
+  qt::QtBoxes boxes([] { return 0; });
+  QStringList texts;
+  QString detail;
+  bool open = true;
+  WhenBoxComes([&](QDialog& dialog) {
+    texts = ButtonTexts(dialog);
+    auto* shown = dialog.findChild<QTextEdit*>();
+    ASSERT_NE(shown, nullptr);
+    open = shown->isVisible();
+    for (QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
+      if (button->text().startsWith("详情")) button->click();
+    }
+    if (shown->isVisible()) detail = shown->toPlainText();
+    dialog.accept();
+  });
+  boxes.Show("a", box::kCritical, "t", "disk full\nfree some room");
+  EXPECT_FALSE(open);
+  EXPECT_TRUE(texts.contains("详情(&D) >>")) << texts.join(' ').toStdString();
+  EXPECT_EQ(detail, "disk full\nfree some room");
+  WhenBoxComes([&](QDialog& dialog) {
+    texts = ButtonTexts(dialog);
+    dialog.accept();
+  });
+  boxes.Show("a", box::kCritical, "t");
+  EXPECT_EQ(texts, (QStringList{"确定"}));
+  QApplication::removeTranslator(&translator);
 }
 
 TEST(Boxes, AnswerNothingWhenTheInputIsCancelled) {
