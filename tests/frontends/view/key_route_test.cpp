@@ -161,9 +161,9 @@ bool IsHeld(const ui::Key& key) {
   return key.alt || (key.ctrl && !clipboard);
 }
 
-/// Keys with which native editors and lists move caret, selection and current row themselves; what
-/// comes of it reaches the form as a whole.
-bool IsMovement(const ui::Key& key) {
+/// Keys with which native editors and lists move caret, selection and current row or cut a text
+/// themselves; what comes of it reaches the form as a whole.
+bool IsNativesOwn(const ui::Key& key) {
   switch (key.name) {
     case Name::Left:
     case Name::Right:
@@ -174,12 +174,14 @@ bool IsMovement(const ui::Key& key) {
     case Name::PageUp:
     case Name::PageDown:
       return true;
+    case Name::Delete:
+      return key.shift;  // cuts
     default:
       return false;
   }
 }
 
-bool MovesItself(ui::Kind kind) {
+bool HasKeysOfItsOwn(ui::Kind kind) {
   return kind == ui::Kind::TextBox || kind == ui::Kind::ComboBox || kind == ui::Kind::ListBox ||
          kind == ui::Kind::Grid || kind == ui::Kind::DatePicker;
 }
@@ -200,7 +202,7 @@ TEST(KeyRoute, KeepsNoKeyFromTheFormThatTheWidgetDoesNotDoItself) {
     for (const ui::Key& key : AllKeys()) {
       Desk desk(each.kind, each.memo_or_editable);
       if (RouteOf(desk.control.get(), key) != KeyRoute::Native) continue;
-      if (memo || IsHeld(key) || (MovesItself(each.kind) && IsMovement(key))) continue;
+      if (memo || IsHeld(key) || (HasKeysOfItsOwn(each.kind) && IsNativesOwn(key))) continue;
       EXPECT_FALSE(desk.form.UserKey(key)) << each.name << ": " << Told(key);
     }
   }
