@@ -11,6 +11,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStyleOption>
@@ -308,11 +309,10 @@ void DateView::TakeComposed(const QString& text) {
   for (char32_t character : text.toUcs4()) SendKey(ui::Key::Character(character));
 }
 
-void DateView::PointAtPart() {
-  const QDateTimeEdit::Section at = native_->currentSection();
-  const ui::DatePart part = at == QDateTimeEdit::YearSection    ? ui::DatePart::Year
-                            : at == QDateTimeEdit::MonthSection ? ui::DatePart::Month
-                                                                : ui::DatePart::Day;
+void DateView::PointAtPart(int character) {
+  const ui::DatePart part = character < 5   ? ui::DatePart::Year
+                            : character < 8 ? ui::DatePart::Month
+                                            : ui::DatePart::Day;
   Act([&] { return GetForm().UserDatePart(picker_, part); });
   if (Live()) ShowKeyed();
 }
@@ -325,8 +325,11 @@ bool DateView::eventFilter(QObject* watched, QEvent* event) {
     TakeComposed(static_cast<QInputMethodEvent*>(event)->commitString());
     return true;
   }
-  // The press has put the native caret where the user points.
-  if (event->type() == QEvent::MouseButtonRelease && watched != native_) PointAtPart();
+  auto* line = qobject_cast<QLineEdit*>(watched);
+  if (event->type() == QEvent::MouseButtonRelease && line != nullptr) {
+    const QPoint at = static_cast<QMouseEvent*>(event)->position().toPoint();
+    PointAtPart(line->cursorPositionAt(at));
+  }
   return false;
 }
 

@@ -62,7 +62,8 @@ class DateView : public ControlView {
  private:
   void ShowKeyed();
   void TakeComposed(const QString& text);
-  void PointAtPart();
+  /// The user points at a character of the shown date.
+  void PointAtPart(int character);
 
   ui::DatePicker& picker_;
   DateEdit* native_;

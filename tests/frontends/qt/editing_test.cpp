@@ -318,18 +318,23 @@ TEST_F(Editing, ShowsAFieldThatRefusesAKeyForAMoment) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return !date.property(qt::kRefused).toBool(); }));
 }
 
-TEST_F(Editing, SaysAtADisabledButtonWhyItsKeyDoesNothing) {
-  form_.cmdAction(2).SetEnabled(false, "已审核的帐目不能修改。");
-  const std::string caption = form_.cmdAction(2).Caption();
-  const char32_t letter = ui::AccessKey(caption);
-  ASSERT_NE(letter, 0U) << caption;
-  form_.UserClick(form_.cmdAction(0));
-  form_.cmdAction(2).SetEnabled(false, "已审核的帐目不能修改。");
-  world_.Settle();
+TEST(DisabledButton, SaysWhyItsKeyDoesNothing) {
+  ui::Form form("frm");
+  form.SetSize(9000, 6000);
+  form.SetLoaded(true);
+  ui::TextBox box(form, "txt");
+  box.SetBounds({0, 0, 1500, 300});
+  ui::Button button(form, "cmd");
+  button.SetBounds({0, 600, 1500, 450});
+  button.SetCaption("修改(&M)");
+  button.SetEnabled(false, "已审核的帐目不能修改。");
+  qt::FormWindow window(form, {});
+  window.show();
+  window.activateWindow();
+  form.UserFocus(box);
+  WindowWorld::Settle();
   QToolTip::hideText();
-  ui::Key key = ui::Key::Character(letter);
-  key.alt = true;
-  form_.UserKey(key);
+  QTest::keyClick(window.ViewOf(box)->FocusWidget(), Qt::Key_M, Qt::AltModifier);
   EXPECT_TRUE(QToolTip::isVisible());
   EXPECT_EQ(QToolTip::text().toStdString(), "已审核的帐目不能修改。");
 }

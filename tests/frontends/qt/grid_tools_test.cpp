@@ -119,9 +119,9 @@ TEST_F(Tools, TellTheSumsBelowTheRowsAndTakeThemAwayWithThem) {
   ASSERT_TRUE(sums->isVisible());
   EXPECT_FALSE(sums->geometry().intersects(table_.geometry())) << "it hides no rows";
   EXPECT_EQ(sums->geometry().bottom(), view_.Pane()->rect().bottom());
-  form_.UserClick(form_.cmdAction(1));
-  world_.Settle();
   form_.UserClick(form_.cmdAction(0));
+  world_.Settle();
+  form_.UserClick(form_.cmdAcntCancel);
   world_.Settle();
   EXPECT_EQ(sums->geometry().bottom(), view_.Pane()->rect().bottom());
   form_.UserTab(form_.SSTab2, 1);
