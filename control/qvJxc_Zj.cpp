@@ -51,7 +51,7 @@ qvJxc_Zj::~qvJxc_Zj() {
   if (!form || !form->Loaded()) return;
   // The host is taking its screen down: no box may come up any more.
   DropData();
-  form->UserClose();
+  form->Close();
 }
 
 frmZj* qvJxc_Zj::Form() const { return form_ && form_->Loaded() ? form_.get() : nullptr; }

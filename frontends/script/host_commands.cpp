@@ -53,7 +53,7 @@ void Refresh(Script& script, const Arguments& arguments) {
 void Close(Script& script, const Arguments&) {
   frmZj* form = script.Control().Form();
   if (!form) throw ScriptError("no form is open");
-  form->UserClose();
+  form->Close();
 }
 
 void Today(Script& script, const Arguments& arguments) {

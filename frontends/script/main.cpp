@@ -96,7 +96,7 @@ int Play(const Options& options, std::istream& in) {
 #endif
     script.Run(in, [] { std::fflush(stdout); });
     failed = script.Failed();
-    if (frmZj* form = control.Form()) form->UserClose();
+    if (frmZj* form = control.Form()) form->Close();
   }
   ResetShared();
   Around() = {};

@@ -124,8 +124,11 @@ class Form : public std::enable_shared_from_this<Form> {
   bool UserCellDoubleClick(Grid& grid, int32_t column, int32_t row);
   bool UserRowHeight(Grid& grid, int32_t first, int32_t last, int32_t height);
   bool UserResize(int32_t width, int32_t height, WindowState state);
-  /// The window's close button or the host closes the form; works whatever field has the focus.
+  /// The user closes the form, by its window or a button; works whatever field has the focus,
+  /// unless onQueryClose objects.
   void UserClose();
+  /// The host closes the form: nobody is asked.
+  void Close();
 
   /// Runs `act` behind the guard. False when an error escaped and was reported. Inside another act
   /// it just runs: the outermost one catches and reports.
@@ -141,6 +144,8 @@ class Form : public std::enable_shared_from_this<Form> {
   /// An error escaped a user's act or the load; what() is the engine's or the module's text.
   std::function<void(const std::exception& error)> onError;
   std::function<void()> onResize;
+  /// The user wants to close the form; `cancel` keeps it open.
+  std::function<void(bool& cancel)> onQueryClose;
   std::function<void()> onUnload;
   /// Clipboard access for Ctrl+C, Ctrl+X and Ctrl+V in text boxes.
   std::function<std::string()> readClipboard;

@@ -88,6 +88,12 @@ bool Form::Choose(ComboBox& combo, int32_t index) {
   const auto count = static_cast<int64_t>(combo.Items().size());
   const int32_t lowest = combo.Clearable() ? -1 : 0;
   if (combo.Locked() || index < lowest || index >= count) return false;
+  bool cancel = false;
+  Raise(combo.onChoosing, index, cancel);
+  if (cancel) {
+    Notify(combo, Aspect::Value);  // a native list may show the other choice already
+    return false;
+  }
   combo.SetListIndex(index);
   Raise(combo.onClick);
   return true;
@@ -195,6 +201,14 @@ bool Form::UserResize(int32_t width, int32_t height, WindowState state) {
 }
 
 void Form::UserClose() {
+  Guard([this] {
+    bool cancel = false;
+    Raise(onQueryClose, cancel);
+    if (!cancel) Unload();
+  });
+}
+
+void Form::Close() {
   Guard([this] { Unload(); });
 }
 

@@ -159,6 +159,8 @@ class ComboBox : public EditBox {
   /// An item or text as the user sees it: cut to ShownLength, without trailing blanks.
   std::string Shown(const std::string& text) const;
 
+  /// The user is about to choose an item (-1: to clear the choice); `cancel` keeps the present one.
+  std::function<void(int32_t index, bool& cancel)> onChoosing;
   /// The user chose an item or cleared the choice.
   std::function<void()> onClick;
 

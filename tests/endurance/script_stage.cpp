@@ -57,7 +57,7 @@ ScriptStage::ScriptStage(const std::string& folder)
 }
 
 ScriptStage::~ScriptStage() {
-  if (frmZj* form = control.Form()) form->UserClose();
+  if (frmZj* form = control.Form()) form->Close();
   script_.reset();
   ResetShared();
   Around() = {};

@@ -25,7 +25,7 @@ World::World() {
 }
 
 World::~World() {
-  if (frmZj* form = control.Form()) form->UserClose();
+  if (frmZj* form = control.Form()) form->Close();
   ResetShared();
   Around() = {};
 }

@@ -340,6 +340,26 @@ TEST(ComboBox, RefusesAnItemThatIsNotThere) {
   EXPECT_EQ(screen.combo.Text(), "");
 }
 
+TEST(ComboBox, KeepsItsChoiceWhenTheHandlerObjects) {
+  Screen screen;
+  screen.combo.SetItems({"a", "b"});
+  screen.combo.SetListIndex(0);
+  int clicks = 0;
+  int32_t wanted = -1;
+  screen.combo.onClick = [&] { ++clicks; };
+  screen.combo.onChoosing = [&](int32_t index, bool& cancel) {
+    wanted = index;
+    cancel = true;
+  };
+  screen.changes.clear();
+  EXPECT_FALSE(screen.UserChoose(screen.combo, 1));
+  screen.Keys({"Down"});
+  EXPECT_EQ(wanted, 1);
+  EXPECT_EQ(screen.combo.Text(), "a");
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(screen.Told(screen.combo, Aspect::Value), 2);  // a native list shows the old one again
+}
+
 TEST(ComboBox, LosesItsChoiceWithItsList) {
   Screen screen;
   screen.combo.SetItems({"a"});

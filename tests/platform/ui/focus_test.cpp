@@ -263,6 +263,31 @@ TEST(Unload, IsRaisedOnceAndTellsTheFrontEnds) {
   EXPECT_FALSE(screen.Loaded());
 }
 
+TEST(Unload, ByTheUserWaitsForWhoeverObjects) {
+  Screen screen;
+  bool objects = true;
+  int asked = 0;
+  screen.SetLoaded(true);
+  screen.onQueryClose = [&](bool& cancel) {
+    ++asked;
+    cancel = objects;
+  };
+  screen.UserClose();
+  EXPECT_TRUE(screen.Loaded());
+  objects = false;
+  screen.UserClose();
+  EXPECT_FALSE(screen.Loaded());
+  EXPECT_EQ(asked, 2);
+}
+
+TEST(Unload, ByTheHostAsksNobody) {
+  Screen screen;
+  screen.SetLoaded(true);
+  screen.onQueryClose = [](bool& cancel) { cancel = true; };
+  screen.Close();
+  EXPECT_FALSE(screen.Loaded());
+}
+
 TEST(Unload, WorksWhileAFieldFailsValidation) {
   Screen screen;
   screen.text.onValidate = [](bool& cancel) { cancel = true; };
