@@ -6,6 +6,7 @@
 #include "ledger/print.h"
 #include "register/list.h"
 #include "register/search.h"
+#include "register/unsaved.h"
 #include "screen/frmZj.h"
 #include "services/connect.h"
 #include "services/context.h"
@@ -64,9 +65,14 @@ int16_t frmZj::State() const { return runMode; }
 
 void frmZj::State(int16_t run_mode) {
   const int16_t previous = mode;
+  const int16_t next = StateOf(run_mode) == kCustomers ? kCustomers : kAccounts;
+  const bool turns = Loaded() && next != previous;
+  // What the user is keying in an open form goes before the host's wish.
+  if (turns && !MayCloseForm(*this)) return;
+  if (Loaded() && !turns && run_mode == kRunNamedCustomer && !MayLeaveRecord(*this)) return;
   runMode = StateOf(run_mode);
-  mode = runMode == kCustomers ? kCustomers : kAccounts;
-  if (Loaded() && mode != previous) StartAnew(*this);
+  mode = next;
+  if (turns) StartAnew(*this);
   if (run_mode == kRunNamedCustomer) OpenNamedCustomer(*this);
 }
 

@@ -4,8 +4,10 @@
 #include "screen/frmZj.h"
 #include "screen/indexes.h"
 #include "services/context.h"
+#include "services/form_texts.h"
 #include "services/gate.h"
 #include "services/query.h"
+#include "services/strings.h"
 
 namespace qvzj {
 namespace {
@@ -20,7 +22,7 @@ std::string CardAddingFunction() {
 // Where nobody is logged in yet, the gate lets the user log in first; each function asks for
 // itself.
 void Ask(ui::Control& control, const std::string& function) {
-  control.SetEnabled(ModuleGate(function, 0, false) > 0);
+  control.SetEnabled(ModuleGate(function, 0, false) > 0, LoadText(form_text::kNoPermission));
 }
 
 void EnableAll(frmZj& form) {
@@ -37,7 +39,8 @@ void ApplyGates(frmZj& form) {
   EnableAll(form);
   if (Shared().UserName == Shared().ZgName) return;
   Ask(form.cmdManage, form.mode == kCustomers ? "mnuZjComp" : "mnuZjAcnt");
-  form.mnuKh.SetEnabled(form.cmdManage.Enabled());  // the button's menu has no other way in
+  form.mnuKh.SetEnabled(form.cmdManage.Enabled(),
+                        form.cmdManage.DisabledReason());  // the button's menu has no other way in
   if (form.mode == kCustomers) Ask(form.mnuKhManage(RecordAction::Add), CardAddingFunction());
   Ask(form.mnuKhContact, "mnuCardPlan");
   Ask(form.cmdKhPrint, "mnuCardPrint");

@@ -16,6 +16,7 @@
 #include "register/grid.h"
 #include "register/list.h"
 #include "register/search.h"
+#include "register/unsaved.h"
 #include "screen/design.h"
 #include "screen/frmZj.h"
 #include "screen/indexes.h"
@@ -40,8 +41,9 @@ void ConnectForm(frmZj& form) {
   form.onUnload = [&form] { CloseForm(form); };
   form.readClipboard = [] { return Around().clipboard->Text(); };
   form.writeClipboard = [](const std::string& text) { Around().clipboard->SetText(text); };
-  form.cmdExit.onClick = [&form] { form.Unload(); };
-  form.cmdTitleClose.onClick = [&form] { form.Unload(); };
+  form.onQueryClose = [&form](bool& cancel) { cancel = !MayCloseForm(form); };
+  form.cmdExit.onClick = [&form] { form.UserClose(); };
+  form.cmdTitleClose.onClick = [&form] { form.UserClose(); };
 
   ConnectRegisterList(form);
   ConnectRegisterGrid(form);

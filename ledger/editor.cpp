@@ -4,6 +4,7 @@
 
 #include "ledger/entry.h"
 #include "ledger/fields.h"
+#include "ledger/unsaved.h"
 #include "ledger/voucher.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
@@ -14,6 +15,7 @@
 #include "screen/keys.h"
 #include "screen/layout.h"
 #include "services/context.h"
+#include "services/form_texts.h"
 #include "services/query.h"
 
 namespace qvzj {
@@ -190,6 +192,7 @@ void ArrangeEditor(frmZj& form) {
 }
 
 void PressAction(frmZj& form, int action) {
+  if (!MayGiveUpEntry(form)) return;
   if (action != kActionNew) {
     if (form.Grid2.RowCount() > 0) {
       ShowLedgerRow(form, form.Grid2.ActiveRow());
@@ -203,11 +206,12 @@ void PressAction(frmZj& form, int action) {
   if (action == kActionNew) ResetEntry(form);
   form.currentAction = action;
   // Before the locks, which look at it: an entry that cannot be saved stays locked.
-  form.cmdAcntSave.SetEnabled(action > kActionView);
+  form.cmdAcntSave.SetEnabled(action > kActionView, LoadText(form_text::kNothingToSave));
   LockEntry(form, action);
   if (!form.picAcnt.Visible()) {
     form.picAcnt.SetVisible(true);
     LayoutEditor(form);
+    form.Grid2.ShowActive();  // the editor has taken the room of some rows
     form.SetFocus(form.txtAcnt2(EntryBox::Number));
   }
   FocusForAction(form, action);
@@ -228,11 +232,13 @@ void ResetEntry(frmZj& form) {
   if (form.mode != kCustomers) ShowOpeningAmount(form, false);
   TakeCurrentRecord(form);
   ClearLink(form);
+  EntryAtRest(form);
 }
 
 void OfferSave(frmZj& form) {
   const int armed = ArmedAction(form);
-  form.cmdAcntSave.SetEnabled(form.cmdAction(armed).Enabled());
+  const ui::Button& button = form.cmdAction(armed);
+  form.cmdAcntSave.SetEnabled(button.Enabled(), button.DisabledReason());
   LockEntry(form, form.currentAction);
 }
 

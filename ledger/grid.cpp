@@ -2,6 +2,7 @@
 
 #include "ledger/columns.h"
 #include "ledger/editor.h"
+#include "ledger/unsaved.h"
 #include "platform/basic/number.h"
 #include "platform/surroundings.h"
 #include "screen/frmZj.h"
@@ -38,9 +39,14 @@ void TabClicked(frmZj& form, int previous) {
   }
 }
 
-void RowEntered(frmZj& form, int32_t row) {
-  if (row < 1) return;
-  ShowLedgerRow(form, row);
+// A new entry that is being keyed stays in the editor: the row is only marked, and its actions are
+// offered. Loading the row over it would lose what was typed and book an old entry once more.
+void RowEntered(frmZj& form, int32_t row, int32_t new_row, bool& cancel) {
+  if (new_row < 1 || new_row == row) return;
+  if (KeyingNewEntry(form)) return OfferActions(form, new_row);
+  cancel = !MayGiveUpEntry(form);
+  if (cancel) return;
+  ShowLedgerRow(form, new_row);
   OfferSave(form);
   form.SetFocus(form.Grid2);
 }
@@ -54,8 +60,8 @@ void ConnectLedgerGrid(frmZj& form) {
   form.Grid2.onDblClick = [&form](int32_t, int32_t row) {
     if (row >= 1) PressAction(form, kActionView);
   };
-  form.Grid2.onLeaveCell = [&form](int32_t, int32_t, int32_t, int32_t new_row, bool&) {
-    RowEntered(form, new_row);
+  form.Grid2.onLeaveCell = [&form](int32_t, int32_t row, int32_t, int32_t new_row, bool& cancel) {
+    RowEntered(form, row, new_row, cancel);
   };
   form.Grid2.onRowHeight = [&form](int32_t, int32_t, int32_t height) {
     form.Grid2.SetRowHeight(height);

@@ -6,6 +6,7 @@
 #include "ledger/editor.h"
 #include "ledger/grid.h"
 #include "ledger/subject.h"
+#include "ledger/unsaved.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/number.h"
 #include "screen/current.h"
@@ -113,9 +114,12 @@ void ReportMissing(const MissingAmounts& missing) {
           box::kExclamation);
 }
 
+// What is being keyed is not shown over: a reload only marks its row.
+bool EntryStays(const frmZj& form) { return KeyingNewEntry(form) || EntryUnsaved(form); }
+
 void ShowSelected(frmZj& form, const ReadyLedger& ledger) {
   form.Grid2.SetActive(1, ledger.selected);
-  if (KeyingNewEntry(form)) {
+  if (EntryStays(form)) {
     OfferActions(form, ledger.selected);
   } else {
     ShowLedgerRow(form, ledger.selected, ledger.currency);
@@ -158,7 +162,7 @@ ReadyLedger ReadLedger(const frmZj& form, const std::string& condition, const st
   NameOrphans(ledger.rows);
   const Column& ids = ledger.rows.At(col::kID);
   ledger.selected = RowToSelect(form, ids, record);
-  if (!KeyingNewEntry(form)) {
+  if (!EntryStays(form)) {
     ledger.currency = ReadCurrency(ids.Text(static_cast<size_t>(ledger.selected - 1)));
   }
   return ledger;

@@ -1,11 +1,13 @@
 #include "ledger/save.h"
 
 #include "ledger/actions.h"
+#include "ledger/columns.h"
 #include "ledger/editor.h"
 #include "ledger/entry.h"
 #include "ledger/filter.h"
 #include "ledger/query.h"
 #include "ledger/unchanged.h"
+#include "ledger/unsaved.h"
 #include "ledger/voucher.h"
 #include "platform/basic/number.h"
 #include "platform/data/errors.h"
@@ -50,6 +52,7 @@ void CancelEntry(frmZj& form) {
   form.currentAction = kActionView;
   form.cmdAcntSave.SetTag(std::to_string(kActionView));
   LockEntry(form, kActionView);
+  form.Grid2.ShowActive();
   form.SetFocus(form.Grid2);
   // What was keyed and not saved must not come back with the next look at the entry.
   ShowLedgerRow(form, form.Grid2.ActiveRow());
@@ -60,6 +63,7 @@ void CancelEntry(frmZj& form) {
 bool CheckEntryAsShown(frmZj& form) {
   if (EntryUnchanged(form)) return true;
   const std::string id = ShownEntryId(form);
+  EntryAtRest(form);  // what was typed belongs to an entry that is there no more
   LoadLedger(form, LedgerCondition(form));
   if (form.Grid2.RowCount() == 0 || ShownEntryId(form) != id) CancelEntry(form);
   ReportChangedMeanwhile();
@@ -145,11 +149,38 @@ bool Run(const frmZj& form, const Commit& commit) {
   }
 }
 
+// The row of the new entry of that number that was stored last; 0 where the filter hides it.
+int32_t RowOfNewEntry(const frmZj& form, const std::string& number) {
+  const basic::Column& numbers = form.Grid2.Stored(ledger_column::kNumber);
+  const basic::Column& ids = form.Grid2.Stored(ledger_column::kID);
+  size_t found = 0;
+  double last = 0;
+  for (size_t row = 0; row < ids.Size(); ++row) {
+    if (ids.Number(row) <= last || numbers.Text(row) != number) continue;
+    last = ids.Number(row);
+    found = row + 1;
+  }
+  return static_cast<int32_t>(found);
+}
+
+// The entry that was just stored becomes the current row of the ledger, also for later reloads.
+void ShowSaved(frmZj& form, const std::string& number) {
+  const int32_t row = RowOfNewEntry(form, number);
+  if (row == 0) return;
+  form.Grid2.SetActive(form.Grid2.ActiveColumn(), row);
+  form.chkAcntInit.SetTag(form.Grid2.CellText(ledger_column::kID, row));
+  OfferActions(form, row);
+  form.Grid2.MarkRow(row);
+}
+
 }  // namespace
 
 void ConnectSave(frmZj& form) {
   form.cmdAcntSave.onClick = [&form] { SaveEntry(form); };
   form.cmdAcntCancel.onClick = [&form] { CancelEntry(form); };
+  form.picAcnt.onEscape = [&form](bool&) {
+    if (MayGiveUpEntry(form)) CancelEntry(form);
+  };
 }
 
 void SaveEntry(frmZj& form) {
@@ -157,9 +188,12 @@ void SaveEntry(frmZj& form) {
   if (action == kActionView) return;
   const std::optional<Commit> commit = Prepare(form, action);
   if (!commit) return;
-  if (Run(form, *commit)) Report(form, *commit);
+  const bool done = Run(form, *commit);
+  EntryAtRest(form);
+  if (done) Report(form, *commit);
   LoadLedger(form, LedgerCondition(form));
   if (action == kActionNew) {
+    ShowSaved(form, form.txtAcnt2(EntryBox::Number).Text());
     ResetEntry(form);
     form.SetFocus(form.dtpAcntDate);
   }

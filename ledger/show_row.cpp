@@ -1,6 +1,7 @@
 #include "ledger/columns.h"
 #include "ledger/editor.h"
 #include "ledger/entry.h"
+#include "ledger/unsaved.h"
 #include "ledger/voucher.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
@@ -9,6 +10,7 @@
 #include "screen/frmZj.h"
 #include "screen/indexes.h"
 #include "services/connect.h"
+#include "services/form_texts.h"
 #include "services/strings.h"
 #include "services/text_ids.h"
 
@@ -106,6 +108,7 @@ void ShowLedgerRow(frmZj& form, int32_t row, const std::optional<std::string>& c
   form.cmdAcntCancel.SetTag(CellText(form, col::kNumber, row));
   ShowCurrency(form, row, currency);
   RememberEntry(form, row, currency);
+  EntryAtRest(form);
   OfferActions(form, row);
   ShowTitle(form);
   const int armed = ArmedAction(form);
@@ -118,8 +121,8 @@ void ShowLedgerRow(frmZj& form, int32_t row, const std::optional<std::string>& c
 
 void OfferActions(frmZj& form, int32_t row) {
   const bool checked = !CellText(form, col::kChecker, row).empty();
-  form.cmdAction(kActionChange).SetEnabled(!checked);
-  form.cmdAction(kActionDelete).SetEnabled(!checked);
+  form.cmdAction(kActionChange).SetEnabled(!checked, LoadText(form_text::kEntryIsChecked));
+  form.cmdAction(kActionDelete).SetEnabled(!checked, LoadText(form_text::kEntryIsChecked));
   ui::Button& check = form.cmdAction(kActionCheck);
   check.SetCaption(LoadText(text_id::kEntry) +
                    LoadText(checked ? text_id::kUncheck : text_id::kCheck) +

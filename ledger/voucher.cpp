@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "ledger/unsaved.h"
 #include "screen/current.h"
 #include "screen/frmZj.h"
 #include "screen/indexes.h"
@@ -46,6 +47,7 @@ bool Typed(const frmZj& form) {
 void ProposeNumber(frmZj& form) {
   form.proposedNumber = NextNumber(form.dtpAcntDate.Value(), form.numberTemplate, kLedgerNumber);
   form.txtAcnt2(EntryBox::Number).SetText(form.proposedNumber);
+  NumberAtRest(form);
   ShowUse(form, 0);
 }
 

@@ -6,6 +6,7 @@
 #include "platform/basic/number.h"
 #include "platform/surroundings.h"
 #include "register/table.h"
+#include "register/unsaved.h"
 #include "screen/current.h"
 #include "screen/frmZj.h"
 #include "screen/layout.h"
@@ -25,11 +26,22 @@ void HideDetail(frmZj& form) {
   LayoutLedgerSide(form);
 }
 
+// The frame's button and Esc lose nothing unasked; the cancel button says that it does.
+void LeaveDetail(frmZj& form) {
+  if (MayGiveUpDetail(form)) HideDetail(form);
+}
+
 void ToggleDetail(frmZj& form) {
-  if (form.fraKhMemo.Visible()) return HideDetail(form);
+  if (form.fraKhMemo.Visible()) return LeaveDetail(form);
   LoadRegisterDetail(form, CurrentRecordId(form));
   form.fraKhMemo.SetVisible(true);
   LayoutLedgerSide(form);
+  form.Grid2.ShowActive();  // the frame has taken the room of some rows
+  form.SetFocus(form.txtKhMemo);
+}
+
+void OfferNoSave(frmZj& form) {
+  form.cmdSave.SetEnabled(false, LoadText(form_text::kDetailUnchanged));
 }
 
 TaskCall ContactOf(const frmZj& form) {
@@ -67,6 +79,7 @@ data::RowTexts ReadRegisterDetail(const frmZj& form, const std::string& id) {
 void ShowRegisterDetail(frmZj& form, data::RowTexts&& detail) {
   form.txtKhMemo.SetText(detail.empty() ? "" : detail.front().value_or(""));
   form.detailRow = std::move(detail);
+  DetailAtRest(form);
 }
 
 void LoadRegisterDetail(frmZj& form, const std::string& id) {
@@ -90,14 +103,17 @@ void SaveRegisterDetail(frmZj& form) {
 }
 
 void ConnectRegisterDetail(frmZj& form) {
+  OfferNoSave(form);
   form.cmdKhMemo.onClick = [&form] { ToggleDetail(form); };
   form.cmdCancel.onClick = [&form] { HideDetail(form); };
   form.txtKhMemo.onChange = [&form] { form.cmdSave.SetEnabled(true); };
   form.cmdSave.onClick = [&form] {
     if (!HasCurrentRecord(form) || !NoQuote(form.txtKhMemo.Text())) return;
     SaveRegisterDetail(form);
-    form.cmdSave.SetEnabled(false);
+    DetailAtRest(form);
+    OfferNoSave(form);
   };
+  form.fraKhMemo.onEscape = [&form](bool&) { LeaveDetail(form); };
   form.mnuKhContact.onClick = [&form] { OpenContact(form); };
 }
 

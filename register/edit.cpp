@@ -6,9 +6,11 @@
 #include "ledger/captions.h"
 #include "ledger/fields.h"
 #include "ledger/unchanged.h"
+#include "ledger/unsaved.h"
 #include "register/grid.h"
 #include "register/list.h"
 #include "register/table.h"
+#include "register/unsaved.h"
 #include "screen/current.h"
 #include "screen/design.h"
 #include "screen/frmZj.h"
@@ -208,12 +210,17 @@ std::optional<Commit> Prepare(frmZj& form) {
 
 // Arms `action` (RecordAction) on the record page.
 void ArmRecordAction(frmZj& form, int action) {
+  if (!MayGiveUpRecord(form)) return;
   // An action that was armed before may have emptied or changed the boxes.
-  if (form.cmdKhSave.Visible()) ShowRecord(form);
+  if (form.cmdKhSave.Visible()) {
+    DisarmRecord(form);
+    ShowRecord(form);
+  }
   form.cmdKhSave.SetTag(std::to_string(action));
   form.cmdKhSave.SetCaption(form.mnuKhManage(action).Caption());
   ShowRecordButtons(form, true);
   if (action == RecordAction::Add) EmptyRecord(form);
+  RecordAtRest(form);
   LockRecord(form, action == RecordAction::Delete);
   form.SSTab1.SetTab(RegisterTab::Record);
   form.SetFocus(form.txtAcnt(RecordBox::Code));
@@ -229,6 +236,7 @@ void SaveRecord(frmZj& form) {
   // A record that is gone must not stay current where no other takes its place.
   if (ArmedRecordAction(form) == RecordAction::Delete) {
     ForgetRecord(form);
+    RecordOfEntryAtRest(form);
     CaptionNoRecord(form);
   }
   LoadRegister(form, form.registerCondition);
@@ -254,6 +262,10 @@ void ConnectRegisterEdit(frmZj& form) {
   }
   form.cmdKhSave.onClick = [&form] { SaveRecord(form); };
   form.cmdKhCancel.onClick = [&form] { LeaveRecordEditing(form); };
+  form.SSTab1.onEscape = [&form](bool& used) {
+    used = form.cmdKhCancel.OnScreen();
+    if (used && MayGiveUpRecord(form)) LeaveRecordEditing(form);
+  };
   for (int i = 0; i < form.txtAcnt.Count(); ++i) ConnectKeys(form.txtAcnt(i));
   for (int i = 0; i < form.optKhType.Count(); ++i) EnterWalksOn(form.optKhType(i));
 }

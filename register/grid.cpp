@@ -8,9 +8,11 @@
 #include "ledger/filter.h"
 #include "ledger/grid.h"
 #include "ledger/query.h"
+#include "ledger/unsaved.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/number.h"
 #include "register/detail.h"
+#include "register/unsaved.h"
 #include "screen/current.h"
 #include "screen/frmZj.h"
 #include "screen/indexes.h"
@@ -48,19 +50,28 @@ data::RowTexts RecordInRow(const frmZj& form, int32_t row) {
   return texts;
 }
 
-// The detail of a record that is about to become the current one; nothing while the frame is shut.
+// The detail of a record that is about to become the current one; nothing while the frame is shut,
+// or while the text of the same record is unsaved there.
 std::optional<data::RowTexts> DetailToShow(const frmZj& form, const std::string& id) {
   if (!form.fraKhMemo.Visible()) return std::nullopt;
+  if (id == CurrentRecordId(form) && DetailUnsaved(form)) return std::nullopt;
   return ReadRegisterDetail(form, id);
 }
 
-void ShowRecord(frmZj& form, int32_t row, std::optional<data::RowTexts>&& detail) {
+// The record of a row in the boxes of the record page.
+void ShowBoxes(frmZj& form, int32_t row) {
   const int type = TypeInRow(form, row);
   for (int i = 0; i < form.txtAcnt.Count(); ++i) {
     form.txtAcnt(i).SetText(form.Grid1.CellText(i + 1, row));
   }
   if (form.mode == kCustomers) form.optKhType(type).Select();
-  form.lblKhName.SetCaption(form.txtAcnt(RecordBox::Name).Text());
+  RecordAtRest(form);
+}
+
+// A new record that is being keyed keeps the boxes, whatever record becomes the current one.
+void ShowRecord(frmZj& form, int32_t row, std::optional<data::RowTexts>&& detail) {
+  if (!KeyingNewRecord(form)) ShowBoxes(form, row);
+  form.lblKhName.SetCaption(form.Grid1.CellText(RecordBox::Name + 1, row));
   form.lblKhName.SetTag(IdInRow(form, row));
   form.recordRow = RecordInRow(form, row);
   if (detail) ShowRegisterDetail(form, std::move(*detail));
@@ -84,20 +95,20 @@ bool EntryIsKeyed(const frmZj& form) {
 
 // The entry that is being keyed follows the register: it moves to the new record, and its
 // direction to what the record is for (a supplier is paid, a sales dealer pays).
-void CarryIntoEntry(frmZj& form) {
+void CarryIntoEntry(frmZj& form, int type) {
   form.txtAcnt2(EntryBox::Record).SetText(form.lblKhName.Caption());
   form.txtAcnt2(EntryBox::Record).SetTag(CurrentRecordId(form));
-  if (form.optKhType(CustomerType::Supplier).Selected() &&
-      !form.optType2(Direction::Out).Selected())
-    form.optType2(Direction::Out).Select();
-  if (form.optKhType(CustomerType::Dealer).Selected() && !form.optType2(Direction::In).Selected())
-    form.optType2(Direction::In).Select();
+  if (type == CustomerType::Supplier) form.optType2(Direction::Out).Select();
+  if (type == CustomerType::Dealer) form.optType2(Direction::In).Select();
+  RecordOfEntryAtRest(form);
 }
 
 // Whatever can fail comes first: a record whose detail or ledger cannot be read does not become the
 // current one, and everything on the screen goes on naming the one before.
-void EnterRow(frmZj& form, int32_t row, int32_t new_row) {
+void EnterRow(frmZj& form, int32_t row, int32_t new_row, bool& cancel) {
   if (new_row == row || new_row < 1) return;
+  cancel = !MayLeaveRecord(form);
+  if (cancel) return;
   const std::string id = IdInRow(form, new_row);
   std::optional<data::RowTexts> detail;
   std::optional<ReadyLedger> ledger;
@@ -109,7 +120,7 @@ void EnterRow(frmZj& form, int32_t row, int32_t new_row) {
     }
   }
   ShowRecord(form, new_row, std::move(detail));
-  if (EntryIsKeyed(form)) CarryIntoEntry(form);
+  if (EntryIsKeyed(form)) CarryIntoEntry(form, TypeInRow(form, new_row));
   if (ledger) ShowLedger(form, std::move(*ledger));
 }
 
@@ -126,8 +137,8 @@ void ConnectRegisterGrid(frmZj& form) {
   form.Grid1.onDblClick = [&form](int32_t, int32_t row) {
     if (row > 0) form.SSTab1.SetTab(RegisterTab::Record);
   };
-  form.Grid1.onLeaveCell = [&form](int32_t, int32_t row, int32_t, int32_t new_row, bool&) {
-    EnterRow(form, row, new_row);
+  form.Grid1.onLeaveCell = [&form](int32_t, int32_t row, int32_t, int32_t new_row, bool& cancel) {
+    EnterRow(form, row, new_row, cancel);
   };
 }
 

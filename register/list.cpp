@@ -10,6 +10,7 @@
 #include "platform/basic/text.h"
 #include "register/grid.h"
 #include "register/table.h"
+#include "register/unsaved.h"
 #include "screen/current.h"
 #include "screen/frmZj.h"
 #include "screen/indexes.h"
@@ -151,7 +152,12 @@ void ReorderLists(frmZj& form) {
 }  // namespace
 
 void ConnectRegisterList(frmZj& form) {
-  form.cmdAcntRefresh.onClick = [&form] { LoadRegister(form, form.registerCondition); };
+  form.cmdAcntRefresh.onClick = [&form] {
+    if (MayLeaveRecord(form)) LoadRegister(form, form.registerCondition);
+  };
+  for (ui::ComboBox* list : {&form.cboHb2, &form.cboKhOrder}) {
+    list->onChoosing = [&form](int32_t, bool& cancel) { cancel = !MayLeaveRecord(form); };
+  }
   form.cboHb2.onClick = [&form] {
     // A code that would break the statement is no filter.
     if (!NoQuote(form.cboHb2.Text())) form.cboHb2.SetListIndex(-1);

@@ -4,6 +4,7 @@
 #include "ledger/filter.h"
 #include "ledger/query.h"
 #include "register/list.h"
+#include "register/unsaved.h"
 #include "screen/frmZj.h"
 #include "screen/indexes.h"
 #include "screen/keys.h"
@@ -73,7 +74,9 @@ void SearchRecord(frmZj& form, const std::string& record) {
 void ConnectRegisterSearch(frmZj& form) {
   for (int i = 0; i < form.chkSeek.Count(); ++i) ConnectSearchRow(form, i);
   for (int i = 0; i < form.optSeek.Count(); ++i) EnterJumpsTo(form.optSeek(i), form.cmdKhSeek);
-  form.cmdKhSeek.onClick = [&form] { SearchRegister(form); };
+  form.cmdKhSeek.onClick = [&form] {
+    if (MayLeaveRecord(form)) SearchRegister(form);
+  };
   for (int i = 0; i < form.OptSelect.Count(); ++i) {
     EnterJumpsTo(form.OptSelect(i), form.cmdKhSeek);
     form.OptSelect(i).onClick = [&form] { LoadLedger(form, LedgerCondition(form)); };

@@ -196,6 +196,7 @@ void ResetLedger(frmZj& form) {
   form.proposedNumber.clear();
   form.lblNumberUse.SetVisible(false);
   form.lblAcnt2(EntryBox::Checker).SetVisible(true);
+  form.entryAtRest.clear();
   form.chkAcntInit.SetTag("0");
   form.cboAcntName.SetTag("0");
   form.cmdAcntSave.SetTag("0");

@@ -71,6 +71,11 @@ struct frmZj : ui::Form {
   data::RowTexts recordRow;
   data::RowTexts detailRow;
   std::string proposedNumber;  ///< voucher number last proposed for a new entry, "" for none
+  /// What the entry editor, the record page and the detail text held when nothing was typed into
+  /// them since they were shown, reset or saved; what differs from it is unsaved.
+  std::vector<std::string> entryAtRest;
+  std::vector<std::string> recordAtRest;
+  std::string detailAtRest;
 
   // Left: order, register, record page, search.
   ui::Frame fraOrder{*this, "fraOrder"};

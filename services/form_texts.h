@@ -39,6 +39,15 @@ inline constexpr BothTexts kMissingAmounts = {
     "帐目金额为空，无法列出帐目，请先更正数据！空金额帐目笔数: ",
     "帳目金額為空，無法列出帳目，請先更正數據！空金額帳目筆數: "};
 inline constexpr BothTexts kFirstOfThem = {"第一笔: ", "第一筆: "};
+/// Behind the names of what is unsaved, each in brackets.
+inline constexpr BothTexts kNotSaved = {"尚未存盘，放弃所键入的内容 ?",
+                                        "尚未保存，放棄所鍵入的內容 ?"};
+// Why a button cannot be pressed.
+inline constexpr BothTexts kEntryIsChecked = {"帐目已审核，须先反审核", "帳目已審核，須先反審核"};
+inline constexpr BothTexts kNothingToSave = {"正在查看帐目，没有可存盘的内容",
+                                             "正在查看帳目，沒有可保存的內容"};
+inline constexpr BothTexts kDetailUnchanged = {"详情没有改动，无须存盘", "詳情沒有改動，無須保存"};
+inline constexpr BothTexts kNoPermission = {"您没有此项功能的权限", "您沒有此項功能的權限"};
 inline constexpr BothTexts kNoTaskComponent = {"联系记录组件 [qvTask] 未安装 !",
                                                "聯系記錄組件 [qvTask] 未安裝 !"};
 

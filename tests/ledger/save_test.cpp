@@ -211,13 +211,14 @@ TEST_F(EntrySave, MovesAnEntryToTheRecordThatTheRegisterWentTo) {
   EXPECT_EQ(world.One("select fCompID from tAccountDetail where fID=" + id), "2");
 }
 
-TEST_F(EntrySave, StoresAnUncheckedEntryWhateverWasShownBefore) {
-  Add({.a = "1", .checker = "'王'"});
+TEST_F(EntrySave, StoresAnUncheckedEntryWhateverRowIsMarkedMeanwhile) {
+  Add({.a = "1"});
+  Add({.number = "N2", .a = "1", .checker = "'王'"});
   frmZj& form = KeyNew();
-  form.UserCell(form.Grid2, 2, 1);
-  EXPECT_EQ(form.lblSHR.Caption(), "王");
+  form.UserCell(form.Grid2, 2, 2);
+  EXPECT_EQ(form.lblSHR.Caption(), "");
   Save(form);
-  EXPECT_EQ(Count(), "2");
+  EXPECT_EQ(Count(), "3");
   EXPECT_EQ(world.One("select count(*) from tAccountDetail where fChecker<>''"), "1");
 }
 
