@@ -59,6 +59,16 @@ void StartAnew(frmZj& form) {
   }
 }
 
+// What the user is keying in an open form goes before the host's wish: the form is asked under its
+// own title, and keeps it where it stays as it is.
+bool MayTurn(frmZj& form, bool to_other_register, bool to_named_customer) {
+  std::string wanted = std::exchange(Shared().Title, form.title);
+  if (to_other_register && !MayCloseForm(form)) return false;
+  if (!to_other_register && to_named_customer && !MayLeaveRecord(form)) return false;
+  Shared().Title = std::move(wanted);
+  return true;
+}
+
 }  // namespace
 
 int16_t frmZj::State() const { return runMode; }
@@ -67,9 +77,7 @@ void frmZj::State(int16_t run_mode) {
   const int16_t previous = mode;
   const int16_t next = StateOf(run_mode) == kCustomers ? kCustomers : kAccounts;
   const bool turns = Loaded() && next != previous;
-  // What the user is keying in an open form goes before the host's wish.
-  if (turns && !MayCloseForm(*this)) return;
-  if (Loaded() && !turns && run_mode == kRunNamedCustomer && !MayLeaveRecord(*this)) return;
+  if (Loaded() && !MayTurn(*this, turns, run_mode == kRunNamedCustomer)) return;
   runMode = StateOf(run_mode);
   mode = next;
   if (turns) StartAnew(*this);
@@ -82,7 +90,10 @@ void frmZj::getListJBR(int16_t source) {
                               : "select fName from tRsBasic Order By fName");
   std::vector<std::string> names;
   for (; !rows.Eof(); rows.MoveNext()) names.push_back(rows.Text(0));
+  // Filling a list empties its text, which the user may be typing.
+  const std::string typed = cboDoneMan.Text();
   cboDoneMan.SetItems(std::move(names));
+  cboDoneMan.SetText(typed);
 }
 
 void frmZj::getListAcnt() { LoadAccountNames(*this); }

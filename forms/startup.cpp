@@ -157,6 +157,7 @@ void StartUp(frmZj& form) {
 void LoadForm(frmZj& form) {
   if (form.Loaded()) return;
   StartUp(form);
+  form.title = Shared().Title;
   form.SetLoaded(true);
 }
 

@@ -149,6 +149,11 @@ bool Run(const frmZj& form, const Commit& commit) {
   }
 }
 
+bool Holds(const basic::Column& texts, size_t row, const std::string& text) {
+  if (texts.GetKind() == basic::Column::Kind::Text) return texts.TextView(row) == text;
+  return texts.Text(row) == text;
+}
+
 // The row of the new entry of that number that was stored last; 0 where the filter hides it.
 int32_t RowOfNewEntry(const frmZj& form, const std::string& number) {
   const basic::Column& numbers = form.Grid2.Stored(ledger_column::kNumber);
@@ -156,7 +161,7 @@ int32_t RowOfNewEntry(const frmZj& form, const std::string& number) {
   size_t found = 0;
   double last = 0;
   for (size_t row = 0; row < ids.Size(); ++row) {
-    if (ids.Number(row) <= last || numbers.Text(row) != number) continue;
+    if (ids.Number(row) <= last || !Holds(numbers, row, number)) continue;
     last = ids.Number(row);
     found = row + 1;
   }

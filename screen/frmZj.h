@@ -48,6 +48,7 @@ struct frmZj : ui::Form {
   // Form-level values.
   int16_t runMode = kCustomers;     ///< run mode that State set; chooses the numbering series
   int16_t mode = kCustomers;        ///< mode flag: kCustomers, otherwise kAccounts
+  std::string title;                ///< application title that the form was opened under
   std::string numberTemplate;       ///< voucher template, upper-cased by its first use
   std::string registerCondition;    ///< set by the register search, "" until then
   int currentAction = kActionView;  ///< index of the action button pressed last

@@ -39,7 +39,7 @@ bool DemoHost::LogIn() {
   call.rights_file = (std::filesystem::path(data_) / users::kRightsFile).string();
   Around().user->Run(call);
   if (call.user_name.empty()) return false;
-  Close();
+  if (!Close()) return false;
   Employ(call.user_name, call.comp_name);
   control_.setZgName(call.zg_name);
   control_.setMyPower(call.my_power);
@@ -48,7 +48,7 @@ bool DemoHost::LogIn() {
 }
 
 void DemoHost::Open(int16_t run_mode) {
-  if (control_.Form() != nullptr && run_mode != open_mode_) Close();
+  if (control_.Form() != nullptr && run_mode != open_mode_ && !Close()) return;
   open_mode_ = run_mode;
   control_.refresh(run_mode, 0);
 }
@@ -60,15 +60,17 @@ void DemoHost::OpenCustomer(int id, const QString& name) {
   Open(kOneCustomerRunMode);
 }
 
-void DemoHost::Close() {
+bool DemoHost::Close() {
   if (frmZj* form = control_.Form()) form->UserClose();
+  return control_.Form() == nullptr;
 }
 
-void DemoHost::SetLanguage(int16_t language) {
-  if (language == language_) return;
-  Close();
+bool DemoHost::SetLanguage(int16_t language) {
+  if (language == language_) return true;
+  if (!Close()) return false;
   language_ = language;
   control_.setLanguage(language);
+  return true;
 }
 
 }  // namespace qvzj::demo

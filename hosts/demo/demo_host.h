@@ -24,13 +24,16 @@ class DemoHost {
   /// Who works, and for which company.
   const std::string& User() const { return user_; }
   const std::string& Company() const { return company_; }
-  /// Opens the control in a run mode; an open one in another mode or language is closed first.
+  /// Opens the control in a run mode; an open one in another mode or language is closed first, and
+  /// stays alone where the user does not give up what he is keying there.
   void Open(int16_t run_mode);
   /// Opens the customers on one of them, as another screen of the suite names it.
   void OpenCustomer(int id, const QString& name);
-  void Close();
+  /// Closes an open control. False when the user goes on with what he is keying there.
+  bool Close();
   /// 0 simplified, 1 traditional Chinese; an open control is closed, as its texts are set once.
-  void SetLanguage(int16_t language);
+  /// False when it was not to be closed.
+  bool SetLanguage(int16_t language);
   int16_t Language() const { return language_; }
 
   qvJxc_Zj& Control() { return control_; }

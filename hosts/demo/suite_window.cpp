@@ -148,7 +148,8 @@ void SuiteWindow::AddTaste(QBoxLayout& column) {
   appearance_ = add(appearance_label_, {"", "", ""});
   appearance_->setObjectName("appearance");
   connect(language_, &QComboBox::activated, this, [this](int index) {
-    host_.SetLanguage(static_cast<int16_t>(index));
+    const bool turned = host_.SetLanguage(static_cast<int16_t>(index));
+    if (!turned) language_->setCurrentIndex(1 - index);
     Caption();
   });
   connect(appearance_, &QComboBox::activated, this, [this](int index) { ChooseAppearance(index); });
@@ -236,8 +237,8 @@ void SuiteWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void SuiteWindow::closeEvent(QCloseEvent* event) {
-  host_.Close();
-  event->accept();  // it was the last window, which ends the program
+  // The last window ends the program, unless the user goes on with what he is keying.
+  event->setAccepted(host_.Close());
 }
 
 }  // namespace qvzj::demo

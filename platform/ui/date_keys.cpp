@@ -51,7 +51,7 @@ std::optional<int> DateKeys::TypedNumber() const {
   const int number = ToNumber(typed_);
   if (part_ == DatePart::Year) {
     if (typed_.size() == kYearDigits) return number;
-    if (typed_.size() > kShortDigits) return std::nullopt;
+    if (typed_.size() != kShortDigits) return std::nullopt;
     return number + (number < 30 ? 2000 : 1900);
   }
   return number == 0 ? std::nullopt : std::optional(number);

@@ -44,7 +44,7 @@ class DateKeys {
   /// True when the day, and with it the date, has just been typed to its end.
   bool Complete() const { return complete_; }
   /// The date that what stands here means. A day beyond the end of its month is that end; a year of
-  /// one or two digits is the one between 1930 and 2029; a part that cannot be one (three digits of
+  /// two digits is the one between 1930 and 2029; a part that cannot be one (one or three digits of
   /// a year, month 0) counts as it was before it was typed.
   basic::Date Meant() const;
   /// True when Meant() takes every part as it was typed.

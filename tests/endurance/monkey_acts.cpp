@@ -140,9 +140,12 @@ std::string WildAct(Dice& dice, const frmZj& form) {
   return ActOn(dice, *control);
 }
 
+/// What is typed and not saved is given up, where the next act asks for it.
+const std::string kGiveUp = "answer ok";
+
 /// A new entry for the customer or account that happens to be current.
 Moves KeyAnEntry(Dice& dice) {
-  Moves moves = {"click cmdAction(1)", "date dtpAcntDate " + WildDate(dice)};
+  Moves moves = {kGiveUp, "click cmdAction(1)", "date dtpAcntDate " + WildDate(dice)};
   moves.push_back("type txtAcnt2(3) " +
                   JsonText(Number(dice, 0, 5000) + "." + Number(dice, 0, 99)));
   moves.push_back("type txtAcnt2(4) " + JsonText(Number(dice, 0, 5000)));
@@ -159,8 +162,10 @@ Moves KeyAnEntry(Dice& dice) {
 Moves ActOnAnEntry(Dice& dice, const frmZj& form) {
   Moves moves;
   moves.push_back("click OptSelect(" + Number(dice, 0, 2) + ")");
+  moves.push_back(kGiveUp);
   moves.push_back("cell Grid2 1 " +
                   Number(dice, 1, std::max(1, std::min(form.Grid2.RowCount(), 40))));
+  moves.push_back(kGiveUp);
   moves.push_back("click cmdAction(" + Number(dice, 2, 4) + ")");
   if (dice.OneIn(3)) moves.push_back("type txtAcnt2(6) " + JsonText(WildText(dice)));
   moves.push_back(Answers(dice));
@@ -172,7 +177,9 @@ Moves ActOnAnEntry(Dice& dice, const frmZj& form) {
 Moves EditTheRegister(Dice& dice, const frmZj& form) {
   Moves moves;
   moves.push_back("tab SSTab1 0");
+  moves.push_back(kGiveUp);
   moves.push_back("cell Grid1 1 " + Number(dice, 1, std::max(1, form.Grid1.RowCount())));
+  moves.push_back(kGiveUp);
   moves.push_back("click mnuKhManage(" + Number(dice, 1, 3) + ")");
   moves.push_back("type txtAcnt(0) " + JsonText("K" + Number(dice, 1, 999)));
   moves.push_back("type txtAcnt(1) " + JsonText("单位" + Number(dice, 1, 999)));

@@ -61,7 +61,11 @@ MonkeyChecks::MonkeyChecks(ScriptStage& stage, SqliteSession& real, SqliteSessio
 void MonkeyChecks::Before(const std::string& line) {
   fields_before_.clear();
   host_interrupts_ = StartsWith(line, "refresh ") && FocusedTextHasQuote();
-  if (line == "click cmdAcntSave" && stage_.control.Form()) fields_before_ = EditorFields();
+  const frmZj* form = stage_.control.Form();
+  // A date that is still being typed brings another number with it when the field is left.
+  if (line == "click cmdAcntSave" && form && !form->dtpAcntDate.Keyed().Pending()) {
+    fields_before_ = EditorFields();
+  }
 }
 
 std::string MonkeyChecks::After(const std::string& line, const std::vector<std::string>& printed) {

@@ -261,6 +261,29 @@ TEST(Unsaved, IsGivenUpWhenTheUserAgrees) {
   }
 }
 
+TEST(Unsaved, IsAskedForUnderTheTitleOfTheOpenForm) {
+  Desk desk;
+  desk.Open(Work::NewEntry);
+  desk.TypeInto(Work::NewEntry);
+  desk.world.headless.boxes.TakeShown();
+  desk.world.Answer("cancel");
+  desk.world.control.refresh(1, 0);
+  EXPECT_EQ(desk.world.headless.boxes.TakeShown().at(0).title, "客户往来帐管理系统");
+  EXPECT_EQ(Shared().Title, "客户往来帐管理系统");
+  desk.world.Answer("ok");
+  desk.world.control.refresh(1, 0);
+  EXPECT_EQ(Shared().Title, "资金帐户管理系统");
+  EXPECT_EQ(desk.form().mode, kAccounts);
+}
+
+TEST(Unsaved, KeepsATypedHandlerWhenTheHostFillsTheStaffListAnew) {
+  Desk desk;
+  desk.Open(Work::NewEntry);
+  desk.world.Type(desk.form().cboDoneMan, "新来的");
+  desk.form().getListJBR(0);
+  EXPECT_EQ(desk.form().cboDoneMan.Text(), "新来的");
+}
+
 TEST(Unsaved, IsAskedForByEscThatHasNothingElseToDo) {
   for (const Work work : kWorks) {
     SCOPED_TRACE(static_cast<int>(work));
