@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <set>
 
 namespace qvzj::architecture {
@@ -47,6 +48,17 @@ TEST(Arrows, EveryDirectoryWithSourcesHasARule) {
   for (const std::string& file : Sources()) {
     if (file.ends_with("/main.cpp")) continue;
     EXPECT_NE(RuleOf(file), nullptr) << file;
+  }
+}
+
+TEST(Arrows, EveryDirectoryWithARuleIsInTheDrawing) {
+  std::ifstream in(fs::path(QV_SOURCE_DIR) / "docs/ARCHITECTURE.md");
+  const std::string document{std::istreambuf_iterator<char>(in), {}};
+  const size_t begin = document.find("## The picture");
+  ASSERT_NE(begin, std::string::npos);
+  const std::string picture = document.substr(begin, document.find("\n## ", begin + 1) - begin);
+  for (const Rule& rule : Rules()) {
+    EXPECT_NE(picture.find(rule.directory), std::string::npos) << rule.directory;
   }
 }
 
