@@ -37,7 +37,7 @@ inline const std::vector<Rule>& Rules() {
       {"adapters/system", {"platform"}, {"sys/", "termios.h", "unistd.h"}},
       {"adapters/sqlite",
        {"adapters/dialect", "adapters/icu", "adapters/system", "platform"},
-       {"sqlite3.h", "sys/"}},
+       {"sqlite3.h", "sys/", "fcntl.h", "unistd.h"}},
       {"adapters/odbc", {"adapters/dialect", "adapters/icu", "platform"}, {"sql"}},
       {"suite/dialogues", {"platform"}, {}},
       {"suite/store", {"adapters", "platform"}, {}},

@@ -72,13 +72,13 @@ inline std::vector<std::string> PathsOf(const std::string& text,
 /// One line of a table of decisions: what | why | test.
 struct Decision {
   std::string what;
-  std::vector<std::string> tests;  ///< `Suite.Name` each, as the last column names them
+  std::vector<std::string> tests;  ///< as the last column names them: `Suite.Name` or `Suite.*`
 };
 
 /// The lines of all tables of decisions of a document, headings left out.
 inline std::vector<Decision> DecisionsOf(const std::string& text) {
   static const std::regex kRow(R"((?:^|\n)\|([^\n]*)\|([^\n|]*)\|(?=\n|$))");
-  static const std::regex kName(R"(`([A-Za-z0-9_]+\.[A-Za-z0-9_]+)`)");
+  static const std::regex kName(R"(`([A-Za-z0-9_]+\.(?:[A-Za-z0-9_]+|\*))`)");
   std::vector<Decision> decisions;
   for (auto row = std::sregex_iterator(text.begin(), text.end(), kRow);
        row != std::sregex_iterator(); ++row) {
