@@ -1,5 +1,6 @@
 #include "ledger/print.h"
 
+#include "screen/indexes.h"
 #include "tests/ledger/ledger_world.h"
 
 namespace qvzj::test {
