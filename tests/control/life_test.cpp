@@ -25,7 +25,7 @@ class ControlLife : public testing::Test {
         "(2,'K2','华星公司',0);"
         "insert into tAccounts(fID,CompCode,compname) values(1,'A1','现金');"
         "insert into tAccountDetail(fID,fDate,fAcntNo,fCompID,fType1,fType2,fMoneyA,fMoneyCode)"
-        " values(1,'2024-03-01','PZ1',1,0,0,100,'RMB');");
+        " values(1,'2024-03-01','PZ1',2,0,0,100,'RMB');");
   }
 
   frmZj& Open(int16_t show_mode = 0) {

@@ -65,7 +65,7 @@ struct FaultyWorld : World {
         "insert into Moneys (MoneyCode,MoneyRate,MoneyType) values ('RMB',1,9);"
         "insert into Employees (employCode,employee) values ('1','Ann');"
         "insert into tJXC_InvSet (fSetNo,fSetNoUse_,fRowID,fSetAutoNo)"
-        " values (51,0,1,'yyyymmKHXXXX'),(52,0,1,'yyyymmZHXXXX');"
+        " values (51,0,1,'yyyymmKHXXXX'),(52,0,2,'yyyymmZHXXXX');"
         "insert into tSysFunc (SerialNo,model_Name,Model_Name_0,Model_Name_1,SecondPass,password,"
         "NoUse_) values (1,'mnuZjComp','a','b',0,'',0);"
         "insert into tAccountDetail (fDate,fCompID,fType1,fType2,fAcntNo,fInit,fMoneyA,fMoneyB,"
