@@ -153,10 +153,10 @@ void ControlWidget::paintEvent(QPaintEvent*) {
   const view::Colors& colors = qt::ColorsFor(palette());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(colors.border);
-  painter.setBrush(colors.card);
+  painter.setPen(QColor(colors.border));
+  painter.setBrush(QColor(colors.card));
   painter.drawRoundedRect(rect().adjusted(1, 1, -1, -1), 6, 6);
-  painter.setPen(colors.muted);
+  painter.setPen(QColor(colors.muted));
   painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("qvJxc_Zj"));
 }
 
