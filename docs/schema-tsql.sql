@@ -106,3 +106,6 @@ create table tJXC_CkHt01 (fID integer identity(1,1) primary key, fKhID integer);
 
 if not exists (select 1 from sys.indexes where name='iCkHtCustomer')
 create index iCkHtCustomer on tJXC_CkHt01 (fKhID);
+
+if not exists (select 1 from sys.indexes where name='iLedgerCounter')
+create unique index iLedgerCounter on tAccountDetail (fID2) where fType1=1 and fID2>0;
