@@ -134,14 +134,20 @@ void Report(const frmZj& form, const Commit& commit) {
           form.lblAcntTitle.Caption() + " " + LoadText(text_id::kDone) + "！");
 }
 
+bool HasCounterEntry(const frmZj& form) {
+  return CountRows("tAccountDetail", "fType1=1 and fID2=" + ShownEntryId(form)) > 0;
+}
+
 // Runs the statements. False, after saying so, when another program has brought the counter-entry
 // since the ledger was looked at: the table takes no second one, for money would be booked twice.
+// Other rules of the table, which an administrator may have added, are reported as what they are.
 bool Run(const frmZj& form, const Commit& commit) {
   try {
     for (const std::string& statement : commit.statements) Data().Execute(statement);
     return true;
   } catch (const data::ConstraintError& error) {
     if (!commit.counter_entry || error.Broken() != data::Rule::Unique) throw;
+    if (!HasCounterEntry(form)) throw;
     Message("[" + form.chkAcntName.Caption() +
                 "凭证] 已经存在，可能他人刚刚审核了本帐目！\r\n\r\n没有重复产生，请核对！",
             box::kExclamation);
