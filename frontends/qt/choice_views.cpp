@@ -11,6 +11,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -270,8 +271,9 @@ DateView::DateView(FormWindow& window, ui::DatePicker& picker, QWidget* parent)
   native_->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
   native_->setLocale(QLocale(QLocale::Chinese));
   Adopt(native_, native_->findChild<QLineEdit*>());
-  native_->onFocus = [this] {
-    if (Live()) ShowKeyed();
+  // The native field goes later than its view, and loses the focus then.
+  native_->onFocus = [self = QPointer<DateView>(this)] {
+    if (self && self->Live()) self->ShowKeyed();
   };
   connect(native_, &QDateEdit::userDateChanged, this, [this](QDate date) {
     if (!Live() || native_->Settling() || !date.isValid()) return;
