@@ -135,7 +135,7 @@ class DataFolder {
  public:
   DataFolder() {
     QProcess qvdb;
-    qvdb.start(QStringLiteral(QV_QVDB), {"init", folder_.path()});
+    qvdb.start(QStringLiteral(QV_QVDB), {"init", "--data", folder_.path()});
     EXPECT_TRUE(qvdb.waitForFinished(60000) && qvdb.exitCode() == 0);
   }
   QString Path() const { return folder_.path(); }
