@@ -15,7 +15,7 @@ int main(int argc, char** argv) {
   }
   QWidget screen;
   QWidget* control = factory->CreateControl(&screen);
-  control->setProperty("UserPath", argv[1]);
+  control->setProperty("UserPath", QString::fromLocal8Bit(argv[1]));
   control->setProperty("UserName", "张三");
   control->setProperty("ZgName", "张三");
   control->setProperty("myModel", "11111111111");
